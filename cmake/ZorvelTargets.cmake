@@ -1,0 +1,66 @@
+# The interface targets that carry compiler settings, and the functions that add a layer.
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+# Warnings and sanitizers; every target of ours links it.
+add_library(zorvel_options INTERFACE)
+target_compile_options(zorvel_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                                                -Wold-style-cast -Wcast-qual -Woverloaded-virtual)
+if(ZORVEL_WARNINGS_AS_ERRORS)
+  target_compile_options(zorvel_options INTERFACE -Werror)
+endif()
+if(ZORVEL_SANITIZE)
+  target_compile_options(zorvel_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                  -fno-omit-frame-pointer)
+  target_link_options(zorvel_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# What plug-in code may include: its own folders, headers named as in the 3ds Max SDK, headers named as in Windows. The
+# folders are reached through links, so that nothing else of the tree can be included by accident.
+set(ZORVEL_PLUGIN_INCLUDES ${PROJECT_BINARY_DIR}/plugin-includes)
+file(MAKE_DIRECTORY ${ZORVEL_PLUGIN_INCLUDES})
+foreach(folder core model repository scene ui)
+  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${ZORVEL_PLUGIN_INCLUDES}/${folder} SYMBOLIC)
+endforeach()
+add_library(zorvel_plugin_interface INTERFACE)
+target_include_directories(zorvel_plugin_interface INTERFACE ${ZORVEL_PLUGIN_INCLUDES})
+target_include_directories(zorvel_plugin_interface SYSTEM INTERFACE ${PROJECT_SOURCE_DIR}/host/sdk
+                                                                    ${PROJECT_SOURCE_DIR}/host/winapi)
+target_compile_definitions(zorvel_plugin_interface INTERFACE UNICODE _UNICODE)
+
+# zorvel_plugin_folder(NAME SOURCE...): the sources of one plug-in folder, compiled as C++14 for both log sinks.
+function(zorvel_plugin_folder name)
+  add_library(zorvel_${name} OBJECT ${ARGN})
+  target_link_libraries(zorvel_${name} PRIVATE zorvel_options PUBLIC zorvel_plugin_interface)
+  set_target_properties(zorvel_${name} PROPERTIES CXX_STANDARD 14 UNITY_BUILD ${ZORVEL_UNITY})
+endfunction()
+
+# zorvel_assemble_plugin(): the plug-in's code with the log sink that ships and with the one that records. The sinks are two
+# sources with the same function, so the choice is made when linking.
+function(zorvel_assemble_plugin)
+  set(objects)
+  foreach(folder core model repository scene)
+    list(APPEND objects $<TARGET_OBJECTS:zorvel_${folder}>)
+  endforeach()
+  foreach(variant "zorvel_plugin|Debug.cpp" "zorvel_plugin_diagnostic|DebugRecording.cpp")
+    string(REPLACE "|" ";" parts ${variant})
+    list(GET parts 0 target)
+    list(GET parts 1 sink)
+    add_library(${target} STATIC ${objects} ${PROJECT_SOURCE_DIR}/core/${sink})
+    target_link_libraries(${target} PRIVATE zorvel_options PUBLIC zorvel_plugin_interface zorvel_host LibXml2::LibXml2)
+    set_target_properties(${target} PROPERTIES CXX_STANDARD 14)
+  endforeach()
+endfunction()
+
+# zorvel_test(NAME SOURCE...): one GoogleTest program, run as one test. LIBRARIES is what it links besides.
+function(zorvel_test name)
+  cmake_parse_arguments(TEST "" "" "LIBRARIES" ${ARGN})
+  add_executable(${name} ${TEST_UNPARSED_ARGUMENTS})
+  target_link_libraries(${name} PRIVATE zorvel_options ${TEST_LIBRARIES} GTest::gmock GTest::gtest_main)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  set_target_properties(${name} PROPERTIES CXX_STANDARD 17 UNITY_BUILD ${ZORVEL_UNITY})
+  add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:${PROJECT_BINARY_DIR}/test-results/${name}.xml)
+endfunction()
