@@ -1,0 +1,9 @@
+#pragma once
+
+#include <point3.h>
+
+class Ray {
+ public:
+  Point3 p;
+  Point3 dir;
+};
