@@ -1,0 +1,127 @@
+#include "host/application/HostInterface.h"
+
+#include <algorithm>
+
+#include "host/application/Application.h"
+#include "host/application/ClassRegistry.h"
+#include "host/application/Listener.h"
+#include "host/application/Prompts.h"
+#include "host/files/Paths.h"
+#include "host/materials/MaterialLibraryFile.h"
+#include "host/scene/Scene.h"
+
+namespace host {
+
+namespace {
+
+Application& application() { return Application::instance(); }
+
+Scene& scene() { return application().scene(); }
+
+std::wstring textOf(const MCHAR* text) { return text != nullptr ? text : L""; }
+
+}  // namespace
+
+HostInterface::HostInterface() : sceneMaterials_(new MaterialLibrary), library_(new MaterialLibrary) {}
+
+void HostInterface::SetTime(TimeValue t, BOOL redraw) {
+  time_ = t;
+  if (redraw != FALSE) RedrawViews(t);
+}
+
+void HostInterface::PushPrompt(const MCHAR* text) { application().prompts().push(textOf(text)); }
+
+void HostInterface::PopPrompt() { application().prompts().pop(); }
+
+void HostInterface::ReplacePrompt(const MCHAR* text) { application().prompts().replace(textOf(text)); }
+
+void HostInterface::RedrawViews(TimeValue /*t*/, DWORD /*flags*/, ReferenceTarget* /*change*/) {
+  if (application().redraw) application().redraw();
+}
+
+INode* HostInterface::GetRootNode() { return &scene().root(); }
+
+void* HostInterface::CreateInstance(SClass_ID superID, Class_ID classID) {
+  return application().classes().create(superID, classID);
+}
+
+INode* HostInterface::CreateObjectNode(Object* object) { return scene().create(object); }
+
+unsigned int HostInterface::DeleteNode(INode* node, BOOL redraw, BOOL /*overrideSlaves*/) {
+  if (node == nullptr) return 0;
+  const unsigned int count = scene().remove(static_cast<Node&>(*node));
+  if (redraw != FALSE) RedrawViews(time_);
+  return count;
+}
+
+INode* HostInterface::GetINodeByName(const MCHAR* name) { return scene().find(textOf(name)); }
+
+void HostInterface::SelectNode(INode* node, int clearSel) {
+  if (node != nullptr) scene().select(static_cast<Node&>(*node), clearSel != 0);
+}
+
+void HostInterface::ClearNodeSelection(BOOL redraw) {
+  scene().clearSelection();
+  if (redraw != FALSE) RedrawViews(time_);
+}
+
+int HostInterface::GetSelNodeCount() { return static_cast<int>(scene().selection().size()); }
+
+INode* HostInterface::GetSelNode(int i) {
+  if (i < 0 || i >= GetSelNodeCount()) return nullptr;
+  return scene().selection()[static_cast<std::size_t>(i)].get();
+}
+
+INode* HostInterface::GroupNodes(INodeTab* nodes, MSTR* name, BOOL selGroup) {
+  std::vector<Node*> members;
+  if (nodes == nullptr) {
+    for (const Ref<Node>& node : scene().selection()) members.push_back(node.get());
+  } else {
+    for (int i = 0; i < nodes->Count(); ++i) {
+      if ((*nodes)[i] != nullptr) members.push_back(static_cast<Node*>((*nodes)[i]));
+    }
+  }
+  Node* head = scene().group(members, name != nullptr ? *name : MSTR(L"Group"));
+  if (head != nullptr && selGroup != FALSE) scene().select(*head, true);
+  return head;
+}
+
+MtlBaseLib* HostInterface::GetSceneMtls() {
+  if (sceneMaterialsRevision_ == scene().revision()) return sceneMaterials_.get();
+  sceneMaterialsRevision_ = scene().revision();
+  std::vector<const Mtl*> known;
+  sceneMaterials_->DeleteAll();
+  for (Node* node : scene().nodes()) {
+    Mtl* material = node->GetMtl();
+    if (material == nullptr || std::find(known.begin(), known.end(), material) != known.end()) continue;
+    known.push_back(material);
+    sceneMaterials_->Add(material);
+  }
+  return sceneMaterials_.get();
+}
+
+int HostInterface::LoadMaterialLib(const MCHAR* name, MtlBaseLib* library) {
+  const std::wstring path = textOf(name);
+  const MaterialLibraryContent content = readMaterialLibrary(path);
+  if (!content.error.empty()) {
+    if (!content.missing) application().listener().report("Material library " + toUtf8(path) + " " + content.error + ".");
+    return 0;
+  }
+  MtlBaseLib& target = library != nullptr ? *library : *library_;
+  target.DeleteAll();
+  for (const Ref<Mtl>& material : content.materials) target.Add(material.get());
+  return 1;
+}
+
+ILayerManager* HostInterface::GetLayerManager() { return &scene().layers(); }
+
+void HostInterface::clearMaterials() {
+  sceneMaterials_->DeleteAll();
+  library_->DeleteAll();
+}
+
+}  // namespace host
+
+Interface* GetCOREInterface() { return &host::Application::instance().interface(); }
+
+Interface13* GetCOREInterface13() { return &host::Application::instance().interface(); }

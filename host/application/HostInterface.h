@@ -1,0 +1,54 @@
+#pragma once
+
+#include <maxapi.h>
+
+#include <cstdint>
+
+#include "host/materials/MaterialLibrary.h"
+#include "host/scene/Ref.h"
+
+namespace host {
+
+/// What a plug-in gets from GetCOREInterface: hands each request to the part of the host that it belongs to.
+class HostInterface final : public Interface13 {
+ public:
+  HostInterface();
+
+  TimeValue GetTime() override { return time_; }
+  void SetTime(TimeValue t, BOOL redraw) override;
+  void PushPrompt(const MCHAR* text) override;
+  void PopPrompt() override;
+  void ReplacePrompt(const MCHAR* text) override;
+  void RedrawViews(TimeValue t, DWORD flags = REDRAW_NORMAL, ReferenceTarget* change = nullptr) override;
+  void SetAnimateButtonState(BOOL on) override { animate_ = on; }
+  BOOL IsAnimateEnabled() override { return animate_; }
+
+  INode* GetRootNode() override;
+  void* CreateInstance(SClass_ID superID, Class_ID classID) override;
+  INode* CreateObjectNode(Object* object) override;
+  unsigned int DeleteNode(INode* node, BOOL redraw, BOOL overrideSlaves) override;
+  INode* GetINodeByName(const MCHAR* name) override;
+  void SelectNode(INode* node, int clearSel) override;
+  void ClearNodeSelection(BOOL redraw) override;
+  int GetSelNodeCount() override;
+  INode* GetSelNode(int i) override;
+  INode* GroupNodes(INodeTab* nodes, MSTR* name, BOOL selGroup) override;
+
+  MtlBaseLib* GetSceneMtls() override;
+  MtlBaseLib& GetMaterialLibrary() override { return *library_; }
+  int LoadMaterialLib(const MCHAR* name, MtlBaseLib* library) override;
+
+  ILayerManager* GetLayerManager() override;
+
+  /// Empties the list of scene materials and the current library.
+  void clearMaterials();
+
+ private:
+  Ref<MaterialLibrary> sceneMaterials_;
+  Ref<MaterialLibrary> library_;
+  std::uint64_t sceneMaterialsRevision_ = 0;
+  TimeValue time_ = 0;
+  BOOL animate_ = FALSE;
+};
+
+}  // namespace host

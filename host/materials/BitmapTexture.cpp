@@ -1,0 +1,24 @@
+#include "host/materials/BitmapTexture.h"
+
+#include "host/application/Application.h"
+#include "host/scene/Ref.h"
+#include "host/scene/Scene.h"
+#include "host/undo/UndoStack.h"
+
+namespace host {
+
+void BitmapTexture::SetMap(const Asset& map) {
+  // One that nobody refers to yet is its maker's: a step that referred to it would end it.
+  if (HasDependents() == FALSE) {
+    map_ = map;
+    return;
+  }
+  const Ref<BitmapTexture> self(this);
+  const Asset before = map_;
+  applyChange([self, before] { self->map_ = before; }, [self, map] { self->map_ = map; });
+  ReloadBitmapAndUpdate();
+}
+
+void BitmapTexture::ReloadBitmapAndUpdate() { Application::instance().scene().touch(); }
+
+}  // namespace host

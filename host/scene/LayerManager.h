@@ -1,0 +1,29 @@
+#pragma once
+
+#include <ilayermanager.h>
+
+#include <vector>
+
+#include "host/scene/Layer.h"
+#include "host/scene/Ref.h"
+
+namespace host {
+
+class LayerManager final : public ILayerManager {
+ public:
+  LayerManager();
+
+  ILayer* GetLayer(const MSTR& name) const override;
+  ILayer* CreateLayer(MSTR& name) override;
+  ILayer* GetRootLayer() const override { return layers_.front().get(); }
+
+  const std::vector<Ref<Layer>>& layers() const { return layers_; }
+  /// Leaves the default layer alone.
+  void clear();
+
+ private:
+  /// The default layer "0" first.
+  std::vector<Ref<Layer>> layers_;
+};
+
+}  // namespace host

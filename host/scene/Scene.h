@@ -1,0 +1,68 @@
+#pragma once
+
+#include <inode.h>
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/scene/LayerManager.h"
+#include "host/scene/Node.h"
+#include "host/scene/Ref.h"
+
+namespace host {
+
+/// The tree of nodes, the selection, groups and layers. Nodes that enter or leave, by whatever way, are announced.
+class Scene {
+ public:
+  Scene();
+
+  Node& root() const { return *root_; }
+  LayerManager& layers() { return *layers_; }
+  /// Every node but the root, parents before their children, siblings in order.
+  std::vector<Node*> nodes() const;
+  /// The first of that name, null when there is none.
+  Node* find(const std::wstring& name) const;
+  /// Rises with every change.
+  std::uint64_t revision() const { return revision_; }
+  void touch() { ++revision_; }
+
+  /// A new node under the root. Null for null.
+  Node* create(Object* object);
+  void attach(Node& child, Node& parent, bool keepTM);
+  /// Its children move up to its parent. A group that this leaves without members goes too.
+  unsigned int remove(Node& node);
+
+  void select(Node& node, bool clearFirst);
+  void clearSelection();
+  bool isSelected(const Node& node) const;
+  const std::vector<Ref<Node>>& selection() const { return selection_; }
+
+  /// The new head; null when the list is empty.
+  Node* group(const std::vector<Node*>& members, const MSTR& name);
+
+  /// Lets go of every node without announcing each; for a scene that is replaced as a whole.
+  void clear();
+
+ private:
+  struct Place;
+
+  Place placeOf(const Node& node) const;
+  void moveTo(Node& node, const Place& place);
+  void enter(Node& node, const Place& place);
+  void leave(Node& node);
+  void link(Node& child, Node& parent, std::size_t index);
+  static void unlink(Node& child);
+  void changeSelection(std::vector<Ref<Node>> selection);
+  void removeEmptyGroup(Node* head);
+  MSTR defaultName(Object& object);
+
+  Ref<Node> root_;
+  Ref<LayerManager> layers_;
+  std::vector<Ref<Node>> selection_;
+  std::map<std::wstring, int> usedNames_;
+  std::uint64_t revision_ = 0;
+};
+
+}  // namespace host
