@@ -12,7 +12,7 @@ class Tab {
   int Count() const { return static_cast<int>(items_.size()); }
   void SetCount(int count, BOOL /*resize*/ = TRUE) { items_.resize(static_cast<std::size_t>(count)); }
   int Append(int count, T* elements, int /*extra*/ = 0) {
-    items_.insert(items_.end(), elements, elements + count);
+    for (int i = 0; i < count; ++i) items_.push_back(elements[i]);
     return Count() - count;
   }
   int Delete(int start, int count) {

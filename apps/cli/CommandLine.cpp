@@ -1,0 +1,105 @@
+#include "apps/cli/CommandLine.h"
+
+#include <units.h>
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <map>
+
+#include "apps/cli/CreateCommand.h"
+#include "apps/cli/ExitStatus.h"
+#include "apps/cli/ListCommand.h"
+#include "apps/cli/SampleCommand.h"
+
+namespace cli {
+
+namespace {
+
+const char* const EXIT_TEXT =
+    "Exit status: 0 clean, 1 findings or nothing built, 2 wrong usage, 3 input unreadable, 4 internal error.";
+
+const std::map<std::string, int> UNITS = {{"inches", UNITS_INCHES},           {"feet", UNITS_FEET},
+                                          {"miles", UNITS_MILES},             {"millimeters", UNITS_MILLIMETERS},
+                                          {"centimeters", UNITS_CENTIMETERS}, {"meters", UNITS_METERS},
+                                          {"kilometers", UNITS_KILOMETERS}};
+
+/// A command and what it does once its arguments are read.
+struct Command {
+  CLI::App* app;
+  std::function<int()> run;
+};
+
+Command addList(CLI::App& app) {
+  struct Options {
+    std::filesystem::path repository;
+    bool json = false;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* command = app.add_subcommand("list", "Print what a repository holds and what of it is usable");
+  command->add_option("DIR", options->repository, "Repository folder, the one with zorvel.xml")->required();
+  command->add_flag("--json", options->json, "Print JSON");
+  return {command, [options] { return runList(options->repository, options->json); }};
+}
+
+Command addCreate(CLI::App& app) {
+  const auto options = std::make_shared<CreateOptions>();
+  options->unit = UNITS_CENTIMETERS;
+  CLI::App* command = app.add_subcommand(
+      "create", "Build a character of a repository in a scene; what is not chosen is the first that is usable");
+  command->add_option("DIR", options->repository, "Repository folder, the one with zorvel.xml")->required();
+  command->add_option("--character", options->character, "Id of the character");
+  command->add_option("--cloth", options->cloth, "Id of the clothing");
+  command->add_option("--pose", options->pose, "Id of the pose");
+  command->add_option("--skin", options->skin, "Id of the skin");
+  command->add_option("--style", options->style, "Id of the clothing's material");
+  command->add_option("--asset", options->assets, "ID or ID:MATERIAL of an asset; may be repeated")
+      ->type_size(1)
+      ->allow_extra_args(false);
+  command->add_option("--unit", options->unit, "System unit of the scene (centimeters unless given)")
+      ->transform(CLI::CheckedTransformer(UNITS, CLI::ignore_case))
+      ->option_text("UNIT");
+  command->add_option("--picture", options->picture, "Write a picture of the scene (PNG)");
+  command->add_option("--width", options->width, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
+  command->add_option("--height", options->height, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
+  command->add_option("--gltf", options->gltf, "Write the scene as glTF binary (GLB)");
+  command->add_option("--json", options->json, "Write the scene as JSON");
+  return {command, [options] { return runCreate(*options); }};
+}
+
+Command addSample(CLI::App& app) {
+  const auto options = std::make_shared<SampleCommandOptions>();
+  CLI::App* command = app.add_subcommand("sample", "Write a sample repository that uses every feature");
+  command->add_option("DIR", options->folder, "Folder to write; must be empty or not exist")->required();
+  command->add_option("--seed", options->seed, "Varies colours and patterns; the same seed writes the same files");
+  command->add_flag("--force", options->force, "Write into a folder that is not empty");
+  return {command, [options] { return runSample(*options); }};
+}
+
+int report(const CLI::App& app, const CLI::ParseError& error) {
+  return app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE;
+}
+
+}  // namespace
+
+int run(int argc, const char* const* argv) try {
+  CLI::App app("zorvel: lists, builds and previews character repositories");
+  app.footer(EXIT_TEXT);
+  app.set_version_flag("--version", "zorvel 1.0.0");
+  app.require_subcommand(1);
+  const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app)};
+  for (const Command& command : commands) command.app->footer(EXIT_TEXT);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return report(app, error);
+  }
+  for (const Command& command : commands) {
+    if (command.app->parsed()) return command.run();
+  }
+  return EXIT_USAGE;
+} catch (const std::exception& error) {
+  std::cerr << "zorvel: internal error: " << error.what() << '\n';
+  return EXIT_INTERNAL;
+}
+
+}  // namespace cli

@@ -1,0 +1,130 @@
+#include "apps/cli/CreateCommand.h"
+
+#include <units.h>
+
+#include <iostream>
+#include <set>
+
+#include "apps/cli/BuildReport.h"
+#include "apps/cli/Choice.h"
+#include "apps/cli/ExitStatus.h"
+#include "apps/cli/LoadedRepository.h"
+#include "apps/cli/Progress.h"
+#include "host/application/Application.h"
+#include "host/application/Listener.h"
+#include "host/export/GltfWriter.h"
+#include "host/export/SceneJson.h"
+#include "host/files/Paths.h"
+#include "host/scene/Scene.h"
+#include "host/view/Renderer.h"
+#include "host/view/SceneItems.h"
+#include "scene/CharacterBuilder.h"
+
+namespace cli {
+
+namespace {
+
+void complain(const std::string& text) { std::cerr << "zorvel create: " << text << '\n'; }
+
+/// Everything that keeps the result from being what was asked for, each once, in the order met.
+class Findings {
+ public:
+  void add(const std::string& text) {
+    if (known_.insert(text).second) lines_.push_back(text);
+  }
+  const std::vector<std::string>& lines() const { return lines_; }
+
+ private:
+  std::vector<std::string> lines_;
+  std::set<std::string> known_;
+};
+
+std::string describe(const BuildReport::Piece& piece) {
+  std::string text = "  " + piece.meshFile + (piece.sharesMesh ? "  (mesh shared)" : "");
+  if (piece.materialFound) text += "  material " + piece.material + (piece.sharesMaterial ? " (shared)" : "");
+  return text;
+}
+
+void reportPieces(const BuildReport& report, Findings& findings) {
+  for (const BuildReport::Piece& piece : report.pieces) {
+    std::cout << describe(piece) << '\n';
+    if (piece.withoutPlace) findings.add(piece.meshFile + ": no row of the asset matrix, left at the origin.");
+    if (!piece.material.empty() && !piece.materialFound) {
+      findings.add(piece.meshFile + ": material \"" + piece.material + "\" is in no library.");
+    }
+  }
+}
+
+bool written(const std::filesystem::path& file, const std::string& error) {
+  if (error.empty()) {
+    std::cout << "Wrote " << file.string() << '\n';
+  } else {
+    complain(file.string() + ": " + error);
+  }
+  return error.empty();
+}
+
+std::string writePicture(const CreateOptions& options, std::vector<host::ViewItem> items) {
+  host::RayScene rays;
+  rays.setItems(std::move(items));
+  Progress progress("Drawing");
+  host::RenderOptions render;
+  render.width = options.width;
+  render.height = options.height;
+  render.progress = [&progress](float done) { progress.report(done); };
+  const auto aspect = static_cast<float>(options.width) / static_cast<float>(options.height);
+  const host::Camera camera = host::Camera::framing(rays.bounds(), aspect);
+  return host::writePicture(host::render(rays, camera, render), options.picture);
+}
+
+/// False when one of them could not be written.
+bool writeFiles(const CreateOptions& options, std::vector<host::ViewItem> items) {
+  host::Scene& scene = host::Application::instance().scene();
+  bool good = true;
+  if (!options.gltf.empty()) good = written(options.gltf, host::writeSceneGltf(scene, options.gltf)) && good;
+  if (!options.json.empty()) good = written(options.json, host::writeSceneJson(scene, options.json)) && good;
+  if (!options.picture.empty()) good = written(options.picture, writePicture(options, std::move(items))) && good;
+  return good;
+}
+
+int build(const CreateOptions& options, Findings& findings) {
+  host::Application& application = host::Application::instance();
+  application.reset();
+  application.listener().clear();
+  application.units().set(options.unit, 1.0F);
+  ZORVEL::LogStore::Clear();
+  INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter();
+  if (parent == nullptr) {
+    complain("nothing was built.");
+    return EXIT_FINDINGS;
+  }
+  std::cout << "Built " << host::toUtf8(parent->GetName()) << ", " << application.scene().nodes().size() << " nodes\n";
+  reportPieces(reportOf(ZORVEL::LogStore::Entries()), findings);
+  // Reads every mesh and texture, so that those which cannot be read are named even when no file is asked for.
+  std::vector<host::ViewItem> items = host::viewItems(application.scene());
+  const bool good = writeFiles(options, std::move(items));
+  for (const std::string& line : application.listener().lines()) findings.add(line);
+  return good ? EXIT_CLEAN : EXIT_FINDINGS;
+}
+
+}  // namespace
+
+int runCreate(const CreateOptions& options) {
+  const LoadedRepository repository(options.repository);
+  if (!repository.error().empty()) {
+    complain(repository.error());
+    return EXIT_UNREADABLE;
+  }
+  const ChoiceResult choice = choose(options);
+  for (const std::string& error : choice.errors) complain(error);
+  if (!choice.errors.empty()) return EXIT_FINDINGS;
+  Findings findings;
+  for (const std::string& note : choice.notes) findings.add(note);
+  const int status = build(options, findings);
+  for (const std::string& finding : findings.lines()) std::cerr << "skipped: " << finding << '\n';
+  // The scene's objects name files of this repository; nothing of them may outlive it.
+  host::Application::instance().reset();
+  return status == EXIT_CLEAN && !findings.lines().empty() ? EXIT_FINDINGS : status;
+}
+
+}  // namespace cli

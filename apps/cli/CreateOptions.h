@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// What `zorvel create` is asked for; ids as in the description, those left out are chosen.
+struct CreateOptions {
+  std::filesystem::path repository;
+  std::optional<std::string> character;
+  std::optional<std::string> cloth;
+  std::optional<std::string> pose;
+  std::optional<std::string> skin;
+  std::optional<std::string> style;
+  /// ID or ID:MATERIAL.
+  std::vector<std::string> assets;
+  /// One of the UNITS_ constants.
+  int unit;
+  /// Files to write; empty for none.
+  std::filesystem::path picture;
+  std::filesystem::path gltf;
+  std::filesystem::path json;
+  /// Of the picture, in pixels.
+  int width = 960;
+  int height = 600;
+};
+
+}  // namespace cli

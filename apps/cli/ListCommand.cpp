@@ -1,0 +1,174 @@
+#include "apps/cli/ListCommand.h"
+
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "apps/cli/ExitStatus.h"
+#include "apps/cli/LoadedRepository.h"
+#include "apps/cli/ModelText.h"
+#include "host/files/Paths.h"
+#include "model/Data2.h"
+
+namespace cli {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using ZORVEL::CharacterData;
+using ZORVEL::DataContainer;
+
+/// Whether an element has a folder that validation looks for; skins, categories and materials have none.
+enum class Folder { Tested, None };
+
+Json base(const DataContainer& record, Folder folder) {
+  Json json;
+  json["id"] = field(&record, L"id");
+  json["name"] = field(&record, L"name");
+  if (folder == Folder::Tested) json["usable"] = isUsable(record);
+  return json;
+}
+
+Json plainList(const std::vector<DataContainer*>& records, Folder folder) {
+  Json list = Json::array();
+  for (const DataContainer* record : records) list.push_back(base(*record, folder));
+  return list;
+}
+
+Json ids(const std::vector<DataContainer*>& records, const wchar_t* name) {
+  Json list = Json::array();
+  for (const DataContainer* record : records) list.push_back(field(record, name));
+  return list;
+}
+
+Json clothing(const CharacterData& character) {
+  Json list = Json::array();
+  for (const DataContainer* cloth : elementsOf(character, ZORVEL::CLOTH)) {
+    Json json = base(*cloth, Folder::Tested);
+    json["styles"] = plainList(clothChildren(*cloth, ZORVEL::MATERIAL), Folder::None);
+    json["excludes"] = ids(clothChildren(*cloth, ZORVEL::EXCLUDE), L"id");
+    json["selects"] = ids(clothChildren(*cloth, ZORVEL::SELECT), L"asset_id");
+    list.push_back(json);
+  }
+  return list;
+}
+
+Json poses(const CharacterData& character) {
+  Json list = Json::array();
+  for (const DataContainer* pose : elementsOf(character, ZORVEL::POSES)) {
+    Json json = base(*pose, Folder::Tested);
+    json["mandatory"] = ids(childrenOf(*pose), L"id");
+    list.push_back(json);
+  }
+  return list;
+}
+
+Json categories(const CharacterData& character) {
+  Json list = Json::array();
+  for (const DataContainer* category : elementsOf(character, ZORVEL::CATEGORIES)) {
+    Json json = base(*category, Folder::None);
+    json["multiple"] = CharacterData::IsMultiple(category);
+    json["required"] = CharacterData::IsRequired(category);
+    list.push_back(json);
+  }
+  return list;
+}
+
+Json asset(const DataContainer& record) {
+  Json json = base(record, Folder::Tested);
+  for (const wchar_t* name : {L"type", L"category", L"globalID"}) {
+    if (record.CheckDatafield(name)) json[host::toUtf8(name)] = field(&record, name);
+  }
+  json["materials"] = plainList(childrenOf(record), Folder::None);
+  return json;
+}
+
+Json assets(const std::vector<DataContainer*>& records) {
+  Json list = Json::array();
+  for (const DataContainer* record : records) list.push_back(asset(*record));
+  return list;
+}
+
+Json describe(const CharacterData& character) {
+  Json json = base(character, Folder::Tested);
+  json["skins"] = plainList(elementsOf(character, ZORVEL::SKINS), Folder::None);
+  json["clothing"] = clothing(character);
+  json["poses"] = poses(character);
+  json["categories"] = categories(character);
+  json["assets"] = assets(elementsOf(character, ZORVEL::ASSETS));
+  return json;
+}
+
+Json describeAll(const std::filesystem::path& repository) {
+  Json json;
+  json["repository"] = std::filesystem::absolute(repository).string();
+  json["characters"] = Json::array();
+  for (const CharacterData* character : characters()) json["characters"].push_back(describe(*character));
+  json["globalAssets"] = assets(globalAssets());
+  return json;
+}
+
+std::string joined(const Json& entries, const char* key) {
+  std::string text;
+  for (const Json& entry : entries) {
+    const std::string one = entry.is_object() ? entry.at(key).get<std::string>() : entry.get<std::string>();
+    text += (text.empty() ? "" : ", ") + one;
+  }
+  return text;
+}
+
+std::string details(const Json& element) {
+  std::string text;
+  const auto add = [&text](const std::string& part) { text += "  " + part; };
+  if (element.value("type", "") != "") add(element["type"].get<std::string>());
+  if (element.contains("category")) add("in " + element["category"].get<std::string>());
+  if (element.contains("globalID")) add("stands for " + element["globalID"].get<std::string>());
+  if (element.value("multiple", false)) add("several");
+  if (element.value("required", false)) add("required");
+  for (const char* key : {"styles", "materials", "excludes", "selects", "mandatory"}) {
+    if (element.contains(key) && !element[key].empty()) add(std::string(key) + ": " + joined(element[key], "id"));
+  }
+  return text;
+}
+
+void printElements(const char* title, const Json& elements) {
+  if (elements.empty()) return;
+  std::cout << "  " << title << '\n';
+  for (const Json& element : elements) {
+    std::cout << "    " << (element.value("usable", true) ? ' ' : '!') << ' ' << element["id"].get<std::string>() << "  "
+              << element["name"].get<std::string>() << details(element)
+              << (element.value("usable", true) ? "" : "  (not usable: no folder on disk)") << '\n';
+  }
+}
+
+void print(const Json& repository) {
+  std::cout << "Repository " << repository["repository"].get<std::string>() << '\n';
+  for (const Json& character : repository["characters"]) {
+    std::cout << "Character " << character["id"].get<std::string>() << "  " << character["name"].get<std::string>()
+              << (character["usable"].get<bool>() ? "" : "  (not usable: no folder on disk)") << '\n';
+    for (const char* list : {"skins", "clothing", "poses", "categories", "assets"}) {
+      printElements(list, character[list]);
+    }
+  }
+  if (repository["globalAssets"].empty()) return;
+  std::cout << "Shared by all characters\n";
+  printElements("assets", repository["globalAssets"]);
+}
+
+}  // namespace
+
+int runList(const std::filesystem::path& repository, bool asJson) {
+  const LoadedRepository loaded(repository);
+  if (!loaded.error().empty()) {
+    std::cerr << "zorvel list: " << loaded.error() << '\n';
+    return EXIT_UNREADABLE;
+  }
+  const Json json = describeAll(repository);
+  if (asJson) {
+    std::cout << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+  } else {
+    print(json);
+  }
+  return EXIT_CLEAN;
+}
+
+}  // namespace cli

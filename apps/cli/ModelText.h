@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/CharacterData.h"
+
+namespace cli {
+
+/// The field as UTF-8; empty for a null record and a missing field.
+std::string field(const ZORVEL::DataContainer* record, const wchar_t* name);
+
+std::vector<ZORVEL::DataContainer*> childrenOf(const ZORVEL::DataContainer& record);
+std::vector<ZORVEL::DataContainer*> elementsOf(const ZORVEL::CharacterData& character, ZORVEL::CONTAINER container);
+/// Empty for a cloth without that group.
+std::vector<ZORVEL::DataContainer*> clothChildren(const ZORVEL::DataContainer& cloth, ZORVEL::CLOTH_CHILD group);
+std::vector<ZORVEL::CharacterData*> characters();
+std::vector<ZORVEL::DataContainer*> globalAssets();
+
+/// Whether its folder was found on disk.
+bool isUsable(const ZORVEL::DataContainer& record);
+
+}  // namespace cli

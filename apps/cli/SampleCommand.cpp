@@ -1,0 +1,38 @@
+#include "apps/cli/SampleCommand.h"
+
+#include <iostream>
+
+#include "apps/cli/ExitStatus.h"
+#include "apps/cli/Progress.h"
+#include "samples/SampleRepository.h"
+
+namespace cli {
+
+namespace {
+
+bool holdsFiles(const std::filesystem::path& folder) {
+  std::error_code error;
+  return std::filesystem::exists(folder, error) && !std::filesystem::is_empty(folder, error);
+}
+
+}  // namespace
+
+int runSample(const SampleCommandOptions& options) {
+  if (holdsFiles(options.folder) && !options.force) {
+    std::cerr << "zorvel sample: " << options.folder.string() << " is not empty; --force writes into it all the same.\n";
+    return EXIT_FINDINGS;
+  }
+  Progress progress("Writing the sample repository");
+  samples::SampleOptions sample;
+  sample.seed = options.seed;
+  const std::string error =
+      samples::writeSampleRepository(options.folder, sample, [&progress](double done) { progress.report(done); });
+  if (!error.empty()) {
+    std::cerr << "zorvel sample: " << error << '\n';
+    return EXIT_FINDINGS;
+  }
+  std::cout << "Wrote " << options.folder.string() << '\n';
+  return EXIT_CLEAN;
+}
+
+}  // namespace cli
