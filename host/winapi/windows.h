@@ -1,7 +1,7 @@
 #pragma once
 
-// The Windows types and calls that the plug-in makes, for Linux. Paths are Windows-shaped: a backslash separates, a doubled
-// separator counts once, and names are found without regard to case.
+// The Windows types and calls that the plug-in makes, for Linux. Paths are Windows-shaped: a backslash separates, a
+// doubled separator counts once, and names are found without regard to case.
 
 #include <cstddef>
 #include <cstdint>
@@ -56,6 +56,6 @@ DWORD WINAPI GetFileAttributesW(LPCWSTR path);
 /// Null when the file cannot be opened. In a writing mode the parent folder is found without regard to case.
 std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode);
 
-/// Splits a path without looking at the disk; a part that is not wanted may be null, one that is absent becomes empty. The
-/// folder keeps its trailing separator, the extension its dot. A part longer than its buffer is cut.
+/// Splits a path without looking at the disk; a part that is not wanted may be null, one that is absent becomes empty.
+/// The folder keeps its trailing separator, the extension its dot. A part longer than its buffer is cut.
 void _wsplitpath(const wchar_t* path, wchar_t* drive, wchar_t* folder, wchar_t* name, wchar_t* extension);

@@ -1,0 +1,7 @@
+#include "core/Debug.h"
+
+namespace ZORVEL {
+
+void Debug::AddDebugMessage(DEBUG_TYPE /*level*/, const wchar_t* /*text*/) {}
+
+}  // namespace ZORVEL

@@ -1,0 +1,61 @@
+#include "core/LogStore.h"
+
+#include <memory>
+#include <mutex>
+#include <new>
+
+namespace ZORVEL {
+
+namespace {
+
+struct Store {
+  std::mutex mutex;
+  std::unique_ptr<std::vector<LogEntry>> entries;
+};
+
+Store& store() {
+  static Store instance;
+  return instance;
+}
+
+}  // namespace
+
+bool LogStore::Create() {
+  std::unique_ptr<std::vector<LogEntry>> fresh(new (std::nothrow) std::vector<LogEntry>);
+  const bool created = fresh != nullptr;
+  std::lock_guard<std::mutex> lock(store().mutex);
+  store().entries = std::move(fresh);
+  return created;
+}
+
+void LogStore::Free() {
+  std::lock_guard<std::mutex> lock(store().mutex);
+  store().entries.reset();
+}
+
+bool LogStore::Exists() {
+  std::lock_guard<std::mutex> lock(store().mutex);
+  return store().entries != nullptr;
+}
+
+void LogStore::Add(DEBUG_TYPE level, const wchar_t* text) {
+  std::lock_guard<std::mutex> lock(store().mutex);
+  if (!store().entries) return;
+  try {
+    store().entries->push_back({level, text ? text : L""});
+  } catch (const std::bad_alloc&) {
+    // Losing a message is better than failing the operation that reports it.
+  }
+}
+
+std::vector<LogEntry> LogStore::Entries() {
+  std::lock_guard<std::mutex> lock(store().mutex);
+  return store().entries ? *store().entries : std::vector<LogEntry>();
+}
+
+void LogStore::Clear() {
+  std::lock_guard<std::mutex> lock(store().mutex);
+  if (store().entries) store().entries->clear();
+}
+
+}  // namespace ZORVEL

@@ -1,0 +1,139 @@
+#include "core/Settings.h"
+
+#include <shlobj.h>
+#include <windows.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "core/Debug.h"
+
+namespace ZORVEL {
+
+Settings* Settings::singleton = nullptr;
+
+namespace {
+
+const std::size_t SHORTEST_PATH = 3;
+// Far beyond any path: what is longer is no settings file of ours.
+const std::size_t LONGEST_FILE = 1 << 20;
+
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+File openSettingsFile(const std::wstring& name, const wchar_t* mode) {
+  return File(_wfopen(name.c_str(), mode), &std::fclose);
+}
+
+bool findSettingsFile(std::wstring& name) {
+  wchar_t folder[MAX_PATH] = {};
+  if (FAILED(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder))) return false;
+  name = std::wstring(folder) + L"\\zorvel.ini";
+  return true;
+}
+
+std::wstring readLatin1(std::FILE* file) {
+  std::wstring text;
+  char buffer[4096];
+  while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, file)) {
+    for (std::size_t i = 0; i < count; ++i) text += static_cast<wchar_t>(static_cast<unsigned char>(buffer[i]));
+    if (text.size() > LONGEST_FILE) return std::wstring();
+  }
+  return text;
+}
+
+std::string latin1Beginning(const std::wstring& text) {
+  std::string bytes;
+  for (const wchar_t character : text) {
+    if (character < 0 || character > 0xFF) break;
+    bytes += static_cast<char>(static_cast<unsigned char>(character));
+  }
+  return bytes;
+}
+
+}  // namespace
+
+bool Settings::LoadSettings() {
+  if (singleton) {
+    Debug::AddDebugMessage(DEBUG_WARNING, L"Settings::LoadSettings - singleton was not nullptr");
+    delete singleton;
+  }
+  singleton = new Settings;
+  LoadFromSettingsFile();
+  return true;
+}
+
+void Settings::FreeSettings() {
+  if (!singleton) Debug::AddDebugMessage(DEBUG_WARNING, L"Settings::FreeSettings - singleton is nullptr");
+  delete singleton;
+  singleton = nullptr;
+}
+
+bool Settings::CheckSingleton() {
+  if (!singleton) Debug::AddDebugMessage(DEBUG_WARNING, L"Settings::CheckSingleton - singleton is nullptr");
+  return singleton != nullptr;
+}
+
+Settings* Settings::GetSingleton() {
+  if (!singleton) Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetSingleton - singleton is nullptr");
+  return singleton;
+}
+
+bool Settings::GetPathSet() {
+  if (!singleton) {
+    Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetPathSet - singleton is nullptr");
+    return false;
+  }
+  return singleton->m_pathSet;
+}
+
+const wchar_t* Settings::GetPath() {
+  if (!singleton) {
+    Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetPath - singleton is nullptr");
+    return nullptr;
+  }
+  return singleton->m_path.c_str();
+}
+
+bool Settings::StorePath(const wchar_t* path) {
+  if (!singleton) {
+    Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetPathSet - singleton is nullptr");
+    return false;
+  }
+  if (!path) return false;
+  singleton->m_path = path;
+  singleton->m_pathSet = true;
+  return SaveToSettingsFile();
+}
+
+bool Settings::SaveToSettingsFile() {
+  if (!singleton) {
+    Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::SaveToSettingsFile - singleton is nullptr");
+    return false;
+  }
+  std::wstring name;
+  if (!findSettingsFile(name)) return false;
+  if (const File file = openSettingsFile(name, L"w")) {
+    const std::string bytes = latin1Beginning(singleton->m_path);
+    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+  }
+  Debug::AddDebugMessage(DEBUG_INFO, name.c_str());
+  return true;
+}
+
+bool Settings::LoadFromSettingsFile() {
+  if (!singleton) {
+    Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::SaveToSettingsFile - singleton is nullptr");
+    return false;
+  }
+  std::wstring name;
+  if (!findSettingsFile(name)) return false;
+  const File file = openSettingsFile(name, L"r");
+  if (!file) return false;
+  std::wstring text = readLatin1(file.get());
+  if (text.size() < SHORTEST_PATH) return false;
+  singleton->m_path = std::move(text);
+  singleton->m_pathSet = true;
+  return true;
+}
+
+}  // namespace ZORVEL

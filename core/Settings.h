@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+
+namespace ZORVEL {
+
+/// The one setting, the repository's root folder, kept in "zorvel.ini" in the user's local application-data folder. The
+/// file holds the path and nothing else, one byte a character (Latin-1). There is one instance, between LoadSettings
+/// and FreeSettings; without it every operation logs and answers false or null.
+class Settings {
+ public:
+  Settings(const Settings&) = delete;
+  Settings& operator=(const Settings&) = delete;
+
+  /// Makes a new instance, replacing an earlier one, and reads the file. Always true, with or without a file.
+  static bool LoadSettings();
+  static void FreeSettings();
+  static bool CheckSingleton();
+  /// Borrowed until the instance is freed or replaced; null without one.
+  static Settings* GetSingleton();
+
+  static bool GetPathSet();
+  /// The root exactly as loaded or stored, empty when no path is set. Valid until the path changes or the instance
+  /// goes; null without an instance.
+  static const wchar_t* GetPath();
+
+  /// Takes the path over and saves it. A null path changes nothing and answers false.
+  static bool StorePath(const wchar_t* path);
+  /// False only when the application-data folder is unknown: a file that cannot be written is not reported. The file
+  /// ends before the first character that does not fit one byte.
+  static bool SaveToSettingsFile();
+  /// True when a path was taken from the file. Missing, unreadable or holding less than three characters, it changes
+  /// nothing.
+  static bool LoadFromSettingsFile();
+
+ private:
+  Settings() = default;
+
+  static Settings* singleton;
+
+  bool m_pathSet = false;
+  std::wstring m_path;
+};
+
+}  // namespace ZORVEL

@@ -1,0 +1,86 @@
+#include "host/files/FolderListings.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <clocale>
+#include <cwctype>
+#include <memory>
+
+#include "host/files/Paths.h"
+
+namespace host {
+
+namespace {
+
+constexpr std::size_t MOST_FOLDERS = 256;
+// Times of modification are coarse, two seconds on the coarsest file systems: a folder that changed this recently may
+// change again without its time showing it.
+constexpr std::time_t UNSETTLED_SECONDS = 3;
+
+/// A locale that knows all characters, whatever the process's locale is.
+locale_t unicodeLocale() {
+  static const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+  return locale;
+}
+
+wchar_t foldCharacter(wchar_t c) {
+  const auto wide = static_cast<wint_t>(c);
+  const locale_t locale = unicodeLocale();
+  if (!locale) return static_cast<wchar_t>(towlower(towupper(wide)));
+  return static_cast<wchar_t>(towlower_l(towupper_l(wide, locale), locale));
+}
+
+std::wstring foldName(const std::string& name) {
+  std::wstring folded = toWide(name);
+  for (wchar_t& c : folded) c = foldCharacter(c);
+  return folded;
+}
+
+bool sameTime(const std::timespec& left, const std::timespec& right) {
+  return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
+}
+
+std::unordered_map<std::wstring, std::string> readNames(const std::string& folder) {
+  std::unordered_map<std::wstring, std::string> names;
+  const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(folder.c_str()), &::closedir);
+  if (!directory) return names;
+  while (const dirent* entry = ::readdir(directory.get())) {
+    const std::string name = entry->d_name;
+    std::string& held = names[foldName(name)];
+    if (held.empty() || name < held) held = name;
+  }
+  return names;
+}
+
+}  // namespace
+
+FolderListings& FolderListings::instance() {
+  static FolderListings listings;
+  return listings;
+}
+
+std::string FolderListings::find(const std::string& folder, const std::string& name) {
+  const std::lock_guard<std::mutex> lock(m_mutex);
+  const Listing* listing = current(folder);
+  if (!listing) return name;
+  const auto position = listing->names.find(foldName(name));
+  return position == listing->names.end() ? name : position->second;
+}
+
+const FolderListings::Listing* FolderListings::current(const std::string& folder) {
+  struct stat status {};
+  if (::stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) return nullptr;
+  const auto held = m_listings.find(folder);
+  if (held != m_listings.end() && held->second.settled && sameTime(held->second.modified, status.st_mtim)) {
+    return &held->second;
+  }
+  if (m_listings.size() >= MOST_FOLDERS) m_listings.clear();
+  Listing& listing = m_listings[folder];
+  listing.modified = status.st_mtim;
+  listing.settled = std::time(nullptr) - status.st_mtim.tv_sec > UNSETTLED_SECONDS;
+  listing.names = readNames(folder);
+  return &listing;
+}
+
+}  // namespace host

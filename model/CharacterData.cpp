@@ -1,0 +1,245 @@
+#include "model/CharacterData.h"
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <limits>
+#include <new>
+
+#include "core/Debug.h"
+#include "core/Disk.h"
+#include "model/Fields.h"
+#include "model/NumberText.h"
+#include "model/Utf16Order.h"
+
+namespace ZORVEL {
+
+namespace {
+
+DataContainer* refuse(const wchar_t* message) {
+  Debug::AddDebugMessage(DEBUG_ERROR, message);
+  return nullptr;
+}
+
+DataContainer* appendChild(DataContainer& parent) {
+  auto* child = new (std::nothrow) DataContainer;
+  if (child) parent.AddChild(child);
+  return child;
+}
+
+struct NewField {
+  const wchar_t* name;
+  const wchar_t* text;
+};
+
+bool appendRecord(DataContainer& list, std::initializer_list<NewField> fields) {
+  auto* record = new (std::nothrow) DataContainer;
+  if (!record) return false;
+  for (const NewField& field : fields) record->SetData(field.name, field.text);
+  return list.AddChild(record);
+}
+
+const wchar_t* textOrEmpty(const wchar_t* text) { return text ? text : L""; }
+
+/// Held here because a character has thousands of rows.
+struct MatrixFields {
+  FieldName poseID{L"poseID"};
+  FieldName assetID{L"assetID"};
+  FieldName xpos{L"xpos"};
+  FieldName ypos{L"ypos"};
+  FieldName zpos{L"zpos"};
+  FieldName xrot{L"xrot"};
+  FieldName yrot{L"yrot"};
+  FieldName zrot{L"zrot"};
+};
+
+float coordinate(const DataContainer& row, FieldName field) {
+  bool found = false;
+  const double value = numberFromText(row.GetData(field, found));
+  const float largest = std::numeric_limits<float>::max();
+  if (std::fabs(value) <= static_cast<double>(largest)) return static_cast<float>(value);
+  return std::copysign(std::numeric_limits<float>::infinity(), value < 0 ? -1.0F : 1.0F);
+}
+
+bool isKind(int kind, int count) { return kind >= 0 && kind < count; }
+
+}  // namespace
+
+// Building
+
+int CharacterData::AddContainerElement(CONTAINER container) {
+  if (!isKind(container, CONTAINER_COUNT)) return -1;
+  DataContainer& list = m_containers[container];
+  DataContainer* element = appendChild(list);
+  if (!element) return -1;
+  for (int group = 0; container == CLOTH && group < CLOTH_CHILD_COUNT; ++group) appendChild(*element);
+  return list.GetChildCount() - 1;
+}
+
+void CharacterData::SetContainerName(CONTAINER container, const wchar_t* name) {
+  if (container == SKINS) m_skinsName += textOrEmpty(name);
+  if (container == POSES) m_posesName += textOrEmpty(name);
+  if (container == CLOTH) m_clothName += textOrEmpty(name);
+}
+
+DataContainer* CharacterData::AddChildToClothContainer(int clothIndex, CLOTH_CHILD group) {
+  if (clothIndex >= GetCount(CLOTH)) return refuse(L"CharacterData::AddChildToClothContainer: index out of range");
+  if (!GetContainerElement(CLOTH, clothIndex)) {
+    return refuse(L"CharacterData::AddChildToClothContainer: could not get cloth element");
+  }
+  DataContainer* children = findClothGroup(clothIndex, group);
+  if (!children) return refuse(L"CharacterData::AddChildToClothContainer: could not get subContainerDC");
+  return appendChild(*children);
+}
+
+DataContainer* CharacterData::AddMaterialToCloth(int clothIndex) {
+  if (clothIndex >= GetCount(CLOTH)) return refuse(L"CharacterData::AddMaterialToCloth: index out of range");
+  if (!GetContainerElement(CLOTH, clothIndex)) {
+    return refuse(L"CharacterData::AddMaterialToCloth: could not get cloth element");
+  }
+  DataContainer* materials = findClothGroup(clothIndex, MATERIAL);
+  if (!materials) return refuse(L"CharacterData::AddMaterialToCloth: could not get materials element");
+  return appendChild(*materials);
+}
+
+DataContainer* CharacterData::AddMandatoryElement(int poseIndex) {
+  if (poseIndex >= GetCount(POSES)) return refuse(L"CharacterData::AddMandatoryElement: index out of range");
+  DataContainer* pose = GetContainerElement(POSES, poseIndex);
+  if (!pose) return refuse(L"CharacterData::AddMandatoryElement: could not get pose element");
+  return appendChild(*pose);
+}
+
+DataContainer* CharacterData::AddMaterialToAsset(int assetIndex) {
+  if (assetIndex >= GetCount(ASSETS)) return refuse(L"CharacterData::AddMaterialToAsset: index out of range");
+  DataContainer* asset = GetContainerElement(ASSETS, assetIndex);
+  if (!asset) return refuse(L"CharacterData::AddMaterialToAsset: could not get asset element");
+  return appendChild(*asset);
+}
+
+void CharacterData::AddAssetMatrixElement(const DataContainer* element) {
+  if (!element) return;
+  Debug::AddDebugMessage(DEBUG_INFO, L"add asset matrix element...");
+  static const MatrixFields fields;
+  bool found = false;
+  const wchar_t* poseID = element->GetData(fields.poseID, found);
+  if (!found) return;
+  const wchar_t* assetID = element->GetData(fields.assetID, found);
+  if (!found) return;
+  const float xpos = coordinate(*element, fields.xpos);
+  const float ypos = coordinate(*element, fields.ypos);
+  const float zpos = coordinate(*element, fields.zpos);
+  const float xrot = coordinate(*element, fields.xrot);
+  const float yrot = coordinate(*element, fields.yrot);
+  const float zrot = coordinate(*element, fields.zrot);
+  AddAssetMatrixElement(poseID, assetID, xpos, ypos, zpos, xrot, yrot, zrot);
+}
+
+void CharacterData::AddAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID, float xpos, float ypos,
+                                          float zpos, float xrot, float yrot, float zrot) {
+  m_assetMatrix.push_back({textOrEmpty(poseID), textOrEmpty(assetID), xpos, ypos, zpos, xrot, yrot, zrot});
+}
+
+void CharacterData::ReserveAssetMatrix(int count) {
+  if (count > 0) m_assetMatrix.reserve(m_assetMatrix.size() + static_cast<std::size_t>(count));
+}
+
+bool CharacterData::AddSkinElement(const wchar_t* id, const wchar_t* name, const wchar_t* preview, const wchar_t* url) {
+  return appendRecord(m_containers[SKINS], {{L"id", id}, {L"name", name}, {L"preview", preview}, {L"url", url}});
+}
+
+bool CharacterData::AddClothElement(const wchar_t* id, const wchar_t* name, const wchar_t* folder, const wchar_t* url) {
+  return appendRecord(m_containers[CLOTH], {{L"id", id}, {L"name", name}, {L"folder", folder}, {L"url", url}});
+}
+
+bool CharacterData::AddPoseElement(const wchar_t* id, const wchar_t* name, const wchar_t* folder, const wchar_t* url) {
+  return appendRecord(m_containers[POSES], {{L"id", id}, {L"name", name}, {L"folder", folder}, {L"url", url}});
+}
+
+bool CharacterData::AddCategoryElement(const wchar_t* id, const wchar_t* name, const wchar_t* selection,
+                                       const wchar_t* required) {
+  return appendRecord(m_containers[CATEGORIES],
+                      {{L"id", id}, {L"name", name}, {L"selection", selection}, {L"required", required}});
+}
+
+bool CharacterData::AddAssetElement(const wchar_t* id, const wchar_t* name, const wchar_t* type, const wchar_t* folder,
+                                    const wchar_t* category, const wchar_t* url) {
+  return appendRecord(
+      m_containers[ASSETS],
+      {{L"id", id}, {L"name", name}, {L"type", type}, {L"folder", folder}, {L"category", category}, {L"url", url}});
+}
+
+void CharacterData::ValidateCloths() {
+  DataContainer& cloths = m_containers[CLOTH];
+  if (cloths.GetChildCount() == 0) return;
+  const std::wstring previews = std::wstring(textOrEmpty(Fields::Text(this, L"folder"))) + L"\\previews\\preview_";
+  for (int i = 0; i < cloths.GetChildCount(); ++i) {
+    DataContainer* cloth = cloths.GetChild(i);
+    if (cloth && !Disk::FileExists(previews + textOrEmpty(Fields::Text(cloth, L"id")) + L".png")) cloth->SetInvalid();
+  }
+  cloths.RemoveInvalidChildren();
+}
+
+void CharacterData::SortClothsAlphabetically() {
+  struct NamedCloth {
+    const wchar_t* name;
+    DataContainer* cloth;
+  };
+  DataContainer& cloths = m_containers[CLOTH];
+  std::vector<NamedCloth> sorted;
+  sorted.reserve(static_cast<std::size_t>(cloths.GetChildCount()));
+  for (int i = 0; i < cloths.GetChildCount(); ++i) {
+    sorted.push_back({Fields::OptionalText(cloths.GetChild(i), L"name"), cloths.GetChild(i)});
+  }
+  std::stable_sort(sorted.begin(), sorted.end(), [](const NamedCloth& left, const NamedCloth& right) {
+    return compareUtf16(left.name, right.name) < 0;
+  });
+  int slot = 0;
+  for (const NamedCloth& named : sorted) cloths.SetChild(slot++, named.cloth);
+}
+
+// The lists
+
+DataContainer* CharacterData::GetContainerElement(CONTAINER container, int index) const {
+  return isKind(container, CONTAINER_COUNT) ? m_containers[container].GetChild(index) : nullptr;
+}
+
+int CharacterData::GetCount(CONTAINER container) const {
+  return isKind(container, CONTAINER_COUNT) ? m_containers[container].GetChildCount() : 0;
+}
+
+const wchar_t* CharacterData::GetContainerName(CONTAINER container) const {
+  if (container == SKINS) return m_skinsName.c_str();
+  if (container == POSES) return m_posesName.c_str();
+  return container == CLOTH ? m_clothName.c_str() : nullptr;
+}
+
+DataContainer* CharacterData::findClothGroup(int clothIndex, CLOTH_CHILD group) const {
+  const DataContainer* cloth = GetContainerElement(CLOTH, clothIndex);
+  return cloth && isKind(group, CLOTH_CHILD_COUNT) ? cloth->GetChild(group) : nullptr;
+}
+
+int CharacterData::GetClothChildCount(int clothIndex, CLOTH_CHILD group) const {
+  const DataContainer* children = nullptr;
+  if (clothIndex >= GetCount(CLOTH)) {
+    refuse(L"CharacterData::GetClothChildCount: index out of range");
+  } else if (!GetContainerElement(CLOTH, clothIndex)) {
+    refuse(L"CharacterData::GetClothChildCount: could not get cloth element");
+  } else if (!(children = findClothGroup(clothIndex, group))) {
+    refuse(L"CharacterData::GetClothChildCount: could not get subContainerDC");
+  }
+  return children ? children->GetChildCount() : -1;
+}
+
+DataContainer* CharacterData::GetClothChildElement(int clothIndex, CLOTH_CHILD group, int index) const {
+  if (clothIndex >= GetCount(CLOTH)) return refuse(L"CharacterData::GetClothChildElement: clothIndex out of range");
+  if (!GetContainerElement(CLOTH, clothIndex)) {
+    return refuse(L"CharacterData::GetClothChildElement: could not get cloth element");
+  }
+  const DataContainer* children = findClothGroup(clothIndex, group);
+  if (!children) return refuse(L"CharacterData::GetClothChildElement: could not get subContainerDC");
+  // The bound is the wrong way round and stays so: nothing depends on this operation, and its answers are agreed.
+  if (children->GetChildCount() < index) return children->GetChild(index);
+  return refuse(L"CharacterData::GetClothChildElement: index out of range");
+}
+
+}  // namespace ZORVEL

@@ -1,0 +1,185 @@
+#include "model/Data2.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <memory>
+#include <new>
+#include <vector>
+
+#include "core/Debug.h"
+#include "model/CharacterData.h"
+#include "model/Fields.h"
+#include "model/UniqueRegistry.h"
+#include "repository/RepositoryValidation.h"
+
+namespace ZORVEL {
+
+namespace {
+
+struct RepositoryStore {
+  std::vector<std::unique_ptr<CharacterData>> characters;
+  std::vector<std::unique_ptr<DataContainer>> globalAssets;
+  bool validated = false;
+};
+
+RepositoryStore& repositoryStore() {
+  static RepositoryStore instance;
+  return instance;
+}
+
+template <class Record>
+Record* findRecord(const std::vector<std::unique_ptr<Record>>& records, int index, const wchar_t* message) {
+  if (static_cast<std::size_t>(index) < records.size()) return records[static_cast<std::size_t>(index)].get();
+  Debug::AddDebugMessage(DEBUG_ERROR, message);
+  return nullptr;
+}
+
+/// Both lookups by id share the text of the message.
+template <class Record>
+Record* findRecord(const std::vector<std::unique_ptr<Record>>& records, const wchar_t* id) {
+  if (!id) {
+    Debug::AddDebugMessage(DEBUG_ERROR, L"Data2::GetCharacter: invalid argument");
+    return nullptr;
+  }
+  for (const auto& record : records) {
+    const wchar_t* recordId = Fields::Text(record.get(), L"id");
+    if (recordId && std::wcscmp(recordId, id) == 0) return record.get();
+  }
+  return nullptr;
+}
+
+template <class Record>
+int addRecord(std::vector<std::unique_ptr<Record>>& records, const wchar_t* message) {
+  std::unique_ptr<Record> record(new (std::nothrow) Record);
+  if (!record) {
+    Debug::AddDebugMessage(DEBUG_ERROR, message);
+    return -1;
+  }
+  records.push_back(std::move(record));
+  return static_cast<int>(records.size()) - 1;
+}
+
+}  // namespace
+
+int Data2::AddCharacter() {
+  return addRecord(repositoryStore().characters, L"Could not get memory for CharacterData!");
+}
+
+int Data2::AddCharacter(const wchar_t* name, const wchar_t* id, const wchar_t* url) {
+  const int index = AddCharacter();
+  if (index < 0) return index;
+  CharacterData* character = GetCharacter(index);
+  character->SetData(L"id", id);
+  character->SetData(L"name", name);
+  character->SetData(L"url", url);
+  RegisterID(character);
+  return index;
+}
+
+CharacterData* Data2::GetCharacter(int index) {
+  return findRecord(repositoryStore().characters, index, L"Data2::GetCharacter: index out of range");
+}
+
+CharacterData* Data2::GetCharacter(const wchar_t* id) { return findRecord(repositoryStore().characters, id); }
+
+int Data2::GetCharacterCount() { return static_cast<int>(repositoryStore().characters.size()); }
+
+int Data2::AddGlobalAsset() {
+  return addRecord(repositoryStore().globalAssets, L"Could not get memory for GlobalAsset!");
+}
+
+DataContainer* Data2::GetGlobalAsset(int index) {
+  return findRecord(repositoryStore().globalAssets, index, L"Data2::GetGlobalAsset: index out of range");
+}
+
+int Data2::GetGlobalAssetCount() { return static_cast<int>(repositoryStore().globalAssets.size()); }
+
+DataContainer* Data2::AddMaterialToGlobalaAsset(DataContainer* globalAsset) {
+  if (!globalAsset) {
+    Debug::AddDebugMessage(DEBUG_ERROR, L"Data2::AddMaterialToGlobalaAsset: could not get asset element");
+    return nullptr;
+  }
+  auto* material = new (std::nothrow) DataContainer;
+  if (material) globalAsset->AddChild(material);
+  return material;
+}
+
+bool Data2::CheckAssetGlobal(const DataContainer* asset) { return Fields::Equals(asset, L"type", L"global"); }
+
+DataContainer* Data2::GetGlobalAssetForAsset(const DataContainer* asset) {
+  const wchar_t* globalId = Fields::OptionalText(asset, L"globalID");
+  return globalId ? FindGlobalAssetById(globalId) : nullptr;
+}
+
+DataContainer* Data2::FindGlobalAssetById(const wchar_t* id) { return findRecord(repositoryStore().globalAssets, id); }
+
+bool Data2::GetGlobalAssetAndMaterial(int unique, DataContainer*& globalAsset, DataContainer*& material) {
+  for (const auto& record : repositoryStore().globalAssets) {
+    if (FindRecordOrChild(unique, *record, material)) {
+      globalAsset = record.get();
+      return true;
+    }
+  }
+  return false;
+}
+
+int Data2::GetUnique(const DataContainer* element) {
+  if (element) return UniqueRegistry::GetUnique(*element);
+  Debug::AddDebugMessage(DEBUG_ERROR, L"Data2::GetUnique: invalid argument");
+  return 0;
+}
+
+void Data2::RegisterID(const DataContainer* element) {
+  if (!element) return Debug::AddDebugMessage(DEBUG_ERROR, L"Data2::RegisterID: invalid argument");
+  UniqueRegistry::GetUnique(*element);
+}
+
+int Data2::NewUnique() { return UniqueRegistry::NewUnique(); }
+
+const wchar_t* Data2::GetIdForUnique(int unique) { return Fields::Text(UniqueRegistry::Find(unique), L"id"); }
+
+bool Data2::IsGlobalAssetUnique(int unique) {
+  const DataContainer* element = UniqueRegistry::Find(unique);
+  const auto& records = repositoryStore().globalAssets;
+  return element &&
+         std::any_of(records.begin(), records.end(), [element](const auto& record) { return record.get() == element; });
+}
+
+bool Data2::FindRecordOrChild(int unique, const DataContainer& record, DataContainer*& material) {
+  if (GetUnique(&record) == unique) {
+    material = nullptr;
+    return true;
+  }
+  for (int i = 0; i < record.GetChildCount(); ++i) {
+    DataContainer* child = record.GetChild(i);
+    if (child && GetUnique(child) == unique) {
+      material = child;
+      return true;
+    }
+  }
+  return false;
+}
+
+void Data2::Clear() {
+  RepositoryStore& store = repositoryStore();
+  // The ids go first, so that destroying the records has nothing to release.
+  UniqueRegistry::Clear();
+  store.characters.clear();
+  store.globalAssets.clear();
+  store.validated = false;
+}
+
+void Data2::SetValidated(bool validated) {
+  if (validated) ValidateAll();
+  repositoryStore().validated = validated;
+}
+
+bool Data2::IsValidated() { return repositoryStore().validated; }
+
+void Data2::ValidateAll() {
+  Debug::AddDebugMessage(DEBUG_INFO, L"validate data...");
+  RepositoryValidation::ValidateGlobalAssets();
+  for (const auto& character : repositoryStore().characters) RepositoryValidation::ValidateCharacter(character.get());
+}
+
+}  // namespace ZORVEL

@@ -1,0 +1,101 @@
+#include "model/Selection2.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "core/Debug.h"
+#include "model/CharacterData.h"
+
+namespace ZORVEL {
+
+namespace {
+
+struct Choice {
+  std::wstring character;
+  std::wstring cloth;
+  std::wstring pose;
+  std::wstring skin;
+  std::wstring style;
+  std::vector<int> assets;
+};
+
+Choice& choice() {
+  static Choice instance;
+  return instance;
+}
+
+const wchar_t* nullIfEmpty(const std::wstring& text) { return text.empty() ? nullptr : text.c_str(); }
+
+void setChoice(std::wstring& value, const wchar_t* id) {
+  if (id) {
+    value = id;
+  } else {
+    value.clear();
+  }
+}
+
+}  // namespace
+
+const wchar_t* Selection2::GetCharacter() { return choice().character.c_str(); }
+const wchar_t* Selection2::GetCloth() { return nullIfEmpty(choice().cloth); }
+const wchar_t* Selection2::GetPose() { return nullIfEmpty(choice().pose); }
+const wchar_t* Selection2::GetSkin() { return nullIfEmpty(choice().skin); }
+const wchar_t* Selection2::GetStyle() { return nullIfEmpty(choice().style); }
+
+void Selection2::SetCharacter(const wchar_t* id) { setChoice(choice().character, id); }
+void Selection2::SetCloth(const wchar_t* id) { setChoice(choice().cloth, id); }
+void Selection2::SetPose(const wchar_t* id) { setChoice(choice().pose, id); }
+void Selection2::SetSkin(const wchar_t* id) { setChoice(choice().skin, id); }
+void Selection2::SetStyle(const wchar_t* id) { setChoice(choice().style, id); }
+
+void Selection2::AddAsset(int unique) { choice().assets.push_back(unique); }
+
+void Selection2::RemoveAsset(int unique) {
+  std::vector<int>& assets = choice().assets;
+  const auto position = std::find(assets.begin(), assets.end(), unique);
+  if (position != assets.end()) assets.erase(position);
+}
+
+void Selection2::ClearAssets() { choice().assets.clear(); }
+
+bool Selection2::CheckSelectedAsset(int unique) {
+  const std::vector<int>& assets = choice().assets;
+  return std::find(assets.begin(), assets.end(), unique) != assets.end();
+}
+
+int Selection2::GetAssetCount() { return static_cast<int>(choice().assets.size()); }
+
+int Selection2::GetAsset(int index) {
+  if (index >= 0 && index < GetAssetCount()) return choice().assets[static_cast<std::size_t>(index)];
+  Debug::AddDebugMessage(DEBUG_ERROR, L"Selection2::GetAsset: index out of range!");
+  return 0;
+}
+
+void Selection2::RemoveAssetsOfCategory(const DataContainer* category, const CharacterData* character) {
+  if (!character) return;
+  std::vector<int> kept;
+  for (const int unique : choice().assets) {
+    DataContainer* asset = nullptr;
+    DataContainer* material = nullptr;
+    if (!character->GetAssetAndMaterial(unique, asset, material)) continue;
+    const DataContainer* assetCategory = character->GetCategory(asset);
+    if (!assetCategory) return;
+    if (assetCategory != category) kept.push_back(unique);
+  }
+  choice().assets = std::move(kept);
+}
+
+int Selection2::CountSelectedInCategory(const DataContainer* category, const CharacterData* character) {
+  return category && character ? 0 : -1;
+}
+
+void Selection2::Reset() {
+  SetCharacter(nullptr);
+  SetCloth(nullptr);
+  SetPose(nullptr);
+  SetSkin(nullptr);
+  ClearAssets();
+}
+
+}  // namespace ZORVEL

@@ -1,0 +1,57 @@
+#include "model/UniqueRegistry.h"
+
+#include <vector>
+
+#include "model/DataContainer.h"
+
+namespace ZORVEL {
+
+namespace {
+
+const int COUNTER_START = 1000;
+const int STEP = 10;
+
+struct Registry {
+  int counter = COUNTER_START;
+  std::vector<const DataContainer*> elements;  // by (id - COUNTER_START) / STEP - 1; null where an id names nothing
+};
+
+// Never destroyed: records with static storage release their ids when the process ends.
+Registry& registry() {
+  static Registry& instance = *new Registry;
+  return instance;
+}
+
+std::size_t slotOf(int unique) { return static_cast<std::size_t>((unique - COUNTER_START) / STEP - 1); }
+
+}  // namespace
+
+int UniqueRegistry::NewUnique() { return registry().counter += STEP; }
+
+const DataContainer* UniqueRegistry::Find(int unique) {
+  if (unique <= COUNTER_START || unique % STEP != 0) return nullptr;
+  const auto& elements = registry().elements;
+  return slotOf(unique) < elements.size() ? elements[slotOf(unique)] : nullptr;
+}
+
+int UniqueRegistry::GetUnique(const DataContainer& element) {
+  if (element.m_unique != 0 && Find(element.m_unique) == &element) return element.m_unique;
+  const int unique = NewUnique();
+  auto& elements = registry().elements;
+  elements.resize(slotOf(unique) + 1);
+  elements.back() = &element;
+  element.m_unique = unique;
+  return unique;
+}
+
+void UniqueRegistry::Release(const DataContainer& element) {
+  if (Find(element.m_unique) == &element) registry().elements[slotOf(element.m_unique)] = nullptr;
+}
+
+void UniqueRegistry::Clear() {
+  registry().counter = COUNTER_START;
+  registry().elements.clear();
+  registry().elements.shrink_to_fit();
+}
+
+}  // namespace ZORVEL

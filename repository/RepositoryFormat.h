@@ -1,0 +1,70 @@
+#pragma once
+
+namespace ZORVEL {
+
+/// The names of a repository: files and folders below its root, elements and attributes of its description. Every
+/// attribute becomes a field of the same name.
+namespace RepositoryFormat {
+
+// Joined as they stand to the folder before them.
+constexpr wchar_t DESCRIPTION_FILE[] = L"\\zorvel.xml";
+constexpr wchar_t SEPARATOR[] = L"\\";
+constexpr wchar_t PREVIEWS_FOLDER[] = L"\\previews";
+constexpr wchar_t SKIN_FOLDER[] = L"\\skin";
+constexpr wchar_t GLOBAL_ASSETS_FOLDER[] = L"\\global_assets\\";
+
+constexpr wchar_t ELEMENT_ZORVEL[] = L"zorvel";
+constexpr wchar_t ELEMENT_CHARACTER[] = L"character";
+constexpr wchar_t ELEMENT_GLOBAL_ASSETS[] = L"globalAssets";
+constexpr wchar_t ELEMENT_SKINS[] = L"skins";
+constexpr wchar_t ELEMENT_SKIN[] = L"skin";
+constexpr wchar_t ELEMENT_CLOTH[] = L"cloth";
+constexpr wchar_t ELEMENT_CLOTHING[] = L"clothing";
+constexpr wchar_t ELEMENT_MATERIAL[] = L"material";
+constexpr wchar_t ELEMENT_EXCLUDE[] = L"exclude";
+constexpr wchar_t ELEMENT_SELECT[] = L"select";
+constexpr wchar_t ELEMENT_POSES[] = L"poses";
+constexpr wchar_t ELEMENT_POSE[] = L"pose";
+constexpr wchar_t ELEMENT_CATEGORIES[] = L"categories";
+constexpr wchar_t ELEMENT_CATEGORY[] = L"category";
+constexpr wchar_t ELEMENT_ASSETS[] = L"assets";
+constexpr wchar_t ELEMENT_ASSET[] = L"asset";
+constexpr wchar_t ELEMENT_ASSET_MATRIX[] = L"AssetMatrix";
+constexpr wchar_t ELEMENT_MATRIX[] = L"matrix";
+
+constexpr wchar_t FIELD_ID[] = L"id";
+constexpr wchar_t FIELD_NAME[] = L"name";
+constexpr wchar_t FIELD_FOLDER[] = L"folder";
+constexpr wchar_t FIELD_PREVIEW[] = L"preview";
+constexpr wchar_t FIELD_URL[] = L"url";
+constexpr wchar_t FIELD_TYPE[] = L"type";
+constexpr wchar_t FIELD_GLOBAL_ID[] = L"globalID";
+constexpr wchar_t FIELD_CATEGORY[] = L"category";
+constexpr wchar_t FIELD_SELECTION[] = L"selection";
+constexpr wchar_t FIELD_REQUIRED[] = L"required";
+constexpr wchar_t FIELD_MATERIAL[] = L"material";
+constexpr wchar_t FIELD_ASSET_ID[] = L"asset_id";
+constexpr wchar_t FIELD_LOCAL_ASSET_ID[] = L"local_asset_id";
+constexpr wchar_t FIELD_MATERIAL_ID[] = L"material_id";
+constexpr wchar_t FIELD_POSE_ID[] = L"poseID";
+constexpr wchar_t FIELD_MATRIX_ASSET_ID[] = L"assetID";
+constexpr wchar_t FIELD_XPOS[] = L"xpos";
+constexpr wchar_t FIELD_YPOS[] = L"ypos";
+constexpr wchar_t FIELD_ZPOS[] = L"zpos";
+constexpr wchar_t FIELD_XROT[] = L"xrot";
+constexpr wchar_t FIELD_YROT[] = L"yrot";
+constexpr wchar_t FIELD_ZROT[] = L"zrot";
+/// Never in the file: set while reading, to one of the two values.
+constexpr wchar_t FIELD_AVAILABLE[] = L"available";
+
+constexpr wchar_t VALUE_AVAILABLE[] = L"available";
+constexpr wchar_t VALUE_NOT_AVAILABLE[] = L"notavailable";
+constexpr wchar_t VALUE_SPECIFIC[] = L"specific";
+constexpr wchar_t VALUE_COMMON[] = L"common";
+constexpr wchar_t VALUE_GLOBAL[] = L"global";
+constexpr wchar_t VALUE_MULTIPLE[] = L"multiple";
+constexpr wchar_t VALUE_TRUE[] = L"true";
+
+}  // namespace RepositoryFormat
+
+}  // namespace ZORVEL

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/FieldName.h"
+
+namespace ZORVEL {
+
+/// One element of a document. Names carry their prefix; namespace declarations are attributes like any other.
+struct XmlElement {
+  const wchar_t* name;
+  const FieldText* attributes;  // in document order
+  int attributeCount;
+  int line;  // on which the start tag ends, counted from 1
+  int childCount;
+  const XmlElement* firstChild;
+  const XmlElement* nextSibling;
+
+  /// Null when the element has no such attribute.
+  const wchar_t* FindAttribute(const wchar_t* attribute) const;
+};
+
+/// Why a document could not be read. Line and column are 0 when the fault has no place in the file.
+struct XmlError {
+  std::wstring message;
+  int line = 0;
+  int column = 0;
+};
+
+/// Memory for things that live as long as the document and need no destructor.
+class XmlArena {
+ public:
+  /// The alignment is a power of two.
+  void* Allocate(std::size_t size, std::size_t alignment) {
+    std::size_t begin = (m_blockUsed + alignment - 1) & ~(alignment - 1);
+    if (m_blocks.empty() || begin > m_blockSize || size > m_blockSize - begin) {
+      addBlock(size);
+      begin = 0;
+    }
+    m_blockUsed = begin + size;
+    m_total += size;
+    return m_blocks.back().get() + begin;
+  }
+  /// Bytes in use.
+  std::size_t GetSize() const { return m_total; }
+
+ private:
+  void addBlock(std::size_t size);
+
+  std::vector<std::unique_ptr<char[]>> m_blocks;
+  std::size_t m_blockSize = 0;
+  std::size_t m_blockUsed = 0;
+  std::size_t m_total = 0;
+};
+
+/// A well-formed XML file as a light tree of elements; comments, instructions and text are left out.
+///
+///     XmlError error;
+///     const auto document = XmlDocument::Load(L"C:\\repository\\zorvel.xml", error);
+///     if (document) walk(document->GetRoot());
+///
+/// Strict, never touches the network or another file, and bounded: files beyond 256 MiB, absurdly deep nesting and
+/// entities that blow up are refused.
+class XmlDocument {
+ public:
+  /// Null, with the reason in `error`, for everything that cannot be opened, read or is not well formed.
+  static std::unique_ptr<XmlDocument> Load(const wchar_t* path, XmlError& error);
+
+  /// Belongs to the document.
+  const XmlElement& GetRoot() const;
+
+ private:
+  friend class XmlTreeBuilder;
+
+  XmlArena m_arena;
+  const XmlElement* m_root = nullptr;
+};
+
+}  // namespace ZORVEL

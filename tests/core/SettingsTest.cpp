@@ -1,0 +1,73 @@
+#include "core/Settings.h"
+
+#include <shlobj.h>
+
+#include "tests/support/LocalAppData.h"
+#include "tests/support/LogStoreTest.h"
+
+namespace ZORVEL {
+
+class SettingsTest : public support::LogStoreTest {
+ protected:
+  void TearDown() override {
+    if (Settings::CheckSingleton()) Settings::FreeSettings();
+    LogStoreTest::TearDown();
+  }
+
+  std::wstring pathFromFile(const std::string& content) {
+    m_appData.folder().write("zorvel.ini", content);
+    Settings::LoadSettings();
+    return Settings::GetPathSet() ? Settings::GetPath() : L"(not set)";
+  }
+
+  support::LocalAppData m_appData;
+};
+
+TEST_F(SettingsTest, WithoutAnInstanceEveryOperationNamesItsOwnOrAnotherAsItAlwaysDid) {
+  Settings::FreeSettings();
+  EXPECT_FALSE(Settings::CheckSingleton());
+  EXPECT_EQ(Settings::GetSingleton(), nullptr);
+  EXPECT_FALSE(Settings::GetPathSet());
+  EXPECT_EQ(Settings::GetPath(), nullptr);
+  EXPECT_FALSE(Settings::StorePath(L"C:\\r"));
+  EXPECT_FALSE(Settings::SaveToSettingsFile());
+  EXPECT_FALSE(Settings::LoadFromSettingsFile());
+  expectComplaints(
+      {L"Settings::FreeSettings - singleton is nullptr", L"Settings::CheckSingleton - singleton is nullptr",
+       L"Settings::GetSingleton - singleton is nullptr", L"Settings::GetPathSet - singleton is nullptr",
+       L"Settings::GetPath - singleton is nullptr", L"Settings::GetPathSet - singleton is nullptr",
+       L"Settings::SaveToSettingsFile - singleton is nullptr", L"Settings::SaveToSettingsFile - singleton is nullptr"});
+  EXPECT_FALSE(std::filesystem::exists(m_appData.folder().path() / "zorvel.ini"));
+}
+
+TEST_F(SettingsTest, TakesTheFileAsItStandsFromThreeCharactersOn) {
+  EXPECT_EQ(pathFromFile(""), L"(not set)");
+  EXPECT_EQ(pathFromFile("C:"), L"(not set)");
+  EXPECT_EQ(pathFromFile("C:\\"), L"C:\\");
+  EXPECT_EQ(pathFromFile(" C:\\r \r\n"), L" C:\\r \r\n");
+  EXPECT_EQ(pathFromFile("C:\\\xE4\xFF"), L"C:\\\u00E4\u00FF");
+  EXPECT_EQ(countLogged(L"Settings::LoadSettings - singleton was not nullptr"), 4);
+}
+
+TEST_F(SettingsTest, LoadsWithoutAPathWhenTheFileCannotBeRead) {
+  EXPECT_TRUE(Settings::LoadSettings());
+  EXPECT_FALSE(Settings::GetPathSet());
+  EXPECT_STREQ(Settings::GetPath(), L"");
+  m_appData.folder().makeFolder("zorvel.ini");
+  EXPECT_FALSE(Settings::LoadFromSettingsFile());
+  EXPECT_TRUE(Settings::StorePath(L"C:\\kept")) << "a file that cannot be written is not reported";
+  EXPECT_STREQ(Settings::GetPath(), L"C:\\kept");
+}
+
+TEST_F(SettingsTest, TheFileEndsBeforeACharacterBeyondOneByteAndMemoryKeepsThePathWhole) {
+  Settings::LoadSettings();
+  EXPECT_TRUE(Settings::StorePath(L"D:\\h\u00E4user\\\u4EBA\\x"));
+  EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\\\u4EBA\\x");
+  EXPECT_EQ(m_appData.folder().read("zorvel.ini"), "D:\\h\xE4user\\");
+  expectLogged(DEBUG_INFO, m_appData.folder().wide() + L"\\zorvel.ini");
+  EXPECT_FALSE(Settings::StorePath(nullptr));
+  EXPECT_TRUE(Settings::LoadFromSettingsFile());
+  EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\\");
+}
+
+}  // namespace ZORVEL

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "core/Settings.h"
+#include "tests/model/ModelTest.h"
+#include "tests/support/LocalAppData.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace ZORVEL {
+
+/// A test with an empty repository folder that is the one of the settings.
+class RepositoryTest : public ModelTest {
+ protected:
+  void SetUp() override {
+    ModelTest::SetUp();
+    Settings::LoadSettings();
+    Settings::StorePath(m_root.wide().c_str());
+    clearLog();
+  }
+  void TearDown() override {
+    Settings::FreeSettings();
+    ModelTest::TearDown();
+  }
+
+  void writeDescription(const std::string& xml) const { m_root.write("zorvel.xml", xml); }
+  /// What a character folder must have.
+  void makeCharacterFolder(const std::string& name) const {
+    m_root.makeFolder(name + "/previews");
+    m_root.makeFolder(name + "/skin");
+  }
+  static std::wstring text(const DataContainer* record, const wchar_t* field) {
+    bool found = false;
+    const wchar_t* value = record && record->CheckDatafield(field) ? record->GetData(field, found) : nullptr;
+    return value ? value : L"(missing)";
+  }
+
+  support::LocalAppData m_appData;
+  support::TemporaryFolder m_root;
+};
+
+}  // namespace ZORVEL

@@ -1,0 +1,170 @@
+#include "repository/XmlDocument.h"
+
+#include <gtest/gtest.h>
+
+#include "host/files/Paths.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace ZORVEL {
+
+class XmlDocumentTest : public ::testing::Test {
+ protected:
+  void SetUp() override { ::testing::internal::CaptureStderr(); }
+  void TearDown() override { EXPECT_EQ(::testing::internal::GetCapturedStderr(), "") << "the library has spoken"; }
+
+  std::unique_ptr<XmlDocument> load(const std::string& content) {
+    const std::wstring path = host::toWide(m_folder.write("d.xml", content).string());
+    auto document = XmlDocument::Load(path.c_str(), m_error);
+    EXPECT_EQ(document == nullptr, !m_error.message.empty()) << host::toUtf8(m_error.message);
+    return document;
+  }
+  std::wstring rootAttribute(const std::string& content, const wchar_t* name = L"a") {
+    const auto document = load(content);
+    const wchar_t* value = document ? document->GetRoot().FindAttribute(name) : nullptr;
+    return value ? value : L"(missing)";
+  }
+  static std::string utf16(const std::u16string& text) {
+    std::string bytes = "\xFF\xFE";
+    for (const char16_t unit : text) {
+      bytes += static_cast<char>(unit & 0xFF);
+      bytes += static_cast<char>(unit >> 8);
+    }
+    return bytes;
+  }
+
+  support::TemporaryFolder m_folder;
+  XmlError m_error;
+};
+
+TEST_F(XmlDocumentTest, KeepsElementsAttributesAndLinesAndLeavesTheRestOut) {
+  const auto document =
+      load("<?xml version='1.0'?>\n<!-- c --><r a='1' b=''>text<?pi x?>\n<e/><![CDATA[<no/>]]>\n<f><g/></f></r>");
+  ASSERT_NE(document, nullptr);
+  const XmlElement& root = document->GetRoot();
+  EXPECT_STREQ(root.name, L"r");
+  ASSERT_EQ(root.attributeCount, 2);
+  EXPECT_STREQ(root.attributes[1].name.GetText(), L"b");
+  EXPECT_STREQ(root.attributes[1].text, L"");
+  ASSERT_EQ(root.childCount, 2);
+  EXPECT_EQ(root.firstChild->line, 3);
+  EXPECT_STREQ(root.firstChild->nextSibling->firstChild->name, L"g");
+  EXPECT_EQ(root.firstChild->nextSibling->line, 4);
+  EXPECT_EQ(root.firstChild->nextSibling->nextSibling, nullptr);
+}
+
+TEST_F(XmlDocumentTest, AttributesArriveAsTheyAreMeant) {
+  EXPECT_EQ(rootAttribute("<r a='&amp;&lt;&#38;&quot;&#x1F600; x'/>"), L"&<&\"\U0001F600 x");
+  EXPECT_EQ(rootAttribute("<r a='x\n\ty'/>"), L"x  y");
+  EXPECT_EQ(rootAttribute("<!DOCTYPE r [<!ENTITY e 'in&amp;side'>]><r a='&e;!'/>"), L"in&side!");
+  EXPECT_EQ(rootAttribute("<!DOCTYPE r [<!ATTLIST r a CDATA 'default'>]><r/>"), L"default");
+  EXPECT_EQ(rootAttribute("<r xmlns='u' xmlns:p='v' p:a='1'/>", L"p:a"), L"1");
+  EXPECT_EQ(rootAttribute("<r xmlns='u'/>", L"xmlns"), L"u");
+  const auto document = load("<!DOCTYPE r [<!ENTITY e '<x/><y/>'>]><r>&e;&e;</r>");
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(document->GetRoot().childCount, 4);
+}
+
+TEST_F(XmlDocumentTest, ReadsEveryDeclaredEncoding) {
+  EXPECT_EQ(rootAttribute("\xEF\xBB\xBF<?xml version='1.0' encoding='utf-8'?><r a='\xC3\xA4'/>"), L"\u00E4");
+  EXPECT_EQ(rootAttribute("<?xml version='1.0' encoding='windows-1252'?><r a='\x80\xE4'/>"), L"\u20AC\u00E4");
+  EXPECT_EQ(rootAttribute("<?xml version='1.0' encoding='ISO-8859-1'?><r a='\xE4'/>"), L"\u00E4");
+  EXPECT_EQ(rootAttribute(utf16(u"<?xml version='1.0' encoding='UTF-16'?>\r\n<r a='\u00E4\U0001F600'/>")),
+            L"\u00E4\U0001F600");
+  EXPECT_EQ(rootAttribute(utf16(u"<r a='\u4EBA'/>")), L"\u4EBA");
+}
+
+TEST_F(XmlDocumentTest, RefusesWhatIsNotWellFormedAndTellsWhere) {
+  EXPECT_EQ(load("<r>\n  <e>\n</r>"), nullptr);
+  EXPECT_EQ(m_error.line, 3);
+  const std::string broken[] = {"",
+                                " ",
+                                "text",
+                                "<r>",
+                                "<r/><r/>",
+                                "<r/>x",
+                                "<r a='1' a='2'/>",
+                                "<r a=1/>",
+                                "<r a='<'/>",
+                                "<r a='&e;'/>",
+                                "<r>&e;</r>",
+                                "<r a='&#0;'/>",
+                                "<p:r/>",
+                                "<r>\x01</r>",
+                                "<r a='\xE4'/>",
+                                "<?xml version='1.0' encoding='UTF-8'?><r a='\xFF'/>",
+                                "<?xml version='1.0' encoding='no-such'?><r/>",
+                                utf16(u"<r a='x'") + "\xD8",
+                                std::string("<r/>\0", 5),
+                                std::string("<r/>\0<x", 7),
+                                "<r>" + std::string("\xFF\xFE", 2) + "</r>",
+                                std::string("\0\0\0\0", 4)};
+  for (const std::string& content : broken) EXPECT_EQ(load(content), nullptr) << content;
+}
+
+TEST_F(XmlDocumentTest, RefusesWhatCannotBeOpened) {
+  EXPECT_EQ(XmlDocument::Load(nullptr, m_error), nullptr);
+  EXPECT_EQ(XmlDocument::Load(m_folder.wide().c_str(), m_error), nullptr);
+  EXPECT_EQ(XmlDocument::Load((m_folder.wide() + L"\\none").c_str(), m_error), nullptr);
+  EXPECT_EQ(m_error.message, L"not readable");
+}
+
+TEST_F(XmlDocumentTest, RefusesDepthAndGrowthBeyondBounds) {
+  std::string deep;
+  for (int i = 0; i < 100000; ++i) deep += "<e>";
+  for (int i = 0; i < 100000; ++i) deep += "</e>";
+  EXPECT_EQ(load(deep), nullptr);
+
+  std::string laughs = "<!DOCTYPE r [<!ENTITY a0 'ha'>";
+  std::string elements = "<!DOCTYPE r [<!ENTITY a0 '<x/>'>";
+  for (int i = 1; i < 30; ++i) {
+    const std::string reference = "&a" + std::to_string(i - 1) + ";";
+    const std::string declaration = "<!ENTITY a" + std::to_string(i) + " '" + reference + reference + reference + "'>";
+    laughs += declaration;
+    elements += declaration;
+  }
+  EXPECT_EQ(load(laughs + "]><r a='&a29;'/>"), nullptr);
+  EXPECT_EQ(load(laughs + "]><r>&a29;</r>"), nullptr) << "in text";
+  EXPECT_EQ(load(elements + "]><r>&a29;</r>"), nullptr) << "as elements";
+
+  std::string quadratic = "<!DOCTYPE r [<!ENTITY e '";
+  for (int i = 0; i < 2000; ++i) quadratic += "<x/>";
+  quadratic += "'>]><r>";
+  for (int i = 0; i < 5000; ++i) quadratic += "&e;";
+  EXPECT_EQ(load(quadratic + "</r>"), nullptr);
+
+  std::string defaulted = "<!DOCTYPE r [<!ATTLIST e a CDATA '" + std::string(100000, 'x') + "'>]><r>";
+  for (int i = 0; i < 5000; ++i) defaulted += "<e/>";
+  EXPECT_EQ(load(defaulted + "</r>"), nullptr);
+
+  std::string wide = "<r";
+  for (int i = 0; i < 10001; ++i) wide += " a" + std::to_string(i) + "=''";
+  EXPECT_EQ(load(wide + "/>"), nullptr);
+  EXPECT_EQ(m_error.message, L"too many attributes");
+}
+
+TEST_F(XmlDocumentTest, TakesLargeTextAndManyElements) {
+  const auto document = load("<r a='" + std::string(5000000, 'x') + "'>" + std::string(20000000, 'y') + "</r>");
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(std::wstring(document->GetRoot().attributes[0].text).size(), 5000000u);
+  std::string many = "<r>";
+  for (int i = 0; i < 200000; ++i) many += "<a/>";
+  const auto flat = load(many + "</r>");
+  ASSERT_NE(flat, nullptr);
+  EXPECT_EQ(flat->GetRoot().childCount, 200000);
+}
+
+TEST_F(XmlDocumentTest, NeverTouchesAnotherFile) {
+  const std::string secret = m_folder.write("secret.txt", "<s/>").string();
+  const std::string dtd = m_folder.write("d.dtd", "<!ENTITY e 'from the DTD'>").string();
+  for (const std::string& target : {"file://" + secret, secret, std::string("http://127.0.0.1:9/x")}) {
+    const std::string declaration = "<!DOCTYPE r [<!ENTITY e SYSTEM '" + target + "'>";
+    EXPECT_EQ(load(declaration + "]><r>&e;</r>"), nullptr);
+    EXPECT_EQ(load(declaration + "]><r a='&e;'/>"), nullptr);
+    EXPECT_NE(load(declaration + "]><r/>"), nullptr) << "declared, but not used";
+    EXPECT_EQ(load("<!DOCTYPE r [<!ENTITY % p SYSTEM '" + target + "'> %p;]><r/>"), nullptr);
+  }
+  EXPECT_EQ(rootAttribute("<!DOCTYPE r SYSTEM '" + dtd + "'><r a='x&e;'/>"), L"x");
+  EXPECT_NE(load("<!DOCTYPE r SYSTEM 'http://127.0.0.1:9/x.dtd'><r/>"), nullptr);
+}
+
+}  // namespace ZORVEL

@@ -1,0 +1,57 @@
+#include "tests/support/LoadedRepositoryTest.h"
+
+#include "core/Settings.h"
+#include "host/application/Application.h"
+#include "host/application/Listener.h"
+#include "model/CharacterData.h"
+#include "model/Data2.h"
+#include "model/Selection2.h"
+#include "repository/Parser2.h"
+#include "scene/SceneNotifications.h"
+
+namespace support {
+
+using ZORVEL::CharacterData;
+using ZORVEL::Data2;
+using ZORVEL::Selection2;
+
+void LoadedRepositoryTest::SetUp() {
+  LogStoreTest::SetUp();
+  host::Application::instance().reset();
+  host::Application::instance().listener().clear();
+  ZORVEL::SceneNotifications::Register();
+  ZORVEL::Settings::LoadSettings();
+  ZORVEL::Settings::StorePath(repository_.root().c_str());
+  ASSERT_TRUE(ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath()));
+  Data2::SetValidated(true);
+  Selection2::SetCharacter(L"c1");
+  Selection2::SetCloth(L"k1");
+  Selection2::SetPose(L"p1");
+  Selection2::SetSkin(L"s1");
+  Selection2::SetStyle(L"k1m1");
+  clearLog();
+}
+
+void LoadedRepositoryTest::TearDown() {
+  host::Application::instance().reset();
+  ZORVEL::SceneNotifications::Unregister();
+  Selection2::Reset();
+  Data2::Clear();
+  ZORVEL::Settings::FreeSettings();
+  LogStoreTest::TearDown();
+}
+
+void LoadedRepositoryTest::addAsset(const wchar_t* id, const wchar_t* material) {
+  const ZORVEL::DataContainer* asset = Data2::FindGlobalAssetById(id);
+  const CharacterData* character = Data2::GetCharacter(L"c1");
+  for (int i = 0; asset == nullptr && i < character->GetCount(ZORVEL::ASSETS); ++i) {
+    const ZORVEL::DataContainer* one = character->GetContainerElement(ZORVEL::ASSETS, i);
+    bool found = false;
+    if (std::wstring(one->GetData(L"id", found)) == id) asset = one;
+  }
+  ASSERT_NE(asset, nullptr);
+  if (material != nullptr) asset = CharacterData::FindElementById(asset, material);
+  Selection2::AddAsset(Data2::GetUnique(asset));
+}
+
+}  // namespace support
