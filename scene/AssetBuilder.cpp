@@ -7,9 +7,9 @@
 #include "core/Debug.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
+#include "model/Fields.h"
 #include "scene/BuildContext.h"
 #include "scene/MaterialResolver.h"
-#include "scene/OptionalField.h"
 #include "scene/SceneNodes.h"
 
 namespace ZORVEL {
@@ -28,13 +28,13 @@ std::wstring GlobalFolder(const BuildContext& context, const wchar_t* folder) {
 
 const wchar_t* MaterialName(const BuildContext& context) {
   const DataContainer* holder = context.currentMaterial != nullptr ? context.currentMaterial : context.currentAsset;
-  return OptionalField(holder, L"material");
+  return Fields::OptionalText(holder, L"material");
 }
 
 /// The node, marked as the asset's; null when a field or the host's proxy class is missing.
 INode* AddMesh(const BuildContext& context, const std::wstring& meshFile) {
-  const wchar_t* id = OptionalField(context.currentAsset, L"id");
-  const wchar_t* name = OptionalField(context.currentAsset, L"name");
+  const wchar_t* id = Fields::OptionalText(context.currentAsset, L"id");
+  const wchar_t* name = Fields::OptionalText(context.currentAsset, L"name");
   if (id == nullptr || name == nullptr) return nullptr;
   INode* node = SceneNodes::AddProxy(meshFile, name, context.parent);
   if (node != nullptr) node->SetUserPropString(L"ZORVEL_ASSET", id);
@@ -55,7 +55,8 @@ void AddGlobal(const BuildContext& context, const wchar_t* folder) {
   INode* node = AddMesh(context, base + L"\\asset.vrmesh");
   if (node == nullptr) return;
   const DataContainer* own = context.character->FindLocalAssetForGlobal(context.currentAsset);
-  const AssetMatrixElement* row = context.character->FindAssetMatrixElement(context.poseId, OptionalField(own, L"id"));
+  const AssetMatrixElement* row =
+      context.character->FindAssetMatrixElement(context.poseId, Fields::OptionalText(own, L"id"));
   if (row == nullptr) return;
   Place(*node, *row);
   MaterialResolver::ResolveGlobal(MaterialName(context), base + L"\\materials.mat", node, context);
@@ -71,7 +72,7 @@ void AddOrdinary(const BuildContext& context, const wchar_t* folder) {
   const std::wstring base = OwnFolder(context, folder);
   INode* node = AddMesh(context, base + L"\\asset.vrmesh");
   if (node == nullptr) return;
-  const wchar_t* id = OptionalField(context.currentAsset, L"id");
+  const wchar_t* id = Fields::OptionalText(context.currentAsset, L"id");
   const AssetMatrixElement* row = context.character->FindAssetMatrixElement(context.poseId, id);
   if (row == nullptr) {
     Debug::AddDebugMessage(DEBUG_ERROR, L"could not find asset matrix...");
@@ -84,7 +85,7 @@ void AddOrdinary(const BuildContext& context, const wchar_t* folder) {
 }  // namespace
 
 void AssetBuilder::Add(const BuildContext& context) {
-  const wchar_t* folder = OptionalField(context.currentAsset, L"folder");
+  const wchar_t* folder = Fields::OptionalText(context.currentAsset, L"folder");
   if (folder == nullptr) return;
   if (Data2::CheckAssetGlobal(context.currentAsset)) {
     AddGlobal(context, folder);

@@ -9,11 +9,11 @@
 #include "core/Settings.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
+#include "model/Fields.h"
 #include "model/Selection2.h"
 #include "scene/AssetBuilder.h"
 #include "scene/BuildContext.h"
 #include "scene/MaterialResolver.h"
-#include "scene/OptionalField.h"
 #include "scene/SceneNodes.h"
 #include "scene/UnitFactor.h"
 
@@ -22,14 +22,14 @@ namespace ZORVEL {
 namespace {
 
 std::wstring CharacterNodeName(const DataContainer* character) {
-  const wchar_t* name = OptionalField(character, L"name");
+  const wchar_t* name = Fields::OptionalText(character, L"name");
   return std::wstring(L"ZORVEL Character ") + (name != nullptr ? name : L"");
 }
 
 /// Writes a field that is derived from others and answers the stored text.
 const wchar_t* DeriveField(DataContainer& record, const wchar_t* field, const std::wstring& text) {
   record.SetData(field, text.c_str());
-  return OptionalField(&record, field);
+  return Fields::OptionalText(&record, field);
 }
 
 bool PrepareCharacter(BuildContext& context) {
@@ -37,10 +37,10 @@ bool PrepareCharacter(BuildContext& context) {
   if (context.repositoryPath == nullptr) return false;
   context.characterId = Selection2::GetCharacter();
   context.character = Data2::GetCharacter(context.characterId);
-  context.characterFolder = OptionalField(context.character, L"folder");
+  context.characterFolder = Fields::OptionalText(context.character, L"folder");
   if (context.characterFolder == nullptr) return false;
-  context.generalTextureFolder = DeriveField(*context.character, L"generalTextureFolder",
-                                             std::wstring(context.characterFolder) + L"\\maps\\");
+  context.generalTextureFolder =
+      DeriveField(*context.character, L"generalTextureFolder", std::wstring(context.characterFolder) + L"\\maps\\");
   return context.generalTextureFolder != nullptr;
 }
 
@@ -61,22 +61,22 @@ bool PrepareElements(BuildContext& context) {
 
 bool Prepare(BuildContext& context) {
   if (!PrepareCharacter(context) || !PrepareElements(context)) return false;
-  context.globalMaps =
-      DeriveField(*context.character, L"globalMaps", std::wstring(context.repositoryPath) + L"maps\\");
+  context.globalMaps = DeriveField(*context.character, L"globalMaps", std::wstring(context.repositoryPath) + L"maps\\");
   return context.globalMaps != nullptr;
 }
 
 /// Null when a field or the host's proxy class is missing.
 INode* AddBody(const BuildContext& context) {
-  const wchar_t* folder = OptionalField(context.pose, L"folder");
-  const wchar_t* name = OptionalField(context.pose, L"name");
+  const wchar_t* folder = Fields::OptionalText(context.pose, L"folder");
+  const wchar_t* name = Fields::OptionalText(context.pose, L"name");
   if (folder == nullptr || name == nullptr) return nullptr;
   const std::wstring characterFolder = context.characterFolder;
   INode* node = SceneNodes::AddProxy(characterFolder + L"\\" + folder + L"\\pose.vrmesh", name, context.parent);
   if (node == nullptr) return nullptr;
-  node->SetUserPropString(L"ZORVEL_CHAR", OptionalField(context.character, L"id"));
-  node->SetUserPropString(L"ZORVEL_POSE", OptionalField(context.pose, L"id"));
-  MaterialResolver::Resolve(OptionalField(context.skin, L"material"), characterFolder + L"\\skin\\skin.mat", node, context);
+  node->SetUserPropString(L"ZORVEL_CHAR", Fields::OptionalText(context.character, L"id"));
+  node->SetUserPropString(L"ZORVEL_POSE", Fields::OptionalText(context.pose, L"id"));
+  MaterialResolver::Resolve(Fields::OptionalText(context.skin, L"material"), characterFolder + L"\\skin\\skin.mat",
+                            node, context);
   return node;
 }
 
@@ -84,7 +84,7 @@ void AddMandatoryElements(BuildContext& context) {
   for (int i = 0; i < context.pose->GetChildCount(); ++i) {
     Debug::AddDebugMessage(DEBUG_INFO, L"add mandatory element...");
     const DataContainer* entry = context.pose->GetChild(i);
-    if (OptionalField(entry, L"id") == nullptr) continue;
+    if (Fields::OptionalText(entry, L"id") == nullptr) continue;
     context.currentAsset = context.character->ResolveAsset(entry);
     context.currentMaterial = nullptr;
     if (context.currentAsset != nullptr && Data2::GetUnique(context.currentAsset) != 0) AssetBuilder::Add(context);
@@ -92,16 +92,16 @@ void AddMandatoryElements(BuildContext& context) {
 }
 
 void AddCloth(const BuildContext& context) {
-  const wchar_t* folder = OptionalField(context.cloth, L"folder");
-  const wchar_t* name = OptionalField(context.cloth, L"name");
+  const wchar_t* folder = Fields::OptionalText(context.cloth, L"folder");
+  const wchar_t* name = Fields::OptionalText(context.cloth, L"name");
   if (folder == nullptr || name == nullptr) return;
   const std::wstring base = std::wstring(context.characterFolder) + L"\\" + folder;
-  INode* node = SceneNodes::AddProxy(base + L"\\" + context.clothId + L"_" + context.poseId + L".vrmesh", name,
-                                     context.parent);
+  INode* node =
+      SceneNodes::AddProxy(base + L"\\" + context.clothId + L"_" + context.poseId + L".vrmesh", name, context.parent);
   if (node == nullptr) return;
   node->SetUserPropString(L"ZORVEL_CLOTH", context.clothId);
   node->SetUserPropString(L"ZORVEL_POSE", context.poseId);
-  MaterialResolver::Resolve(OptionalField(context.style, L"material"), base + L"\\materials.mat", node, context);
+  MaterialResolver::Resolve(Fields::OptionalText(context.style, L"material"), base + L"\\materials.mat", node, context);
 }
 
 void AddSelectedAssets(BuildContext& context) {
@@ -111,9 +111,8 @@ void AddSelectedAssets(BuildContext& context) {
     if (unique == 0) continue;
     context.currentAsset = nullptr;
     context.currentMaterial = nullptr;
-    const bool found =
-        Data2::GetGlobalAssetAndMaterial(unique, context.currentAsset, context.currentMaterial) ||
-        context.character->GetAssetAndMaterial(unique, context.currentAsset, context.currentMaterial);
+    const bool found = Data2::GetGlobalAssetAndMaterial(unique, context.currentAsset, context.currentMaterial) ||
+                       context.character->GetAssetAndMaterial(unique, context.currentAsset, context.currentMaterial);
     if (found) AssetBuilder::Add(context);
   }
 }

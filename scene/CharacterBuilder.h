@@ -4,13 +4,14 @@ class INode;
 
 namespace ZORVEL {
 
-/// Builds the selected character in the scene: one undoable step that leaves a group with the parent shape and its meshes.
+/// Builds the selected character in the scene: one undoable step that leaves a group with the parent shape and its
+/// meshes.
 class CharacterBuilder {
  public:
   CharacterBuilder() = delete;
 
-  /// The parent node (a member of the new group, not its head). Null when the selection is incomplete or names what the model
-  /// does not hold: the scene and the undo list are then as before.
+  /// The parent node (a member of the new group, not its head). Null when the selection is incomplete or names what the
+  /// model does not hold: the scene and the undo list are then as before.
   static INode* BuildSelectedCharacter();
 };
 

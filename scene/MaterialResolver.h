@@ -14,8 +14,8 @@ class MaterialResolver {
  public:
   MaterialResolver() = delete;
 
-  /// For body, clothing and the character's own assets. A name that is found nowhere leaves the node without a material; a
-  /// null node or name does nothing.
+  /// For body, clothing and the character's own assets. A name that is found nowhere leaves the node without a
+  /// material; a null node or name does nothing.
   static void Resolve(const wchar_t* materialName, const std::wstring& firstLibrary, INode* node,
                       const BuildContext& context);
   /// For assets that all characters share: the fallback library is the repository's.

@@ -4,7 +4,8 @@ class Object;
 
 namespace ZORVEL {
 
-/// Which proxy object shows which mesh file, and how many nodes use it. Owns nothing: it forgets an object with its last node.
+/// Which proxy object shows which mesh file, and how many nodes use it. Owns nothing: it forgets an object with its
+/// last node.
 class ProxyObjectDatabase {
  public:
   ProxyObjectDatabase() = delete;

@@ -2,7 +2,8 @@
 
 namespace ZORVEL {
 
-/// Keeps the register of proxy objects in step with the scene: a new or opened scene empties it, a node that goes is released.
+/// Keeps the register of proxy objects in step with the scene: a new or opened scene empties it, a node that goes is
+/// released.
 class SceneNotifications {
  public:
   SceneNotifications() = delete;

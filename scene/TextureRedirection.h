@@ -5,8 +5,8 @@ class Texmap;
 
 namespace ZORVEL {
 
-/// Points every bitmap inside a material at one folder, and brings the one material parameter that is a length into scene units.
-/// Call it once for a material fresh from its library: the length is multiplied each time.
+/// Points every bitmap inside a material at one folder, and brings the one material parameter that is a length into
+/// scene units. Call it once for a material fresh from its library: the length is multiplied each time.
 class TextureRedirection {
  public:
   TextureRedirection() = delete;

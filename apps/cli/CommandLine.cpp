@@ -18,9 +18,12 @@ namespace {
 const char* const EXIT_TEXT =
     "Exit status: 0 clean, 1 findings or nothing built, 2 wrong usage, 3 input unreadable, 4 internal error.";
 
-const std::map<std::string, int> UNITS = {{"inches", UNITS_INCHES},           {"feet", UNITS_FEET},
-                                          {"miles", UNITS_MILES},             {"millimeters", UNITS_MILLIMETERS},
-                                          {"centimeters", UNITS_CENTIMETERS}, {"meters", UNITS_METERS},
+const std::map<std::string, int> UNITS = {{"inches", UNITS_INCHES},
+                                          {"feet", UNITS_FEET},
+                                          {"miles", UNITS_MILES},
+                                          {"millimeters", UNITS_MILLIMETERS},
+                                          {"centimeters", UNITS_CENTIMETERS},
+                                          {"meters", UNITS_METERS},
                                           {"kilometers", UNITS_KILOMETERS}};
 
 /// A command and what it does once its arguments are read.

@@ -12,6 +12,7 @@
 #include "apps/cli/Progress.h"
 #include "host/application/Application.h"
 #include "host/application/Listener.h"
+#include "host/application/Units.h"
 #include "host/export/GltfWriter.h"
 #include "host/export/SceneJson.h"
 #include "host/files/Paths.h"
@@ -81,7 +82,10 @@ std::string writePicture(const CreateOptions& options, std::vector<host::ViewIte
 bool writeFiles(const CreateOptions& options, std::vector<host::ViewItem> items) {
   host::Scene& scene = host::Application::instance().scene();
   bool good = true;
-  if (!options.gltf.empty()) good = written(options.gltf, host::writeSceneGltf(scene, options.gltf)) && good;
+  if (!options.gltf.empty()) {
+    const double metres = host::Application::instance().units().sceneUnitIn(UNITS_METERS);
+    good = written(options.gltf, host::writeGltf(scene.root(), metres, options.gltf)) && good;
+  }
   if (!options.json.empty()) good = written(options.json, host::writeSceneJson(scene, options.json)) && good;
   if (!options.picture.empty()) good = written(options.picture, writePicture(options, std::move(items))) && good;
   return good;

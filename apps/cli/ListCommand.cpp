@@ -134,8 +134,8 @@ void printElements(const char* title, const Json& elements) {
   if (elements.empty()) return;
   std::cout << "  " << title << '\n';
   for (const Json& element : elements) {
-    std::cout << "    " << (element.value("usable", true) ? ' ' : '!') << ' ' << element["id"].get<std::string>() << "  "
-              << element["name"].get<std::string>() << details(element)
+    std::cout << "    " << (element.value("usable", true) ? ' ' : '!') << ' ' << element["id"].get<std::string>()
+              << "  " << element["name"].get<std::string>() << details(element)
               << (element.value("usable", true) ? "" : "  (not usable: no folder on disk)") << '\n';
   }
 }

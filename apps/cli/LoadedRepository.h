@@ -5,8 +5,8 @@
 
 namespace cli {
 
-/// A repository in the plug-in's store, parsed and checked on disk, for as long as this lives. There is one store, so there may
-/// be one of these at a time. The user's own settings file is left alone.
+/// A repository in the plug-in's store, parsed and checked on disk, for as long as this lives. There is one store, so
+/// there may be one of these at a time. The user's own settings file is left alone.
 class LoadedRepository {
  public:
   /// Look at error() before anything else.

@@ -19,7 +19,8 @@ bool holdsFiles(const std::filesystem::path& folder) {
 
 int runSample(const SampleCommandOptions& options) {
   if (holdsFiles(options.folder) && !options.force) {
-    std::cerr << "zorvel sample: " << options.folder.string() << " is not empty; --force writes into it all the same.\n";
+    std::cerr << "zorvel sample: " << options.folder.string()
+              << " is not empty; --force writes into it all the same.\n";
     return EXIT_FINDINGS;
   }
   Progress progress("Writing the sample repository");

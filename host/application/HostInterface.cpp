@@ -104,7 +104,8 @@ int HostInterface::LoadMaterialLib(const MCHAR* name, MtlBaseLib* library) {
   const std::wstring path = textOf(name);
   const MaterialLibraryContent content = readMaterialLibrary(path);
   if (!content.error.empty()) {
-    if (!content.missing) application().listener().report("Material library " + toUtf8(path) + " " + content.error + ".");
+    if (!content.missing)
+      application().listener().report("Material library " + toUtf8(path) + " " + content.error + ".");
     return 0;
   }
   MtlBaseLib& target = library != nullptr ? *library : *library_;

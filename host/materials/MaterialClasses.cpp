@@ -5,7 +5,8 @@ namespace host {
 namespace {
 
 std::vector<ParameterBlock::Parameter> surfaceParameters() {
-  return {{DIFFUSE_COLOR, TYPE_RGBA, Color(0.6F, 0.6F, 0.6F)}, {ROUGHNESS, TYPE_FLOAT, 0.6F}, {OPACITY, TYPE_FLOAT, 1.0F}};
+  return {
+      {DIFFUSE_COLOR, TYPE_RGBA, Color(0.6F, 0.6F, 0.6F)}, {ROUGHNESS, TYPE_FLOAT, 0.6F}, {OPACITY, TYPE_FLOAT, 1.0F}};
 }
 
 Ref<ParameterBlock> block(std::vector<ParameterBlock::Parameter> parameters) {

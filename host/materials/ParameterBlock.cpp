@@ -84,7 +84,8 @@ BOOL ParameterBlock::set(ParamID id, Value value) {
   if (before.index() != value.index()) return FALSE;
   if (before == value) return TRUE;
   const Ref<ParameterBlock> self(this);
-  applyChange([self, index, before] { self->store(index, before); }, [self, index, value] { self->store(index, value); });
+  applyChange([self, index, before] { self->store(index, before); },
+              [self, index, value] { self->store(index, value); });
   return TRUE;
 }
 

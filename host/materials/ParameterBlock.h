@@ -21,7 +21,8 @@ class ParameterBlock final : public IParamBlock2 {
     Value value;
   };
 
-  /// `changed` is called after a value changed, by whatever way; it may be empty and must stay callable as long as the block.
+  /// `changed` is called after a value changed, by whatever way; it may be empty and must stay callable as long as the
+  /// block.
   ParameterBlock(BlockID id, std::vector<Parameter> parameters, std::function<void()> changed = {});
 
   SClass_ID SuperClassID() override { return PARAMETER_BLOCK2_CLASS_ID; }

@@ -29,7 +29,6 @@ void readParameter(Mtl& material, ParamID id, T& value) {
   if (block != nullptr) block->GetValue(id, 0, value, valid);
 }
 
-
 std::shared_ptr<const Texture> readTexture(BitmapTex& bitmap) {
   const std::wstring file = bitmap.GetMapName();
   const Texture::Reading reading = TextureCache::instance().get(resolvePath(file));

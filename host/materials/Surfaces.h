@@ -8,8 +8,9 @@
 
 namespace host {
 
-/// How the host draws a material, by face material id: one surface, or one for each slot of a multi/sub-object material. Null
-/// gives none, which means plain clay. Textures are read now; one that cannot be is reported to the listener and left out.
+/// How the host draws a material, by face material id: one surface, or one for each slot of a multi/sub-object
+/// material. Null gives none, which means plain clay. Textures are read now; one that cannot be is reported to the
+/// listener and left out.
 std::vector<Surface> surfacesOf(Mtl* material);
 
 }  // namespace host

@@ -35,7 +35,7 @@ Node::~Node() {
 }
 
 template <class Value>
-void Node::change(Value Node::* member, Value value) {
+void Node::change(Value Node::*member, Value value) {
   changeMember(Ref<Node>(this), member, std::move(value));
   scene().touch();
 }
@@ -104,10 +104,12 @@ void Node::SetUserPropString(const MSTR& key, const MSTR& value) {
 
 void Node::SetUserPropBool(const MSTR& key, BOOL value) { SetUserPropString(key, value != FALSE ? L"TRUE" : L"FALSE"); }
 
-BOOL Node::UserPropExists(const MSTR& key) { return findProperty(properties_, key) != properties_.end() ? TRUE : FALSE; }
+BOOL Node::UserPropExists(const MSTR& key) {
+  return findProperty(properties_, key) != properties_.end() ? TRUE : FALSE;
+}
 
-void Node::Move(TimeValue t, const Matrix3& tmAxis, const Point3& val, BOOL /*localOrigin*/, BOOL affectKids, int pivMode,
-                BOOL /*ignoreLocks*/) {
+void Node::Move(TimeValue t, const Matrix3& tmAxis, const Point3& val, BOOL /*localOrigin*/, BOOL affectKids,
+                int pivMode, BOOL /*ignoreLocks*/) {
   if (isRoot_) return;
   Matrix3 by(TRUE);
   by.Translate(tmAxis.VectorTransform(val));

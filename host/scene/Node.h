@@ -11,7 +11,8 @@
 
 namespace host {
 
-/// A node of the embedded host. Every change made through INode is recorded while theHold holds. Made and moved about by Scene.
+/// A node of the embedded host. Every change made through INode is recorded while theHold holds. Made and moved about
+/// by Scene.
 class Node final : public INode {
  public:
   using Properties = std::vector<std::pair<MSTR, MSTR>>;
@@ -72,7 +73,7 @@ class Node final : public INode {
   friend class Scene;
 
   template <class Value>
-  void change(Value Node::* member, Value value);
+  void change(Value Node::*member, Value value);
   /// Gives pivot and geometry new places in the world; `keepKids` leaves the children where they are.
   void place(const Matrix3& nodeTM, const Matrix3& objectTM, bool keepKids);
 

@@ -13,8 +13,8 @@ namespace host {
 
 constexpr Class_ID PROXY_OBJECT(0x6CF53873, 0x1FF85498);
 
-/// A mesh that stays in its file until somebody measures, hits or draws it. Block 0: parameter 0 is the file, parameter 2 a
-/// float that is kept and not applied, because nothing open says what the renderer does with it.
+/// A mesh that stays in its file until somebody measures, hits or draws it. Block 0: parameter 0 is the file, parameter
+/// 2 a float that is kept and not applied, because nothing open says what the renderer does with it.
 class ProxyObject final : public GeomObject, public Geometry {
  public:
   static constexpr ParamID FILE_NAME = 0;

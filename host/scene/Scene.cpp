@@ -162,7 +162,8 @@ Scene::Place Scene::placeOf(const Node& node) const {
   return {Ref<Node>(node.parent_), static_cast<std::size_t>(self - siblings.begin()), node.local_};
 }
 
-// Undo and redo come here too, perhaps after nodes were deleted without a record: what is not in the scene stays out of it.
+// Undo and redo come here too, perhaps after nodes were deleted without a record: what is not in the scene stays out of
+// it.
 void Scene::moveTo(Node& node, const Place& place) {
   if (!node.inScene() || !place.parent->inScene()) return;
   const Ref<Node> kept(&node);
@@ -202,7 +203,8 @@ void Scene::link(Node& child, Node& parent, std::size_t index) {
 void Scene::unlink(Node& child) {
   std::vector<Ref<Node>>& siblings = child.parent_->children_;
   child.parent_ = nullptr;
-  siblings.erase(std::find_if(siblings.begin(), siblings.end(), [&](const Ref<Node>& one) { return one.get() == &child; }));
+  siblings.erase(
+      std::find_if(siblings.begin(), siblings.end(), [&](const Ref<Node>& one) { return one.get() == &child; }));
 }
 
 MSTR Scene::defaultName(Object& object) {

@@ -10,8 +10,8 @@ class RestoreObj {
   virtual void Redo() = 0;
 };
 
-/// Records what changes between Begin and the matching Accept. Begin and Accept nest: only the outermost Accept makes an entry
-/// of the undo list, and a Cancel inside takes back the whole nest.
+/// Records what changes between Begin and the matching Accept. Begin and Accept nest: only the outermost Accept makes
+/// an entry of the undo list, and a Cancel inside takes back the whole nest.
 class Hold {
  public:
   void Begin();

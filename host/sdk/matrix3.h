@@ -3,8 +3,8 @@
 #include <maxtypes.h>
 #include <point3.h>
 
-/// Four rows by three columns over row vectors: p' = p * M, rows 0 to 2 are the axes, row 3 the translation, and A * B is
-/// first A, then B. The default constructor leaves the contents undefined, as in 3ds Max 2018.
+/// Four rows by three columns over row vectors: p' = p * M, rows 0 to 2 are the axes, row 3 the translation, and A * B
+/// is first A, then B. The default constructor leaves the contents undefined, as in 3ds Max 2018.
 class Matrix3 {
  public:
   Matrix3() = default;

@@ -33,13 +33,15 @@ class Interface {
   virtual void ClearNodeSelection(BOOL redraw = TRUE) = 0;
   virtual int GetSelNodeCount() = 0;
   virtual INode* GetSelNode(int i) = 0;
-  /// The new group's head, a helper under the root; null when there is nothing to group. A null table takes the selection.
+  /// The new group's head, a helper under the root; null when there is nothing to group. A null table takes the
+  /// selection.
   virtual INode* GroupNodes(INodeTab* nodes = nullptr, MSTR* name = nullptr, BOOL selGroup = TRUE) = 0;
 
   /// Materials of the nodes that are in the scene.
   virtual MtlBaseLib* GetSceneMtls() = 0;
   virtual MtlBaseLib& GetMaterialLibrary() = 0;
-  /// Fills `library`, or with null replaces the host's current library. 0, and nothing changed, when the file is no library.
+  /// Fills `library`, or with null replaces the host's current library. 0, and nothing changed, when the file is no
+  /// library.
   virtual int LoadMaterialLib(const MCHAR* name, MtlBaseLib* library = nullptr) = 0;
 };
 

@@ -34,19 +34,21 @@ std::string nested(int depth) {
 
 TEST_F(MaterialLibraryFile, RefusesWhatItCannotReadInOneLineAndKeepsTheCurrentLibrary) {
   Interface* host = GetCOREInterface();
-  ASSERT_NE(host->LoadMaterialLib(write(support::materialLibrary(support::texturedMaterial("Kept", "a.png"))).c_str()), 0);
+  ASSERT_NE(host->LoadMaterialLib(write(support::materialLibrary(support::texturedMaterial("Kept", "a.png"))).c_str()),
+            0);
   const std::string bad[] = {
       "",                                                                // empty
       std::string("\x00\x01\x42 binary", 10),                            // a real, binary library
       "{\"format\": \"zorvel-material-library\", \"version\": 1, ",      // cut off
       R"({"format": "something else", "version": 1, "materials": []})",  // not ours
       R"({"format": "zorvel-material-library", "version": 2, "materials": []})",
-      R"({"format": "zorvel-material-library", "version": 1})",                                // no materials
-      R"({"format": 7, "version": 1, "materials": []})",                                       // wrong type
-      support::materialLibrary(R"({"name": "x"})"),                                            // no class
-      support::materialLibrary(R"({"name": "x", "class": "marble"})"),                         // unknown class
-      support::materialLibrary(R"({"name": 5, "class": "standard"})"),                         // name is no text
-      support::materialLibrary(R"({"name": "x", "class": "standard", "blocks": [[{"id": 1, "type": "float", "value": "a"}]]})"),
+      R"({"format": "zorvel-material-library", "version": 1})",         // no materials
+      R"({"format": 7, "version": 1, "materials": []})",                // wrong type
+      support::materialLibrary(R"({"name": "x"})"),                     // no class
+      support::materialLibrary(R"({"name": "x", "class": "marble"})"),  // unknown class
+      support::materialLibrary(R"({"name": 5, "class": "standard"})"),  // name is no text
+      support::materialLibrary(
+          R"({"name": "x", "class": "standard", "blocks": [[{"id": 1, "type": "float", "value": "a"}]]})"),
       nested(100),
       nested(5000)};
   for (const std::string& content : bad) {

@@ -37,7 +37,8 @@ std::wstring fingerprint(const Scene& scene) {
     text += node->IsGroupHead() != FALSE ? L" head" : L"";
     text += node->Selected() != 0 ? L" selected" : L"";
     text += node->GetMtl() != nullptr ? node->GetMtl()->GetName().data() : L" bare";
-    for (const auto& property : node->properties()) text += std::wstring(property.first) + L"=" + property.second.data();
+    for (const auto& property : node->properties())
+      text += std::wstring(property.first) + L"=" + property.second.data();
     for (int row = 0; row < 4; ++row) {
       const Point3 p = node->GetObjectTM(0).GetRow(row);
       text += L" " + std::to_wstring(p.x) + L"," + std::to_wstring(p.y) + L"," + std::to_wstring(p.z);

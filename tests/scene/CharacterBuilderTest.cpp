@@ -114,7 +114,8 @@ TEST_F(CharacterBuild, HasTheSameSizeInTheWorldInEverySystemUnit) {
     Application::instance().reset();
     SetMasterUnitInfo(unit, 1.0F);
     ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
-    const Point3 size = proxies().front()->worldBounds().Width() * static_cast<float>(GetMasterScale(UNITS_CENTIMETERS));
+    const Point3 size =
+        proxies().front()->worldBounds().Width() * static_cast<float>(GetMasterScale(UNITS_CENTIMETERS));
     EXPECT_NEAR(size.x, 40.0F, 1e-3F);
     EXPECT_NEAR(size.z, 170.0F, 1e-3F);
   }
@@ -125,8 +126,11 @@ TEST_F(CharacterBuild, WithoutACompleteSelectionLeavesNoNodeNoLayerMemberAndNoRe
     void (*set)(const wchar_t*);
     const wchar_t* good;
   };
-  const Case cases[] = {{Selection2::SetCharacter, L"c1"}, {Selection2::SetCloth, L"k1"}, {Selection2::SetPose, L"p1"},
-                        {Selection2::SetSkin, L"s1"},      {Selection2::SetStyle, L"k1m1"}};
+  const Case cases[] = {{Selection2::SetCharacter, L"c1"},
+                        {Selection2::SetCloth, L"k1"},
+                        {Selection2::SetPose, L"p1"},
+                        {Selection2::SetSkin, L"s1"},
+                        {Selection2::SetStyle, L"k1m1"}};
   for (const Case& one : cases) {
     for (const wchar_t* bad : {static_cast<const wchar_t*>(nullptr), L"unknown"}) {
       one.set(bad);

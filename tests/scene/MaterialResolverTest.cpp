@@ -73,7 +73,8 @@ TEST_F(MaterialResolution, SearchesOwnLibraryThenTheCharactersThenItsProps) {
   expectLogged(ZORVEL::DEBUG_INFO, characterFolder_ + L"\\props.mat");
   expectLogged(ZORVEL::DEBUG_INFO, L"Found material in lib");
   MSTR name(L"From props");
-  EXPECT_EQ(GetCOREInterface()->GetMaterialLibrary().FindMtlByName(name), 0) << "the last library stays the current one";
+  EXPECT_EQ(GetCOREInterface()->GetMaterialLibrary().FindMtlByName(name), 0)
+      << "the last library stays the current one";
   EXPECT_EQ(resolve(L"Oak")->GetMtl(), nullptr) << "only assets that all share look in the repository's library";
   expectLogged(ZORVEL::DEBUG_INFO, L"Could not find material");
   INode* shared = addNode();
@@ -95,14 +96,18 @@ TEST_F(MaterialResolution, TakesAMaterialOfTheSceneAsItIs) {
 TEST_F(MaterialResolution, RedirectsBitmapsInSlotsParametersNestedMapsAndMaterials) {
   const std::string bitmap = R"({"class": "bitmap", "file": "C:\\x\\)";
   writeLibrary(R"({"name": "Deep", "class": [1, 2],
-    "subTextures": [)" + bitmap + R"(slot.png"}, null],
+    "subTextures": [)" +
+               bitmap + R"(slot.png"}, null],
     "blocks": [[{"id": 5, "type": "texmap", "value": {"class": [3, 4],
-                  "blocks": [[{"id": 1, "type": "texmap", "value": )" + bitmap + R"(nested.png"}},
+                  "blocks": [[{"id": 1, "type": "texmap", "value": )" +
+               bitmap + R"(nested.png"}},
                               {"id": 2, "type": "texmap", "value": null}]]}},
                 {"id": 6, "type": "material", "value": {"name": "Coat", "class": "standard",
-                  "subTextures": [null, )" + bitmap + R"(coat.tar.png"}]}}]]},
+                  "subTextures": [null, )" +
+               bitmap + R"(coat.tar.png"}]}}]]},
     {"name": "Parts", "class": "multi", "subMaterials": [null, {"name": "Part", "class": "standard",
-      "subTextures": [null, )" + bitmap + R"(part.png"}]}]})");
+      "subTextures": [null, )" +
+               bitmap + R"(part.png"}]}]})");
   Mtl* deep = resolve(L"Deep")->GetMtl();
   ASSERT_NE(deep, nullptr);
   EXPECT_EQ(bitmapsOf(*deep), (Files{L"slot.png", L"nested.png"}));

@@ -1,0 +1,190 @@
+#include "apps/cli/CommandLine.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <nlohmann/json.hpp>
+
+#include "apps/cli/ExitStatus.h"
+#include "apps/cli/NearestIds.h"
+#include "tests/support/SmallRepository.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using Json = nlohmann::json;
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+Outcome run(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), "zorvel");
+  std::vector<const char*> argv;
+  for (const std::string& argument : arguments) argv.push_back(argument.c_str());
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  Outcome outcome;
+  outcome.status = cli::run(static_cast<int>(argv.size()), argv.data());
+  outcome.out = testing::internal::GetCapturedStdout();
+  outcome.err = testing::internal::GetCapturedStderr();
+  return outcome;
+}
+
+class CommandLine : public testing::Test {
+ protected:
+  std::string root() const { return repository_.folder().path().string(); }
+  std::string file(const std::string& name) const { return (out_.path() / name).string(); }
+  bool isWritten(const std::string& name) const { return std::filesystem::exists(out_.path() / name); }
+  Json json(const std::string& name) const { return Json::parse(out_.read(name)); }
+  /// Every picture that the materials name, as one grey pixel.
+  void writeTextures() const {
+    const std::string pixel("P6 1 1 255\n\x80\x80\x80", 14);
+    for (const char* name : {"skin_d.png", "blue.png", "canvas.png", "props.png", "leather.png", "oak.png"}) {
+      repository_.folder().write(std::string("maps/") + name, pixel);
+    }
+  }
+
+  support::SmallRepository repository_;
+  support::TemporaryFolder out_;
+};
+
+TEST_F(CommandLine, AnswersTheExitStatusThatTheHelpPromises) {
+  const support::TemporaryFolder broken;
+  broken.write("malformed/zorvel.xml", "<zorvel><character>");
+  broken.write("other/zorvel.xml", "<catalogue/>");
+  broken.write("empty/zorvel.xml", "");
+  const std::string base = broken.path().string();
+  const struct {
+    std::vector<std::string> arguments;
+    int status;
+    const char* says;
+  } cases[] = {{{"--help"}, cli::EXIT_CLEAN, "Exit status"},
+               {{"create", "--help"}, cli::EXIT_CLEAN, "Exit status"},
+               {{"list", "--help"}, cli::EXIT_CLEAN, "Exit status"},
+               {{"sample", "--help"}, cli::EXIT_CLEAN, "Exit status"},
+               {{}, cli::EXIT_USAGE, "subcommand"},
+               {{"crate", root()}, cli::EXIT_USAGE, "crate"},
+               {{"create"}, cli::EXIT_USAGE, "DIR"},
+               {{"create", root(), "--unit", "elephants"}, cli::EXIT_USAGE, "elephants"},
+               {{"list", base + "/none"}, cli::EXIT_UNREADABLE, "not a folder"},
+               {{"list", base}, cli::EXIT_UNREADABLE, "no zorvel.xml"},
+               {{"list", base + "/malformed"}, cli::EXIT_UNREADABLE, "well-formed"},
+               {{"list", base + "/empty"}, cli::EXIT_UNREADABLE, "well-formed"},
+               {{"create", base + "/other"}, cli::EXIT_UNREADABLE, "document element"},
+               {{"list", root()}, cli::EXIT_CLEAN, "Anna"}};
+  for (const auto& one : cases) {
+    const Outcome outcome = run(one.arguments);
+    EXPECT_EQ(outcome.status, one.status) << testing::PrintToString(one.arguments);
+    EXPECT_THAT(outcome.out + outcome.err, HasSubstr(one.says)) << testing::PrintToString(one.arguments);
+  }
+}
+
+TEST_F(CommandLine, ListsWhatTheModelHoldsAndWhatIsUsable) {
+  std::filesystem::remove_all(repository_.folder().path() / "anna/hat");
+  const Outcome outcome = run({"list", root(), "--json"});
+  const Json anna = Json::parse(outcome.out)["characters"][0];
+  EXPECT_EQ(anna["id"], "c1");
+  EXPECT_EQ(anna["poses"][0]["mandatory"], Json({"a2", "gone"}));
+  EXPECT_EQ(anna["clothing"][0]["styles"].size(), 3U);
+  EXPECT_EQ(anna["clothing"][0]["excludes"], Json({"a3"}));
+  EXPECT_EQ(anna["categories"][1]["required"], true);
+  EXPECT_EQ(anna["assets"][2]["usable"], false);
+  EXPECT_EQ(anna["assets"][3]["usable"], true);
+  EXPECT_EQ(anna["assets"][4]["globalID"], "g1");
+}
+
+TEST_F(CommandLine, BuildsTheFirstUsableChoiceCleanlyAndWritesItsFiles) {
+  writeTextures();
+  const Outcome outcome = run({"create", root(), "--picture", file("a.png"), "--width", "64", "--height", "48",
+                               "--gltf", file("a.glb"), "--json", file("a.json")});
+  EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("Built ZORVEL Character Anna, 5 nodes"));
+  EXPECT_THAT(outcome.out, HasSubstr("material Blue"));
+  EXPECT_TRUE(isWritten("a.png"));
+  EXPECT_EQ(out_.read("a.glb").substr(0, 4), "glTF");
+  const Json head = json("a.json")["nodes"][0];
+  EXPECT_EQ(head["group"], "head");
+  EXPECT_EQ(head["layer"], "ZORVEL Characters");
+  const Json body = head["children"][0]["children"][0];
+  EXPECT_EQ(body["properties"]["ZORVEL_POSE"], "p1");
+  EXPECT_EQ(body["material"]["textures"][0], root() + "\\maps\\skin_d.png");
+}
+
+TEST_F(CommandLine, NamesTheNearestIdsAndBuildsNothingForAnUnknownOne) {
+  for (const char* option : {"--character", "--cloth", "--pose", "--skin", "--style", "--asset"}) {
+    const Outcome outcome = run({"create", root(), option, "p11x", "--json", file("none.json")});
+    EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+    EXPECT_THAT(outcome.err, HasSubstr("\"p11x\""));
+    EXPECT_THAT(outcome.err, testing::AnyOf(HasSubstr("nearest: "), HasSubstr("known: ")));
+    EXPECT_THAT(outcome.out, Not(HasSubstr("Built")));
+    EXPECT_FALSE(isWritten("none.json"));
+  }
+  EXPECT_THAT(cli::nearestIds("Standng", {"sitting", "standing", "walking"}),
+              ElementsAre("standing", "sitting", "walking"));
+}
+
+TEST_F(CommandLine, BuildsWithoutWhatIsMissingOrUnreadableAndSaysWhich) {
+  std::filesystem::remove(repository_.folder().path() / "anna/standing/pose.vrmesh");
+  repository_.folder().write("anna/summer/k1_p1.vrmesh", std::string("\x7fVRAY\0binary", 12));
+  repository_.folder().write("anna/summer/materials.mat", std::string("\0\1\2binary", 9));
+  repository_.folder().write("maps/skin_d.png", "no picture");
+  const Outcome outcome = run({"create", root(), "--json", file("a.json")});
+  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+  EXPECT_THAT(outcome.out, HasSubstr("Built ZORVEL Character Anna"));
+  for (const char* named :
+       {"pose.vrmesh", "k1_p1.vrmesh", "summer\\materials.mat", "\"Blue\"", "skin_d.png", "oak.png"}) {
+    EXPECT_THAT(outcome.err, HasSubstr(named));
+  }
+  EXPECT_TRUE(isWritten("a.json"));
+}
+
+TEST_F(CommandLine, ChoosesAssetsByTheRulesOfClothingPoseAndCategory) {
+  writeTextures();
+  const Outcome outcome =
+      run({"create", root(), "--asset", "a1:a1m1", "--asset", "a3", "--asset", "a6", "--asset", "g1:g1m1"});
+  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+  EXPECT_THAT(outcome.out, HasSubstr("material Canvas"));
+  EXPECT_THAT(outcome.out, HasSubstr("bench"));
+  EXPECT_THAT(outcome.err, HasSubstr("a3 left out: the clothing excludes it"));
+  EXPECT_THAT(outcome.err, HasSubstr("a6 left out: it has no place in this pose"));
+  EXPECT_THAT(outcome.out, HasSubstr("oak"));
+}
+
+TEST_F(CommandLine, LeavesNothingBehindWhereAFileCannotBeWritten) {
+  const Outcome outcome = run({"create", root(), "--gltf", file("none/a.glb"), "--json", file("none/a.json")});
+  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+  EXPECT_THAT(outcome.err, HasSubstr("a.glb"));
+  EXPECT_THAT(outcome.err, HasSubstr("a.json"));
+  EXPECT_TRUE(std::filesystem::is_empty(out_.path()));
+}
+
+/// Decimal commas and grouped thousands, whatever locales the machine has.
+class CommaPunctuation : public std::numpunct<char> {
+  char do_decimal_point() const override { return ','; }
+  char do_thousands_sep() const override { return '.'; }
+  std::string do_grouping() const override { return "\3"; }
+};
+
+TEST_F(CommandLine, ReadsAndWritesTheSameNumbersInALocaleWithDecimalCommas) {
+  const auto create = [&](const std::string& name) {
+    run({"create", root(), "--asset", "a1", "--unit", "inches", "--json", file(name)});
+    Json nodes = json(name)["nodes"];
+    return nodes[0]["children"][0]["children"][3]["transform"];
+  };
+  const Json plain = create("plain.json");
+  const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CommaPunctuation));
+  std::setlocale(LC_ALL, "de_DE.UTF-8");
+  const Json comma = create("comma.json");
+  std::locale::global(before);
+  std::setlocale(LC_ALL, "C");
+  EXPECT_EQ(plain, comma);
+  EXPECT_NEAR(plain[3][0].get<double>(), 10 / 2.54, 1e-5);
+}
+
+}  // namespace
