@@ -58,6 +58,7 @@ Command addCreate(CLI::App& app) {
   command->add_option("--asset", options->assets, "ID or ID:MATERIAL of an asset; may be repeated")
       ->type_size(1)
       ->allow_extra_args(false);
+  command->add_flag("--bare", options->bare, "No assets besides those given: not those that belong to the clothing");
   command->add_option("--unit", options->unit, "System unit of the scene (centimeters unless given)")
       ->transform(CLI::CheckedTransformer(UNITS, CLI::ignore_case))
       ->option_text("UNIT");

@@ -17,6 +17,8 @@ struct CreateOptions {
   std::optional<std::string> style;
   /// ID or ID:MATERIAL.
   std::vector<std::string> assets;
+  /// Leaves out what the clothing selects and required categories ask for.
+  bool bare = false;
   /// One of the UNITS_ constants.
   int unit;
   /// Files to write; empty for none.

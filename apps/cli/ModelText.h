@@ -17,6 +17,13 @@ std::vector<ZORVEL::DataContainer*> clothChildren(const ZORVEL::DataContainer& c
 std::vector<ZORVEL::CharacterData*> characters();
 std::vector<ZORVEL::DataContainer*> globalAssets();
 
+template <class Record>
+std::vector<std::string> idsOf(const std::vector<Record*>& records) {
+  std::vector<std::string> ids;
+  for (const Record* record : records) ids.push_back(field(record, L"id"));
+  return ids;
+}
+
 /// Whether its folder was found on disk.
 bool isUsable(const ZORVEL::DataContainer& record);
 

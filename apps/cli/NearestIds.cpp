@@ -44,4 +44,15 @@ std::vector<std::string> nearestIds(const std::string& wanted, const std::vector
   return result;
 }
 
+std::string unknownId(const std::string& kind, const std::string& wanted, const std::vector<std::string>& known) {
+  constexpr std::size_t MOST = 8;
+  std::string text = "There is no " + kind + " with the id \"" + wanted + "\"";
+  const std::vector<std::string> near = nearestIds(wanted, known);
+  const std::vector<std::string>& named = near.empty() ? known : near;
+  if (named.empty()) return text + ".";
+  text += near.empty() ? "; known: " : "; nearest: ";
+  for (std::size_t i = 0; i < named.size() && i < MOST; ++i) text += (i == 0 ? "" : ", ") + named[i];
+  return text + ".";
+}
+
 }  // namespace cli

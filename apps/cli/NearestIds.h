@@ -9,4 +9,7 @@ namespace cli {
 /// left out.
 std::vector<std::string> nearestIds(const std::string& wanted, const std::vector<std::string>& known);
 
+/// A sentence about an id that there is not, which names the nearest or, when none is near, some of the known.
+std::string unknownId(const std::string& kind, const std::string& wanted, const std::vector<std::string>& known);
+
 }  // namespace cli

@@ -7,7 +7,7 @@ namespace cli {
 
 struct SampleCommandOptions {
   std::filesystem::path folder;
-  std::uint32_t seed = 1;
+  std::uint64_t seed = 1;
   bool force = false;
 };
 
