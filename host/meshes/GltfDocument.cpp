@@ -1,0 +1,219 @@
+#include "host/meshes/GltfDocument.h"
+
+#include <cstring>
+#include <string>
+
+#include "host/meshes/UnreadableMesh.h"
+
+namespace host {
+
+namespace {
+
+constexpr std::uint32_t jsonChunk = 0x4E4F534A;
+constexpr std::uint32_t binaryChunk = 0x004E4942;
+constexpr std::size_t headerSize = 12;
+constexpr std::size_t chunkHeaderSize = 8;
+// Parsed JSON takes many times the room of its text.
+constexpr std::size_t longestJson = std::size_t(64) << 20U;
+
+enum ComponentType : unsigned { Byte = 5120, UnsignedByte, Short, UnsignedShort, UnsignedInt = 5125, Float };
+
+template <class Value>
+Value valueAt(const unsigned char* bytes) {
+  Value value;
+  std::memcpy(&value, bytes, sizeof value);
+  return value;
+}
+
+std::uint32_t wordAt(std::string_view bytes, std::size_t offset) {
+  if (offset + 4 > bytes.size()) throw UnreadableMesh("the glTF file is cut short");
+  std::uint32_t word;
+  std::memcpy(&word, bytes.data() + offset, sizeof word);
+  return word;
+}
+
+struct Chunk {
+  std::uint32_t type;
+  std::string_view bytes;
+};
+
+/// Nothing at the end of the file; moves `offset` on.
+std::optional<Chunk> nextChunk(std::string_view glb, std::size_t& offset) {
+  if (offset + chunkHeaderSize > glb.size()) return std::nullopt;
+  const std::size_t length = wordAt(glb, offset);
+  const std::uint32_t type = wordAt(glb, offset + 4);
+  offset += chunkHeaderSize;
+  if (length > glb.size() - offset) throw UnreadableMesh("the glTF file is cut short");
+  const Chunk chunk{type, glb.substr(offset, length)};
+  offset += (length + 3) / 4 * 4;
+  return chunk;
+}
+
+std::size_t componentSize(unsigned componentType) {
+  switch (componentType) {
+    case Byte:
+    case UnsignedByte:
+      return 1;
+    case Short:
+    case UnsignedShort:
+      return 2;
+    case UnsignedInt:
+    case Float:
+      return 4;
+    default:
+      throw UnreadableMesh("the glTF file has numbers of an unknown type");
+  }
+}
+
+std::uint32_t wholeNumber(const unsigned char* bytes, unsigned componentType) {
+  switch (componentType) {
+    case UnsignedByte:
+      return *bytes;
+    case UnsignedShort:
+      return valueAt<std::uint16_t>(bytes);
+    case UnsignedInt:
+      return valueAt<std::uint32_t>(bytes);
+    default:
+      throw UnreadableMesh("the glTF file has vertex indices that are no whole numbers");
+  }
+}
+
+/// A float, or a normalized whole number.
+float fraction(const unsigned char* bytes, unsigned componentType) {
+  switch (componentType) {
+    case Float:
+      return valueAt<float>(bytes);
+    case UnsignedByte:
+      return static_cast<float>(*bytes) / 255.0F;
+    case UnsignedShort:
+      return static_cast<float>(valueAt<std::uint16_t>(bytes)) / 65535.0F;
+    default:
+      throw UnreadableMesh("the glTF file has texture coordinates of an unknown type");
+  }
+}
+
+bool changesNoShape(const std::string& extension) {
+  return extension.rfind("KHR_materials_", 0) == 0 || extension == "KHR_lights_punctual";
+}
+
+std::size_t requiredIndex(const GltfDocument::Json& object, const char* key) {
+  const std::optional<std::size_t> index = GltfDocument::optionalIndex(object, key);
+  if (!index) throw UnreadableMesh(std::string("the glTF file lacks \"") + key + "\" where it is needed");
+  return *index;
+}
+
+}  // namespace
+
+GltfDocument::GltfDocument(std::string_view glb) {
+  if (wordAt(glb, 4) != 2) throw UnreadableMesh("only glTF version 2 is read");
+  std::size_t offset = headerSize;
+  const std::optional<Chunk> json = nextChunk(glb, offset);
+  if (!json || json->type != jsonChunk) throw UnreadableMesh("the glTF file is cut short");
+  if (json->bytes.size() > longestJson) throw UnreadableMesh("the glTF file describes too much");
+  root_ = Json::parse(json->bytes.begin(), json->bytes.end(), nullptr, false);
+  if (!root_.is_object()) throw UnreadableMesh("the glTF file's description is not valid JSON");
+  const std::optional<Chunk> binary = nextChunk(glb, offset);
+  if (binary && binary->type == binaryChunk) binary_ = binary->bytes;
+  refuseUnknownExtensions();
+}
+
+void GltfDocument::refuseUnknownExtensions() const {
+  for (const Json& extension : list(root_, "extensionsRequired")) {
+    const std::string name = extension.is_string() ? extension.get<std::string>() : std::string("?");
+    if (!changesNoShape(name))
+      throw UnreadableMesh("the glTF file needs the extension " + name + ", which is not read");
+  }
+}
+
+std::optional<std::size_t> GltfDocument::optionalIndex(const Json& object, const char* key) {
+  const auto found = object.find(key);
+  if (found == object.end()) return std::nullopt;
+  if (!found->is_number_unsigned()) throw UnreadableMesh(std::string("the glTF file has a bad \"") + key + "\"");
+  return found->get<std::size_t>();
+}
+
+const GltfDocument::Json& GltfDocument::list(const Json& object, const char* key) {
+  static const Json none = Json::array();
+  const auto found = object.find(key);
+  if (found == object.end()) return none;
+  if (!found->is_array()) throw UnreadableMesh(std::string("the glTF file has a bad \"") + key + "\"");
+  return *found;
+}
+
+const GltfDocument::Json& GltfDocument::item(const char* name, std::size_t index) const {
+  const Json& items = list(root_, name);
+  if (index >= items.size() || !items[index].is_object()) {
+    throw UnreadableMesh("the glTF file names one of its \"" + std::string(name) + "\" that is not there");
+  }
+  return items[index];
+}
+
+std::string_view GltfDocument::view(std::size_t index) const {
+  const Json& description = item("bufferViews", index);
+  const std::size_t buffer = requiredIndex(description, "buffer");
+  const bool elsewhere = buffer != 0 || item("buffers", buffer).contains("uri");
+  if (elsewhere) throw UnreadableMesh("the glTF file keeps its vertices in another file");
+  const std::size_t offset = optionalIndex(description, "byteOffset").value_or(0);
+  const std::size_t length = requiredIndex(description, "byteLength");
+  if (offset > binary_.size() || length > binary_.size() - offset) {
+    throw UnreadableMesh("the glTF file describes more data than it holds");
+  }
+  return binary_.substr(offset, length);
+}
+
+GltfDocument::Elements GltfDocument::elements(std::size_t accessor, const char* type, std::size_t components) const {
+  const Json& description = item("accessors", accessor);
+  if (description.contains("sparse")) throw UnreadableMesh("sparse glTF data is not read");
+  const auto foundType = description.find("type");
+  if (foundType == description.end() || *foundType != type) {
+    throw UnreadableMesh(std::string("the glTF file has data that is not ") + type + " where it has to be");
+  }
+  const std::size_t viewIndex = requiredIndex(description, "bufferView");
+  const std::string_view bytes = view(viewIndex);
+  const std::size_t component = requiredIndex(description, "componentType");
+  const std::size_t size = components * componentSize(static_cast<unsigned>(std::min<std::size_t>(component, 0xFFFF)));
+  const std::size_t stride = optionalIndex(item("bufferViews", viewIndex), "byteStride").value_or(size);
+  const std::size_t offset = optionalIndex(description, "byteOffset").value_or(0);
+  const std::size_t count = requiredIndex(description, "count");
+  if (stride < size) throw UnreadableMesh("the glTF file has overlapping vertices");
+  const bool fits = count == 0 || (offset <= bytes.size() && size <= bytes.size() - offset &&
+                                   count - 1 <= (bytes.size() - offset - size) / stride);
+  if (!fits) throw UnreadableMesh("the glTF file describes more data than it holds");
+  const auto normalized = description.find("normalized");
+  return {reinterpret_cast<const unsigned char*>(bytes.data()) + (count == 0 ? 0 : offset), stride, count,
+          static_cast<unsigned>(component), normalized != description.end() && *normalized == true};
+}
+
+std::vector<Point3> GltfDocument::points(std::size_t accessor) const {
+  const Elements all = elements(accessor, "VEC3", 3);
+  if (all.componentType != Float) throw UnreadableMesh("the glTF file has positions or normals that are not floats");
+  std::vector<Point3> points(all.count);
+  for (std::size_t i = 0; i < all.count; ++i) {
+    const unsigned char* bytes = all.first + i * all.stride;
+    points[i] = Point3(valueAt<float>(bytes), valueAt<float>(bytes + 4), valueAt<float>(bytes + 8));
+  }
+  return points;
+}
+
+std::vector<TexCoord> GltfDocument::texCoords(std::size_t accessor) const {
+  const Elements all = elements(accessor, "VEC2", 2);
+  if (all.componentType != Float && !all.normalized) {
+    throw UnreadableMesh("the glTF file has texture coordinates of an unknown type");
+  }
+  const std::size_t size = componentSize(all.componentType);
+  std::vector<TexCoord> coords(all.count);
+  for (std::size_t i = 0; i < all.count; ++i) {
+    const unsigned char* bytes = all.first + i * all.stride;
+    coords[i] = {fraction(bytes, all.componentType), fraction(bytes + size, all.componentType)};
+  }
+  return coords;
+}
+
+std::vector<std::uint32_t> GltfDocument::indices(std::size_t accessor) const {
+  const Elements all = elements(accessor, "SCALAR", 1);
+  std::vector<std::uint32_t> indices(all.count);
+  for (std::size_t i = 0; i < all.count; ++i) indices[i] = wholeNumber(all.first + i * all.stride, all.componentType);
+  return indices;
+}
+
+}  // namespace host

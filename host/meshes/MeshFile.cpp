@@ -1,0 +1,74 @@
+#include "host/meshes/MeshFile.h"
+
+#include <cmath>
+#include <cstdint>
+#include <exception>
+#include <fstream>
+
+#include "host/meshes/GltfMeshReader.h"
+#include "host/meshes/ObjMeshReader.h"
+#include "host/meshes/UnreadableMesh.h"
+
+namespace host {
+
+namespace {
+
+constexpr std::uintmax_t largestFile = std::uintmax_t(1) << 30U;
+
+Mesh meshFrom(std::string_view bytes) {
+  if (bytes.empty()) throw UnreadableMesh("the file is empty");
+  if (looksLikeGlb(bytes)) return readGlb(bytes);
+  if (looksLikeObj(bytes)) return readObj(bytes);
+  throw UnreadableMesh("not a mesh that this host reads (it reads glTF binary and OBJ)");
+}
+
+void requireSensible(const Mesh& mesh) {
+  if (mesh.triangles.empty()) throw UnreadableMesh("the file holds no triangles");
+  // Beyond this a square in single precision is no longer finite, and nothing could be measured or hit.
+  constexpr float farthest = 1e12F;
+  for (const Point3& p : mesh.positions) {
+    const bool near = std::abs(p.x) <= farthest && std::abs(p.y) <= farthest && std::abs(p.z) <= farthest;
+    if (!near) throw UnreadableMesh("a position is not a usable number");
+  }
+}
+
+std::string readBytes(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) throw UnreadableMesh("the file was not found");
+  const std::uintmax_t size = std::filesystem::file_size(file, error);
+  if (error) throw UnreadableMesh("the file cannot be read");
+  if (size > largestFile) throw UnreadableMesh("the file is larger than one gigabyte");
+  std::string bytes(static_cast<std::size_t>(size), '\0');
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream.read(bytes.data(), static_cast<std::streamsize>(size))) throw UnreadableMesh("the file cannot be read");
+  return bytes;
+}
+
+/// Runs `make`, turning whatever it throws into the one line that the caller shows.
+template <class Make>
+MeshReading reading(Make make) {
+  try {
+    auto mesh = std::make_shared<Mesh>(make());
+    requireSensible(*mesh);
+    completeMesh(*mesh);
+    return {std::move(mesh), {}};
+  } catch (const UnreadableMesh& unreadable) {
+    return {nullptr, unreadable.what()};
+  } catch (const std::bad_alloc&) {
+    return {nullptr, "not enough memory for this mesh"};
+  } catch (const std::exception&) {
+    return {nullptr, "the file is damaged"};
+  }
+}
+
+}  // namespace
+
+MeshReading readMesh(std::string_view bytes) {
+  return reading([bytes] { return meshFrom(bytes); });
+}
+
+MeshReading readMeshFile(const std::filesystem::path& file) {
+  return reading([&file] { return meshFrom(readBytes(file)); });
+}
+
+}  // namespace host

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstddef>
+#include <stdexcept>
+
+namespace host {
+
+/// Thrown by the readers of mesh files and caught in MeshFile; its text is one line, for the user.
+class UnreadableMesh : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// A small file can name the same vertices many times over; reading stops here rather than when memory is gone.
+constexpr std::size_t mostTriangles = 20'000'000;
+
+}  // namespace host

@@ -1,0 +1,47 @@
+#include "host/view/SceneItems.h"
+
+#include <map>
+
+#include "host/materials/Surfaces.h"
+#include "host/scene/ProxyObject.h"
+#include "host/scene/Scene.h"
+
+namespace host {
+
+namespace {
+
+/// Materials are shared by many nodes; each is looked at once.
+class SurfaceTable {
+ public:
+  const std::vector<Surface>& of(Mtl* material) {
+    const auto known = surfaces_.find(material);
+    if (known != surfaces_.end()) return known->second;
+    return surfaces_.emplace(material, surfacesOf(material)).first->second;
+  }
+
+ private:
+  std::map<Mtl*, std::vector<Surface>> surfaces_;
+};
+
+}  // namespace
+
+std::vector<ViewItem> viewItems(const Scene& scene) {
+  std::vector<ViewItem> items;
+  SurfaceTable surfaces;
+  for (Node* node : scene.nodes()) {
+    const auto* geometry = dynamic_cast<const Geometry*>(node->GetObjectRef());
+    std::shared_ptr<const Mesh> mesh = geometry != nullptr ? geometry->mesh() : nullptr;
+    if (mesh == nullptr) continue;
+    ViewItem item;
+    item.mesh = std::move(mesh);
+    item.toWorld = node->GetObjectTM(0);
+    item.surfaces = surfaces.of(node->GetMtl());
+    item.node = node;
+    const auto* proxy = dynamic_cast<const ProxyObject*>(geometry);
+    if (proxy != nullptr && !proxy->problem().empty()) item.label = node->GetName();
+    items.push_back(std::move(item));
+  }
+  return items;
+}
+
+}  // namespace host

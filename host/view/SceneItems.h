@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "host/view/ViewItem.h"
+
+namespace host {
+
+class Scene;
+
+/// What of the scene is seen and hit, in the order of its nodes. Reads meshes and textures that nobody needed before; what cannot
+/// be read is reported to the listener.
+std::vector<ViewItem> viewItems(const Scene& scene);
+
+}  // namespace host
