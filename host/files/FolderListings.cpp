@@ -61,7 +61,7 @@ FolderListings& FolderListings::instance() {
 }
 
 std::string FolderListings::find(const std::string& folder, const std::string& name) {
-  const std::lock_guard<std::mutex> lock(m_mutex);
+  const std::lock_guard<std::mutex> lock(mutex_);
   const Listing* listing = current(folder);
   if (!listing) return name;
   const auto position = listing->names.find(foldName(name));
@@ -71,12 +71,12 @@ std::string FolderListings::find(const std::string& folder, const std::string& n
 const FolderListings::Listing* FolderListings::current(const std::string& folder) {
   struct stat status {};
   if (::stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) return nullptr;
-  const auto held = m_listings.find(folder);
-  if (held != m_listings.end() && held->second.settled && sameTime(held->second.modified, status.st_mtim)) {
+  const auto held = listings_.find(folder);
+  if (held != listings_.end() && held->second.settled && sameTime(held->second.modified, status.st_mtim)) {
     return &held->second;
   }
-  if (m_listings.size() >= MOST_FOLDERS) m_listings.clear();
-  Listing& listing = m_listings[folder];
+  if (listings_.size() >= MOST_FOLDERS) listings_.clear();
+  Listing& listing = listings_[folder];
   listing.modified = status.st_mtim;
   listing.settled = std::time(nullptr) - status.st_mtim.tv_sec > UNSETTLED_SECONDS;
   listing.names = readNames(folder);

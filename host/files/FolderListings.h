@@ -27,8 +27,8 @@ class FolderListings {
 
   const Listing* current(const std::string& folder);
 
-  std::mutex m_mutex;
-  std::unordered_map<std::string, Listing> m_listings;
+  std::mutex mutex_;
+  std::unordered_map<std::string, Listing> listings_;
 };
 
 }  // namespace host

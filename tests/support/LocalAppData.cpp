@@ -5,13 +5,13 @@
 namespace support {
 
 LocalAppData::LocalAppData() {
-  if (const char* previous = std::getenv("LOCALAPPDATA")) m_previous = previous;
-  ::setenv("LOCALAPPDATA", m_folder.path().c_str(), 1);
+  if (const char* previous = std::getenv("LOCALAPPDATA")) previous_ = previous;
+  ::setenv("LOCALAPPDATA", folder_.path().c_str(), 1);
 }
 
 LocalAppData::~LocalAppData() {
-  if (m_previous) {
-    ::setenv("LOCALAPPDATA", m_previous->c_str(), 1);
+  if (previous_) {
+    ::setenv("LOCALAPPDATA", previous_->c_str(), 1);
   } else {
     ::unsetenv("LOCALAPPDATA");
   }

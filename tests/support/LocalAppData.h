@@ -15,11 +15,11 @@ class LocalAppData {
   LocalAppData(const LocalAppData&) = delete;
   LocalAppData& operator=(const LocalAppData&) = delete;
 
-  const TemporaryFolder& folder() const { return m_folder; }
+  const TemporaryFolder& folder() const { return folder_; }
 
  private:
-  TemporaryFolder m_folder;
-  std::optional<std::string> m_previous;
+  TemporaryFolder folder_;
+  std::optional<std::string> previous_;
 };
 
 }  // namespace support

@@ -13,18 +13,18 @@ namespace support {
 TemporaryFolder::TemporaryFolder() {
   std::string name = (std::filesystem::temp_directory_path() / "zorvel t\xC3\xABst XXXXXX").string();
   if (!::mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-  m_path = name;
+  path_ = name;
 }
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
-  std::filesystem::remove_all(m_path, ignored);
+  std::filesystem::remove_all(path_, ignored);
 }
 
-std::wstring TemporaryFolder::wide() const { return host::toWide(m_path.string()); }
+std::wstring TemporaryFolder::wide() const { return host::toWide(path_.string()); }
 
 std::filesystem::path TemporaryFolder::write(const std::filesystem::path& relative, std::string_view text) const {
-  const std::filesystem::path file = m_path / relative;
+  const std::filesystem::path file = path_ / relative;
   std::filesystem::create_directories(file.parent_path());
   std::ofstream stream(file, std::ios::binary);
   stream.write(text.data(), static_cast<std::streamsize>(text.size()));
@@ -33,12 +33,12 @@ std::filesystem::path TemporaryFolder::write(const std::filesystem::path& relati
 }
 
 std::filesystem::path TemporaryFolder::makeFolder(const std::filesystem::path& relative) const {
-  std::filesystem::create_directories(m_path / relative);
-  return m_path / relative;
+  std::filesystem::create_directories(path_ / relative);
+  return path_ / relative;
 }
 
 std::string TemporaryFolder::read(const std::filesystem::path& relative) const {
-  std::ifstream stream(m_path / relative, std::ios::binary);
+  std::ifstream stream(path_ / relative, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 

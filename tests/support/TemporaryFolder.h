@@ -15,7 +15,7 @@ class TemporaryFolder {
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-  const std::filesystem::path& path() const { return m_path; }
+  const std::filesystem::path& path() const { return path_; }
   /// The path as the plug-in takes it, without a trailing separator.
   std::wstring wide() const;
 
@@ -25,7 +25,7 @@ class TemporaryFolder {
   std::string read(const std::filesystem::path& relative) const;
 
  private:
-  std::filesystem::path m_path;
+  std::filesystem::path path_;
 };
 
 }  // namespace support
