@@ -2,16 +2,24 @@
 
 #include <notify.h>
 
+#include "host/actions/ActionManager.h"
+#include "host/actions/IconFolders.h"
+#include "host/actions/QuickAccessBar.h"
 #include "host/application/ClassRegistry.h"
+#include "host/application/FileDialog.h"
 #include "host/application/HostInterface.h"
 #include "host/application/Listener.h"
 #include "host/application/Notifications.h"
 #include "host/application/Prompts.h"
 #include "host/application/Units.h"
 #include "host/materials/AssetManager.h"
+#include "host/modes/CommandModes.h"
+#include "host/plugins/ModuleLoader.h"
 #include "host/scene/Scene.h"
 #include "host/scripting/ScriptRunner.h"
 #include "host/undo/UndoStack.h"
+#include "host/view/SceneView.h"
+#include "host/view/Viewports.h"
 
 namespace host {
 
@@ -27,9 +35,19 @@ struct Application::Parts {
   Scene scene;
   UndoStack undo;
   HostInterface interface;
+  SceneView sceneView{scene};
+  Viewports viewports;
+  CommandModes modes;
+  FileDialog fileDialog;
+  IconFolders icons;
+  ActionManager actions;
+  QuickAccessBar quickAccess{actions};
+  ModuleLoader modules;
 };
 
-Application::Application() : parts_(std::make_unique<Parts>()) {}
+Application::Application() : parts_(std::make_unique<Parts>()) {
+  actions().changed = [this] { quickAccess().followTables(); };
+}
 
 Application::~Application() = default;
 
@@ -38,16 +56,24 @@ Application& Application::instance() {
   return application;
 }
 
+ActionManager& Application::actions() { return parts_->actions; }
 AssetManager& Application::assets() { return parts_->assets; }
 ClassRegistry& Application::classes() { return parts_->classes; }
+FileDialog& Application::fileDialog() { return parts_->fileDialog; }
+IconFolders& Application::icons() { return parts_->icons; }
 HostInterface& Application::interface() { return parts_->interface; }
 Listener& Application::listener() { return parts_->listener; }
+CommandModes& Application::modes() { return parts_->modes; }
+ModuleLoader& Application::modules() { return parts_->modules; }
 Notifications& Application::notifications() { return parts_->notifications; }
 Prompts& Application::prompts() { return parts_->prompts; }
+QuickAccessBar& Application::quickAccess() { return parts_->quickAccess; }
 Scene& Application::scene() { return parts_->scene; }
+SceneView& Application::sceneView() { return parts_->sceneView; }
 ScriptRunner& Application::scripts() { return parts_->scripts; }
 UndoStack& Application::undo() { return parts_->undo; }
 Units& Application::units() { return parts_->units; }
+Viewports& Application::viewports() { return parts_->viewports; }
 
 void Application::newScene() {
   BroadcastNotification(NOTIFY_SYSTEM_PRE_NEW);

@@ -2,13 +2,17 @@
 
 #include <algorithm>
 
+#include "host/actions/ActionManager.h"
 #include "host/application/Application.h"
 #include "host/application/ClassRegistry.h"
 #include "host/application/Listener.h"
 #include "host/application/Prompts.h"
 #include "host/files/Paths.h"
 #include "host/materials/MaterialLibraryFile.h"
+#include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
+#include "host/view/SceneView.h"
+#include "host/view/Viewports.h"
 
 namespace host {
 
@@ -38,6 +42,32 @@ void HostInterface::ReplacePrompt(const MCHAR* text) { application().prompts().r
 void HostInterface::RedrawViews(TimeValue /*t*/, DWORD /*flags*/, ReferenceTarget* /*change*/) {
   if (application().redraw) application().redraw();
 }
+
+ViewExp& HostInterface::GetViewExp(HWND window) { return application().viewports().view(window); }
+
+INode* HostInterface::PickNode(HWND window, IPoint2 point, PickNodeCallback* filter) {
+  Viewport* viewport = application().viewports().find(window);
+  if (viewport == nullptr) return nullptr;
+  Ray ray;
+  viewport->MapScreenToWorldRay(static_cast<float>(point.x), static_cast<float>(point.y), ray);
+  RayScene::Accept accept;
+  if (filter != nullptr) accept = [filter](INode* node) { return filter->Filter(node) != FALSE; };
+  return application().sceneView().pick(ray, accept);
+}
+
+void HostInterface::PushCommandMode(CommandMode* mode) { application().modes().push(mode); }
+
+void HostInterface::SetCommandMode(CommandMode* mode) { application().modes().set(mode); }
+
+void HostInterface::PopCommandMode() { application().modes().pop(); }
+
+CommandMode* HostInterface::GetCommandMode() { return &application().modes().current(); }
+
+void HostInterface::DeleteMode(CommandMode* mode) { application().modes().remove(mode); }
+
+void HostInterface::ExecuteMAXCommand(int id) { application().modes().execute(id); }
+
+IActionManager* HostInterface::GetActionManager() { return &application().actions(); }
 
 INode* HostInterface::GetRootNode() { return &scene().root(); }
 

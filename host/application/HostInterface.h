@@ -23,6 +23,17 @@ class HostInterface final : public Interface13 {
   void SetAnimateButtonState(BOOL on) override { animate_ = on; }
   BOOL IsAnimateEnabled() override { return animate_; }
 
+  ViewExp& GetViewExp(HWND window) override;
+  INode* PickNode(HWND window, IPoint2 point, PickNodeCallback* filter = nullptr) override;
+
+  void PushCommandMode(CommandMode* mode) override;
+  void SetCommandMode(CommandMode* mode) override;
+  void PopCommandMode() override;
+  CommandMode* GetCommandMode() override;
+  void DeleteMode(CommandMode* mode) override;
+  void ExecuteMAXCommand(int id) override;
+  IActionManager* GetActionManager() override;
+
   INode* GetRootNode() override;
   void* CreateInstance(SClass_ID superID, Class_ID classID) override;
   INode* CreateObjectNode(Object* object) override;

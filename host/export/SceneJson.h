@@ -7,8 +7,13 @@ namespace host {
 
 class Scene;
 
-/// The scene as JSON text: units, layers, and the tree of nodes with transforms, user properties, layer, group, mesh
-/// file and material with its texture files. Lengths are in scene units; a matrix is four rows of three.
+constexpr const char* SCENE_FORMAT = "zorvel-scene";
+constexpr int SCENE_FORMAT_VERSION = 2;
+
+/// The scene as JSON text, with all that is needed to open it again: units, layers, and the tree of nodes with
+/// transforms, user properties, layer, group, selection, object and material. Lengths are in scene units; a matrix is
+/// four rows of three; "transform" is the place in the world and "local" the one in the parent, of which only "local"
+/// is read back.
 std::string sceneJson(Scene& scene);
 
 /// Writes it whole or not at all. Answers why it could not, or nothing.

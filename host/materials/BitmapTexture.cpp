@@ -15,10 +15,13 @@ void BitmapTexture::SetMap(const Asset& map) {
   }
   const Ref<BitmapTexture> self(this);
   const Asset before = map_;
-  applyChange([self, before] { self->map_ = before; }, [self, map] { self->map_ = map; });
-  ReloadBitmapAndUpdate();
+  const auto store = [self](const Asset& asset) {
+    self->map_ = asset;
+    self->ReloadBitmapAndUpdate();
+  };
+  applyChange([store, before] { store(before); }, [store, map] { store(map); });
 }
 
-void BitmapTexture::ReloadBitmapAndUpdate() { Application::instance().scene().touch(); }
+void BitmapTexture::ReloadBitmapAndUpdate() { Application::instance().scene().touchAppearance(); }
 
 }  // namespace host

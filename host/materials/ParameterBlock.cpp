@@ -1,5 +1,7 @@
 #include "host/materials/ParameterBlock.h"
 
+#include "host/application/Application.h"
+#include "host/scene/Scene.h"
 #include "host/undo/UndoStack.h"
 
 namespace host {
@@ -116,6 +118,7 @@ const T* ParameterBlock::find(ParamID id) const {
 
 void ParameterBlock::store(std::size_t index, const Value& value) {
   parameters_[index].value = value;
+  Application::instance().scene().touchAppearance();
   if (changed_) changed_();
 }
 

@@ -35,12 +35,22 @@ Node::~Node() {
 }
 
 template <class Value>
-void Node::change(Value Node::*member, Value value) {
-  changeMember(Ref<Node>(this), member, std::move(value));
-  scene().touch();
+void Node::change(Value Node::*member, Value value, Concern concern) {
+  if (this->*member == value) return;
+  const Ref<Node> self(this);
+  const auto store = [self, member, concern](const Value& content) {
+    self.get()->*member = content;
+    self->tellScene(concern);
+  };
+  applyChange([store, before = this->*member] { store(before); }, [store, value] { store(value); });
 }
 
-void Node::SetName(const MCHAR* name) { change(&Node::name_, MSTR(name)); }
+void Node::tellScene(Concern concern) {
+  if (concern == Concern::Place) return scene().touchPlace(*this);
+  concern == Concern::Look ? scene().touchAppearance() : scene().touch();
+}
+
+void Node::SetName(const MCHAR* name) { change(&Node::name_, MSTR(name), Concern::Look); }
 
 Matrix3 Node::GetNodeTM(TimeValue t, Interval* /*valid*/) {
   return parent_ != nullptr ? local_ * parent_->GetNodeTM(t) : local_;
@@ -48,7 +58,7 @@ Matrix3 Node::GetNodeTM(TimeValue t, Interval* /*valid*/) {
 
 void Node::SetNodeTM(TimeValue t, Matrix3& tm) {
   if (isRoot_) return;
-  change(&Node::local_, tm * Inverse(GetParentTM(t)));
+  change(&Node::local_, tm * Inverse(GetParentTM(t)), Concern::Place);
 }
 
 Matrix3 Node::GetObjectTM(TimeValue t, Interval* /*valid*/) { return offset_ * GetNodeTM(t); }
@@ -73,7 +83,7 @@ const ObjectState& Node::EvalWorldState(TimeValue /*t*/, BOOL /*evalHidden*/) {
 
 void Node::SetMtl(Mtl* material) {
   if (isRoot_) return;
-  change(&Node::material_, Ref<Mtl>(material));
+  change(&Node::material_, Ref<Mtl>(material), Concern::Look);
   BroadcastNotification(NOTIFY_NODE_POST_MTL, this);
 }
 
@@ -99,7 +109,7 @@ void Node::SetUserPropString(const MSTR& key, const MSTR& value) {
   } else {
     properties.emplace_back(key, value);
   }
-  change(&Node::properties_, properties);
+  change(&Node::properties_, properties, Concern::Data);
 }
 
 void Node::SetUserPropBool(const MSTR& key, BOOL value) { SetUserPropString(key, value != FALSE ? L"TRUE" : L"FALSE"); }
@@ -125,7 +135,7 @@ void Node::place(const Matrix3& nodeTM, const Matrix3& objectTM, bool keepKids) 
   for (const Ref<Node>& child : children_) kids.push_back(child->GetNodeTM(0));
   Matrix3 pivot = nodeTM;
   SetNodeTM(0, pivot);
-  change(&Node::offset_, objectTM * Inverse(nodeTM));
+  change(&Node::offset_, objectTM * Inverse(nodeTM), Concern::Place);
   if (!keepKids) return;
   for (std::size_t i = 0; i < kids.size(); ++i) children_[i]->SetNodeTM(0, kids[i]);
 }
@@ -135,10 +145,10 @@ Box3 Node::worldBounds() {
   return geometry != nullptr ? transformed(geometry->bounds(), GetObjectTM(0)) : Box3();
 }
 
-void Node::setLayer(const Ref<Layer>& layer) { change(&Node::layer_, layer); }
+void Node::setLayer(const Ref<Layer>& layer) { change(&Node::layer_, layer, Concern::Data); }
 
-void Node::setGroupHead(bool head) { change(&Node::groupHead_, head); }
+void Node::setGroupHead(bool head) { change(&Node::groupHead_, head, Concern::Data); }
 
-void Node::setGroupMember(bool member) { change(&Node::groupMember_, member); }
+void Node::setGroupMember(bool member) { change(&Node::groupMember_, member, Concern::Data); }
 
 }  // namespace host

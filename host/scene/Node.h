@@ -72,8 +72,12 @@ class Node final : public INode {
  private:
   friend class Scene;
 
+  /// What a change concerns: data alone, how the node looks, or where it is.
+  enum class Concern { Data, Look, Place };
+
   template <class Value>
-  void change(Value Node::*member, Value value);
+  void change(Value Node::*member, Value value, Concern concern);
+  void tellScene(Concern concern);
   /// Gives pivot and geometry new places in the world; `keepKids` leaves the children where they are.
   void place(const Matrix3& nodeTM, const Matrix3& objectTM, bool keepKids);
 

@@ -13,7 +13,7 @@ namespace host {
 ProxyObject::ProxyObject() : loaded_(std::make_shared<Loaded>()) {
   const auto forget = [loaded = loaded_] {
     *loaded = Loaded();
-    Application::instance().scene().touch();
+    Application::instance().scene().touchAppearance();
   };
   block_ = Ref<ParameterBlock>(
       new ParameterBlock(0, {{FILE_NAME, TYPE_FILENAME, std::wstring()}, {SCALE, TYPE_FLOAT, 1.0F}}, forget));

@@ -7,6 +7,7 @@
 
 #include "host/application/Application.h"
 #include "host/scene/GroupHead.h"
+#include "host/scene/SceneContent.h"
 #include "host/undo/UndoStack.h"
 
 namespace host {
@@ -21,6 +22,7 @@ struct Scene::Place {
 namespace {
 
 constexpr std::size_t LAST = static_cast<std::size_t>(-1);
+constexpr std::size_t REMEMBERED_MOVES = 4096;
 
 void collect(const Node& node, std::vector<Node*>& out) {
   for (const Ref<Node>& child : node.children()) {
@@ -57,6 +59,29 @@ Node* Scene::find(const std::wstring& name) const {
     if (name == node->GetName()) return node;
   }
   return nullptr;
+}
+
+std::optional<std::vector<Node*>> Scene::movedSince(std::uint64_t count) const {
+  if (count < forgottenMoves_ || count > moveCount()) return std::nullopt;
+  return std::vector<Node*>(moved_.begin() + static_cast<std::ptrdiff_t>(count - forgottenMoves_), moved_.end());
+}
+
+// Nodes may have left the scene, so no pointer is kept beyond this.
+void Scene::touchAppearance() {
+  touch();
+  ++appearance_;
+  forgottenMoves_ += moved_.size();
+  moved_.clear();
+}
+
+void Scene::touchPlace(Node& node) {
+  touch();
+  if (!node.inScene()) return;
+  if (moved_.size() == REMEMBERED_MOVES) {
+    forgottenMoves_ += moved_.size();
+    moved_.clear();
+  }
+  moved_.push_back(&node);
 }
 
 Node* Scene::create(Object* object) {
@@ -152,7 +177,31 @@ void Scene::clear() {
   for (const Ref<Node>& top : tops) unlink(*top);
   layers_->clear();
   usedNames_.clear();
-  touch();
+  touchAppearance();
+}
+
+void Scene::replace(const SceneContent& content) {
+  clear();
+  if (!content.layers.empty()) layers_->GetRootLayer()->SetName(content.layers.front());
+  for (std::size_t i = 1; i < content.layers.size(); ++i) {
+    MSTR name = content.layers[i];
+    layers_->CreateLayer(name);
+  }
+  for (const NodeContent& top : content.nodes) build(top, *root_);
+}
+
+void Scene::build(const NodeContent& content, Node& parent) {
+  const Ref<Node> node(new Node(content.object.get(), content.name));
+  node->material_ = content.material;
+  node->local_ = content.local;
+  node->offset_ = content.offset;
+  node->properties_ = content.properties;
+  node->layer_ = layers_->layers()[std::min(content.layer, layers_->layers().size() - 1)];
+  node->groupHead_ = content.groupHead;
+  node->groupMember_ = content.groupMember;
+  link(*node, parent, LAST);
+  if (content.selected) selection_.push_back(node);
+  for (const NodeContent& child : content.children) build(child, *node);
 }
 
 Scene::Place Scene::placeOf(const Node& node) const {
@@ -189,7 +238,7 @@ void Scene::leave(Node& node) {
   }
   selection_.erase(std::remove(selection_.begin(), selection_.end(), kept), selection_.end());
   unlink(node);
-  touch();
+  touchAppearance();
   BroadcastNotification(NOTIFY_SCENE_POST_DELETED_NODE);
 }
 
@@ -197,7 +246,7 @@ void Scene::link(Node& child, Node& parent, std::size_t index) {
   const auto at = parent.children_.begin() + static_cast<std::ptrdiff_t>(std::min(index, parent.children_.size()));
   parent.children_.insert(at, Ref<Node>(&child));
   child.parent_ = &parent;
-  touch();
+  touchAppearance();
 }
 
 void Scene::unlink(Node& child) {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,9 @@
 #include "host/scene/Ref.h"
 
 namespace host {
+
+struct NodeContent;
+struct SceneContent;
 
 /// The tree of nodes, the selection, groups and layers. Nodes that enter or leave, by whatever way, are announced.
 class Scene {
@@ -24,9 +28,20 @@ class Scene {
   std::vector<Node*> nodes() const;
   /// The first of that name, null when there is none.
   Node* find(const std::wstring& name) const;
-  /// Rises with every change.
+  /// Rises with every change, undone and redone ones too.
   std::uint64_t revision() const { return revision_; }
+  /// Rises with every change of what can be seen, other than nodes changing their place.
+  std::uint64_t appearance() const { return appearance_; }
+  /// How many times nodes changed their place.
+  std::uint64_t moveCount() const { return forgottenMoves_ + moved_.size(); }
+  /// The nodes that changed place since the count was that, children not listed; one may be there twice. Nothing when
+  /// they are not remembered: too many came since, or the appearance changed.
+  std::optional<std::vector<Node*>> movedSince(std::uint64_t count) const;
+
+  // What makes a change says so by one of these.
   void touch() { ++revision_; }
+  void touchAppearance();
+  void touchPlace(Node& node);
 
   /// A new node under the root. Null for null.
   Node* create(Object* object);
@@ -44,6 +59,9 @@ class Scene {
 
   /// Lets go of every node without announcing each; for a scene that is replaced as a whole.
   void clear();
+  /// Takes the place of everything in the scene, without announcing single nodes; for a file that is opened. Nothing is
+  /// recorded.
+  void replace(const SceneContent& content);
 
  private:
   struct Place;
@@ -56,6 +74,7 @@ class Scene {
   static void unlink(Node& child);
   void changeSelection(std::vector<Ref<Node>> selection);
   void removeEmptyGroup(Node* head);
+  void build(const NodeContent& content, Node& parent);
   MSTR defaultName(Object& object);
 
   Ref<Node> root_;
@@ -63,6 +82,9 @@ class Scene {
   std::vector<Ref<Node>> selection_;
   std::map<std::wstring, int> usedNames_;
   std::uint64_t revision_ = 0;
+  std::uint64_t appearance_ = 0;
+  std::uint64_t forgottenMoves_ = 0;
+  std::vector<Node*> moved_;
 };
 
 }  // namespace host

@@ -5,14 +5,25 @@
 
 namespace host {
 
-/// Runs the script forms that the plug-in and its users need, and remembers every text.
+struct ScriptToken;
+
+/// Runs the script forms that the plug-in and its users need, and remembers every text:
+///
+///     qat.add "group" "action"
+///     actionMan.executeAction tableId "commandId"
+///     animButtonState=true
+///
 class ScriptRunner {
  public:
-  /// False, and a line for the listener, for a text that it does not understand.
+  /// False, and a line for the listener, for a text that it does not understand and for an action that did not run. A
+  /// button for an action that is not known yet is taken: it appears when the action does.
   bool run(const std::wstring& text);
   const std::vector<std::wstring>& texts() const { return texts_; }
 
  private:
+  /// Empty, or what went wrong.
+  static std::string execute(const std::vector<ScriptToken>& tokens);
+
   std::vector<std::wstring> texts_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <color.h>
 #include <paramtype.h>
+#include <plugapi.h>
 #include <point3.h>
 #include <ref.h>
 
@@ -31,3 +32,6 @@ class IParamBlock2 : public ReferenceTarget {
   virtual BOOL GetValue(ParamID id, TimeValue t, Mtl*& v, Interval& valid, int tabIndex = 0) = 0;
   virtual BOOL GetValue(ParamID id, TimeValue t, Texmap*& v, Interval& valid, int tabIndex = 0) = 0;
 };
+
+/// In 3ds Max it adds services for parameter blocks, which no class of a global utility has.
+class ClassDesc2 : public ClassDesc {};

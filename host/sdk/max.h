@@ -3,6 +3,7 @@
 // The usual first include of a plug-in.
 
 #include <box3.h>
+#include <gup.h>
 #include <hold.h>
 #include <inode.h>
 #include <ipoint2.h>

@@ -1,10 +1,30 @@
 #pragma once
 
 #include <MtlLib.h>
+#include <actiontable.h>
+#include <cmdmode.h>
 #include <ilayermanager.h>
 #include <inode.h>
+#include <ipoint2.h>
 
 constexpr DWORD REDRAW_NORMAL = 8;
+
+/// A view of the scene in a window.
+class ViewExp : public InterfaceServer {
+ public:
+  /// From pixels of the window, origin top left, to a ray in the world whose direction has unit length.
+  virtual void MapScreenToWorldRay(float sx, float sy, Ray& ray) = 0;
+  virtual HWND GetHWnd() = 0;
+  /// False for what stands in for the view of a window that has none.
+  virtual bool IsAlive() = 0;
+};
+
+/// Answers which nodes may be picked; must be cheap and free of side effects.
+class PickNodeCallback {
+ public:
+  virtual ~PickNodeCallback() = default;
+  virtual BOOL Filter(INode* node) = 0;
+};
 
 /// The host as a plug-in sees it. Main thread only; pointers are borrowed.
 class Interface {
@@ -20,6 +40,22 @@ class Interface {
   virtual void RedrawViews(TimeValue t, DWORD flags = REDRAW_NORMAL, ReferenceTarget* change = nullptr) = 0;
   virtual void SetAnimateButtonState(BOOL on) = 0;
   virtual BOOL IsAnimateEnabled() = 0;
+
+  virtual ViewExp& GetViewExp(HWND window) = 0;
+  /// The node nearest to the eye at the pixel that the filter accepts (null: every node), or null.
+  virtual INode* PickNode(HWND window, IPoint2 point, PickNodeCallback* filter = nullptr) = 0;
+
+  // The stack of command modes; the top one is current. Modes stay their owner's.
+  virtual void PushCommandMode(CommandMode* mode) = 0;
+  /// Replaces the mode on top; the one that is current already is left alone.
+  virtual void SetCommandMode(CommandMode* mode) = 0;
+  virtual void PopCommandMode() = 0;
+  virtual CommandMode* GetCommandMode() = 0;
+  /// Takes a mode out of the stack wherever it stands; call it before a mode ends.
+  virtual void DeleteMode(CommandMode* mode) = 0;
+  /// Runs a built-in command; one that names a mode makes the host's own mode current.
+  virtual void ExecuteMAXCommand(int id) = 0;
+  virtual IActionManager* GetActionManager() = 0;
 
   virtual INode* GetRootNode() = 0;
   /// The class named by the two ids, null when there is none. The caller attaches the result or ends it.

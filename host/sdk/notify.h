@@ -15,6 +15,7 @@ constexpr int NOTIFY_SYSTEM_POST_NEW = 8;
 /// callParam leads to a FileIOType.
 constexpr int NOTIFY_FILE_PRE_OPEN = 9;
 constexpr int NOTIFY_FILE_POST_OPEN = 10;
+constexpr int NOTIFY_FILE_OPEN_FAILED = 15;
 /// callParam is the INode itself for these three.
 constexpr int NOTIFY_NODE_POST_MTL = 66;
 constexpr int NOTIFY_SCENE_ADDED_NODE = 67;

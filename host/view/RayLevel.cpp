@@ -14,10 +14,12 @@ RayLevel::~RayLevel() { rtcReleaseScene(scene_); }
 void RayLevel::place(unsigned number, const std::shared_ptr<const RayMesh>& mesh, const Matrix3& toWorld) {
   Instance& instance = instances_[number];
   if (!instance.mesh) {
-    instance = {mesh, rtcNewGeometry(rayDevice(), RTC_GEOMETRY_TYPE_INSTANCE)};
+    instance = {mesh, rtcNewGeometry(rayDevice(), RTC_GEOMETRY_TYPE_INSTANCE), 0};
     rtcSetGeometryInstancedScene(instance.geometry, mesh->scene());
-    rtcAttachGeometryByID(scene_, instance.geometry, number);
+    instance.id = rtcAttachGeometry(scene_, instance.geometry);
     rtcReleaseGeometry(instance.geometry);
+    if (instance.id >= numbers_.size()) numbers_.resize(instance.id + 1);
+    numbers_[instance.id] = number;
   }
   // The rows of row vectors are the columns of column vectors.
   float columns[12];
@@ -29,7 +31,10 @@ void RayLevel::place(unsigned number, const std::shared_ptr<const RayMesh>& mesh
 }
 
 void RayLevel::remove(unsigned number) {
-  if (instances_.erase(number) != 0) rtcDetachGeometry(scene_, number);
+  const auto instance = instances_.find(number);
+  if (instance == instances_.end()) return;
+  rtcDetachGeometry(scene_, instance->second.id);
+  instances_.erase(instance);
 }
 
 void RayLevel::commit() { rtcCommitScene(scene_); }

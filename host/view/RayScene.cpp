@@ -78,11 +78,13 @@ struct RayScene::Passing {
   const RayScene* scene;
   const Accept* accept;
   float opacity;
+  /// The one that the ray is in.
+  const RayLevel* level;
 
   static const Passing& of(const RTCFilterFunctionNArguments* arguments) {
     return *reinterpret_cast<const Passing*>(arguments->context);
   }
-  const ViewItem& item(const RTCHit& hit) const { return scene->items_[hit.instID[0]]; }
+  unsigned item(const RTCHit& hit) const { return level->numberOf(hit); }
 };
 
 RayScene::RayScene() : resting_(std::make_unique<RayLevel>()), moving_(std::make_unique<RayLevel>()) {}
@@ -118,47 +120,66 @@ void RayScene::setItems(std::vector<ViewItem> items) {
   resting_->commit();
 }
 
-void RayScene::moveItem(std::size_t index, const Matrix3& toWorld) {
-  const auto number = static_cast<unsigned>(index);
-  ViewItem& item = items_[index];
-  item.toWorld = toWorld;
-  if (resting_->holds(number)) {
-    resting_->remove(number);
-    resting_->commit();
-  }
+void RayScene::moveItems(const std::vector<Move>& moves) {
+  if (moves.empty()) return;
+  bool restingChanged = false;
+  for (const Move& move : moves) restingChanged = place(move) || restingChanged;
+  if (restingChanged) resting_->commit();
+  moving_->commit();
+}
+
+bool RayScene::place(const Move& move) {
+  const auto number = static_cast<unsigned>(move.item);
+  ViewItem& item = items_[move.item];
+  item.toWorld = move.toWorld;
+  const bool rested = resting_->holds(number);
+  if (rested) resting_->remove(number);
   if (showable(item)) {
-    moving_->place(number, RayMesh::of(item.mesh), toWorld);
+    moving_->place(number, RayMesh::of(item.mesh), move.toWorld);
     reach_ += reachOf(item);
   } else {
     moving_->remove(number);
   }
-  moving_->commit();
+  return rested;
 }
 
 void RayScene::lookThroughRefused(const RTCFilterFunctionNArguments* arguments) {
   const Passing& passing = Passing::of(arguments);
   const RTCHit hit = rtcGetHitFromHitN(arguments->hit, arguments->N, 0);
-  if (!(*passing.accept)(passing.item(hit).node)) arguments->valid[0] = 0;
+  if (!(*passing.accept)(passing.scene->items_[passing.item(hit)].node)) arguments->valid[0] = 0;
 }
 
 void RayScene::lookThroughTranslucent(const RTCFilterFunctionNArguments* arguments) {
   const Passing& passing = Passing::of(arguments);
   const RTCHit hit = rtcGetHitFromHitN(arguments->hit, arguments->N, 0);
-  const std::uint16_t material = passing.item(hit).mesh->materialId(hit.primID);
-  if (passing.scene->surface(hit.instID[0], material).opacity < passing.opacity) arguments->valid[0] = 0;
+  const unsigned item = passing.item(hit);
+  const std::uint16_t material = passing.scene->items_[item].mesh->materialId(hit.primID);
+  if (passing.scene->surface(item, material).opacity < passing.opacity) arguments->valid[0] = 0;
 }
 
 std::optional<SceneHit> RayScene::intersect(const Ray& ray, const Accept& accept, float upTo) const {
   const std::optional<CasterRay> caster = casterRay(ray, upTo);
   if (!caster || !reaches(caster->ray, reach_)) return std::nullopt;
-  Passing passing{{}, this, &accept, 0.0F};
+  Passing passing{{}, this, &accept, 0.0F, resting_.get()};
   rtcInitIntersectContext(&passing.context);
   if (accept) passing.context.filter = lookThroughRefused;
   RTCRayHit query = queryFrom(*caster);
-  rtcIntersect1(resting_->scene(), &passing.context, &query);
-  if (!moving_->empty()) rtcIntersect1(moving_->scene(), &passing.context, &query);
-  if (query.hit.geomID == RTC_INVALID_GEOMETRY_ID) return std::nullopt;
-  SceneHit hit = describe(query.hit.instID[0], query.hit.primID, query.hit.u, query.hit.v);
+  std::optional<unsigned> item;
+  for (const RayLevel* level : {resting_.get(), moving_.get()}) {
+    if (level->empty()) continue;
+    // A hit of the second level is nearer than that of the first, or it is none.
+    const RTCHit before = query.hit;
+    query.hit.geomID = RTC_INVALID_GEOMETRY_ID;
+    passing.level = level;
+    rtcIntersect1(level->scene(), &passing.context, &query);
+    if (query.hit.geomID != RTC_INVALID_GEOMETRY_ID) {
+      item = level->numberOf(query.hit);
+    } else {
+      query.hit = before;
+    }
+  }
+  if (!item) return std::nullopt;
+  SceneHit hit = describe(*item, query.hit.primID, query.hit.u, query.hit.v);
   hit.distance = query.ray.tfar / caster->unit;
   return hit;
 }
@@ -166,11 +187,12 @@ std::optional<SceneHit> RayScene::intersect(const Ray& ray, const Accept& accept
 bool RayScene::occluded(const Ray& ray, float upTo, float opacity) const {
   std::optional<CasterRay> caster = casterRay(ray, upTo);
   if (!caster || !reaches(caster->ray, reach_)) return false;
-  Passing passing{{}, this, nullptr, opacity};
+  Passing passing{{}, this, nullptr, opacity, resting_.get()};
   rtcInitIntersectContext(&passing.context);
   if (translucent_ && opacity > 0.0F) passing.context.filter = lookThroughTranslucent;
   rtcOccluded1(resting_->scene(), &passing.context, &caster->ray);
   if (caster->ray.tfar >= 0.0F && !moving_->empty()) {
+    passing.level = moving_.get();
     rtcOccluded1(moving_->scene(), &passing.context, &caster->ray);
   }
   return caster->ray.tfar < 0.0F;

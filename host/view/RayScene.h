@@ -62,11 +62,19 @@ class RayScene {
 
   void setItems(std::vector<ViewItem> items);
   /// Cheap from the second time on, however large the scene: what moves is kept apart from what rests.
-  void moveItem(std::size_t item, const Matrix3& toWorld);
+  void moveItem(std::size_t item, const Matrix3& toWorld) { moveItems({{item, toWorld}}); }
+  struct Move {
+    std::size_t item;
+    Matrix3 toWorld;
+  };
+  /// Dearer by little than moving one of them.
+  void moveItems(const std::vector<Move>& moves);
 
  private:
   struct Passing;
 
+  /// Whether what rests has changed by it.
+  bool place(const Move& move);
   static void lookThroughRefused(const RTCFilterFunctionNArguments* arguments);
   static void lookThroughTranslucent(const RTCFilterFunctionNArguments* arguments);
   SceneHit describe(std::size_t item, std::uint32_t triangle, float second, float third) const;

@@ -5,6 +5,7 @@
 #include "host/materials/Surfaces.h"
 #include "host/scene/ProxyObject.h"
 #include "host/scene/Scene.h"
+#include "host/scene/SurroundingsObject.h"
 
 namespace host {
 
@@ -23,6 +24,14 @@ class SurfaceTable {
   std::map<Mtl*, std::vector<Surface>> surfaces_;
 };
 
+/// Whether a box is seen where the file of the object should be.
+bool standsIn(const Geometry& geometry) {
+  const auto* proxy = dynamic_cast<const ProxyObject*>(&geometry);
+  if (proxy != nullptr) return !proxy->problem().empty();
+  const auto* surroundings = dynamic_cast<const SurroundingsObject*>(&geometry);
+  return surroundings != nullptr && !surroundings->problem().empty();
+}
+
 }  // namespace
 
 std::vector<ViewItem> viewItems(const Scene& scene) {
@@ -37,8 +46,7 @@ std::vector<ViewItem> viewItems(const Scene& scene) {
     item.toWorld = node->GetObjectTM(0);
     item.surfaces = surfaces.of(node->GetMtl());
     item.node = node;
-    const auto* proxy = dynamic_cast<const ProxyObject*>(geometry);
-    if (proxy != nullptr && !proxy->problem().empty()) item.label = node->GetName();
+    if (standsIn(*geometry)) item.label = node->GetName();
     items.push_back(std::move(item));
   }
   return items;

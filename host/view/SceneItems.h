@@ -8,8 +8,8 @@ namespace host {
 
 class Scene;
 
-/// What of the scene is seen and hit, in the order of its nodes. Reads meshes and textures that nobody needed before; what cannot
-/// be read is reported to the listener.
+/// What of the scene is seen and hit, in the order of its nodes. Reads meshes and textures that nobody needed before;
+/// what cannot be read is reported to the listener.
 std::vector<ViewItem> viewItems(const Scene& scene);
 
 }  // namespace host

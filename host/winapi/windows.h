@@ -24,6 +24,7 @@ using LPVOID = void*;
 using WCHAR = wchar_t;
 using LPWSTR = wchar_t*;
 using LPCWSTR = const wchar_t*;
+using LPARAM = std::intptr_t;
 
 using HINSTANCE = struct HINSTANCE__*;
 using HMODULE = HINSTANCE;
@@ -45,6 +46,15 @@ using HACCEL = struct HACCEL__*;
 #define FILE_ATTRIBUTE_DIRECTORY 0x10U
 #define FILE_ATTRIBUTE_NORMAL 0x80U
 
+#define DLL_PROCESS_ATTACH 1
+#define DLL_PROCESS_DETACH 0
+
+#define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-1)))
+#define MAKEINTRESOURCEW(id) (reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(static_cast<WORD>(id))))
+
+#define ACTCTX_FLAG_RESOURCE_NAME_VALID 0x8U
+#define ACTCTX_FLAG_HMODULE_VALID 0x80U
+
 #define _MAX_DRIVE 3
 #define _MAX_DIR 256
 #define _MAX_FNAME 256
@@ -59,3 +69,34 @@ std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode);
 /// Splits a path without looking at the disk; a part that is not wanted may be null, one that is absent becomes empty.
 /// The folder keeps its trailing separator, the extension its dot. A part longer than its buffer is cut.
 void _wsplitpath(const wchar_t* path, wchar_t* drive, wchar_t* folder, wchar_t* name, wchar_t* extension);
+
+/// A text of the module's string table, cut to `size` characters with the ending zero. How many characters were stored;
+/// 0, and an empty text, for an id that there is not, a null or unknown module, and a buffer without room. A module
+/// brings its resource script along: it exports `const char* ModuleResourceScript()`, in C linkage.
+int WINAPI LoadStringW(HINSTANCE instance, UINT id, LPWSTR buffer, int size);
+
+/// Modules are not told of threads here anyway. FALSE for null.
+BOOL WINAPI DisableThreadLibraryCalls(HMODULE module);
+
+struct ACTCTXW {
+  ULONG cbSize;
+  DWORD dwFlags;
+  LPCWSTR lpSource;
+  WORD wProcessorArchitecture;
+  WORD wLangId;
+  LPCWSTR lpAssemblyDirectory;
+  LPCWSTR lpResourceName;
+  LPCWSTR lpApplicationName;
+  HMODULE hModule;
+};
+using PCACTCTXW = const ACTCTXW*;
+
+// Activation contexts choose nothing on Linux, but their use is checked as on Windows: what is activated is deactivated
+// in reverse order, and a context is released once.
+
+/// INVALID_HANDLE_VALUE for a request of the wrong size or without the module that its flags promise.
+HANDLE WINAPI CreateActCtxW(PCACTCTXW request);
+BOOL WINAPI ActivateActCtx(HANDLE context, ULONG_PTR* cookie);
+/// FALSE, and nothing done, for a cookie that is not the last one given out.
+BOOL WINAPI DeactivateActCtx(DWORD flags, ULONG_PTR cookie);
+void WINAPI ReleaseActCtx(HANDLE context);

@@ -15,8 +15,6 @@ std::ptrdiff_t entryCount(const fs::path& folder) {
   return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
 }
 
-}  // namespace
-
 TEST(WholeFile, ReplacesAFileAndKeepsItsPermissionsAndLinks) {
   const support::TemporaryFolder folder;
   const fs::path file = folder.write("a.json", "old");
@@ -38,5 +36,7 @@ TEST(WholeFile, LeavesNothingBehindWhenItFails) {
   EXPECT_EQ(entryCount(folder.path()), 1);
   EXPECT_TRUE(fs::exists(folder.path() / "taken" / "inside"));
 }
+
+}  // namespace
 
 }  // namespace host

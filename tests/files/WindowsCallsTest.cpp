@@ -20,8 +20,6 @@ std::wstring split(const std::wstring& path) {
   return std::wstring(parts.drive) + L"|" + parts.folder + L"|" + parts.name + L"|" + parts.extension;
 }
 
-}  // namespace
-
 TEST(WindowsCalls, AttributesTellFilesFromFolders) {
   const support::TemporaryFolder folder;
   folder.write("Sub/File.txt", "x");
@@ -76,3 +74,5 @@ TEST(WindowsCalls, TheApplicationDataFolderFollowsTheEnvironment) {
     EXPECT_TRUE(FAILED(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, path)));
   }
 }
+
+}  // namespace

@@ -51,8 +51,6 @@ struct Strip {
   MeshReading read() const { return readMesh(bytes()); }
 };
 
-}  // namespace
-
 TEST(GltfMesh, WritingAndReadingKeepsEverythingAMeshHas) {
   Mesh mesh = shapes::square();
   mesh.positions[2] = {1, 1, 0.5F};
@@ -193,3 +191,5 @@ TEST(GltfMesh, SurvivesBeingCutAnywhereAndHavingAnyByteChanged) {
   }
   EXPECT_FALSE(readMesh(glb(std::string(1'000'000, '['), "")).mesh);
 }
+
+}  // namespace

@@ -10,8 +10,6 @@ namespace {
 
 constexpr char triangle[] = "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n";
 
-}  // namespace
-
 TEST(MeshCache, SharesAMeshAndLetsItDieWithItsLastUser) {
   const support::TemporaryFolder folder;
   const auto file = folder.write("one.vrmesh", triangle);
@@ -47,3 +45,5 @@ TEST(MeshCache, SaysWhyAFileCannotBeReadUntilItIsMended) {
   folder.write("one.vrmesh", triangle);
   EXPECT_TRUE(cache.get(file).mesh);
 }
+
+}  // namespace

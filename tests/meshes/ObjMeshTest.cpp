@@ -21,8 +21,6 @@ float area(const Mesh& mesh) {
   return sum;
 }
 
-}  // namespace
-
 TEST(ObjMesh, ReadsPositionsTexCoordsAndNormalsAsWritten) {
   const MeshReading reading = readMesh(
       "# made by hand\r\no thing\r\nv 1.5 +2 -3e0 0.1 0.2 0.3\r\nv 2.5 2 -3\r\nv 2.5 3 -3\r\n"
@@ -58,9 +56,9 @@ TEST(ObjMesh, CutsAConcavePolygonWithoutLeavingIt) {
   const MeshReading reading = readMesh("v 2 0 0\nv 2 1 0\nv 1 1 0\nv 1 2 0\nv 0 2 0\nv 0 0 0\nf 1 2 3 4 5 6\n");
   ASSERT_TRUE(reading.mesh);
   EXPECT_EQ(reading.mesh->triangles.size(), 4U);
-  for (const auto& triangle : reading.mesh->triangles) {
+  for (const auto& corners : reading.mesh->triangles) {
     Mesh one = *reading.mesh;
-    one.triangles = {triangle};
+    one.triangles = {corners};
     EXPECT_GE(area(one), 0.0F);
   }
   EXPECT_FLOAT_EQ(area(*reading.mesh), 3.0F);
@@ -134,3 +132,5 @@ TEST(ObjMesh, RefusesWhatIsBrokenWithOneLine) {
     EXPECT_EQ(reading.error.find('\n'), std::string::npos) << one.reason;
   }
 }
+
+}  // namespace

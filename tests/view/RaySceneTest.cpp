@@ -39,8 +39,6 @@ char places[2];
 INode* const firstNode = reinterpret_cast<INode*>(&places[0]);
 INode* const secondNode = reinterpret_cast<INode*>(&places[1]);
 
-}  // namespace
-
 TEST(RayScene, MeasuresAScaledAndTurnedInstanceAlongARayOfAnyLength) {
   ViewItem item = squareAt({});
   item.toWorld.Scale({2, 3, 1});
@@ -165,3 +163,5 @@ TEST(RayMesh, IsPreparedOncePerMeshAndNotConfusedByAnotherAtTheSameAddress) {
     EXPECT_FLOAT_EQ(host::intersect(higher, ray({0, 0.1F, 20}, {0, 0, -1}))->distance, 20.0F - static_cast<float>(i));
   }
 }
+
+}  // namespace

@@ -58,8 +58,6 @@ double meanDifference(const QImage& a, const QImage& b) {
   return sum / (a.width() * a.height());
 }
 
-}  // namespace
-
 TEST(Renderer, DrawsTheSamePictureOnEveryRunWithAnyNumberOfThreads) {
   RayScene scene;
   fill(scene, 1);
@@ -214,3 +212,5 @@ TEST(Texture, MixesNeighboursInLinearLightAndRepeats) {
   const float nothing = std::nanf("");
   EXPECT_TRUE(std::isfinite(texture.at({nothing, 1e30F}).r));
 }
+
+}  // namespace

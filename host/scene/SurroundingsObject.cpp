@@ -1,0 +1,29 @@
+#include "host/scene/SurroundingsObject.h"
+
+#include "host/application/Application.h"
+#include "host/application/Listener.h"
+#include "host/files/Paths.h"
+#include "host/meshes/MeshCache.h"
+#include "host/scene/StandInMesh.h"
+#include "host/view/RayMesh.h"
+
+namespace host {
+
+SurroundingsObject::SurroundingsObject(const std::wstring& file) : file_(file) {
+  MeshReading reading = MeshCache::instance().get(resolvePath(file));
+  mesh_ = reading.mesh != nullptr ? std::move(reading.mesh) : standInMesh();
+  problem_ = reading.error;
+  if (!problem_.empty()) Application::instance().listener().report("Mesh " + toUtf8(file) + ": " + problem_);
+}
+
+int SurroundingsObject::IntersectRay(TimeValue /*t*/, Ray& ray, float& at, Point3& norm) {
+  const auto hit = intersect(mesh_, ray);
+  if (!hit) return 0;
+  at = hit->distance;
+  norm = hit->normal;
+  return 1;
+}
+
+Box3 SurroundingsObject::bounds() const { return mesh_->bounds; }
+
+}  // namespace host

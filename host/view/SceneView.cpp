@@ -1,0 +1,98 @@
+#include "host/view/SceneView.h"
+
+#include <algorithm>
+
+#include "host/scene/Geometry.h"
+#include "host/scene/Scene.h"
+#include "host/view/SceneItems.h"
+
+namespace host {
+
+namespace {
+
+Box3 boundsOf(const ViewItem& item) {
+  return item.mesh != nullptr ? transformed(item.mesh->bounds, item.toWorld) : Box3();
+}
+
+/// Filters may be slow in the eyes of a ray that meets hundreds of triangles: each node is asked about once.
+class RememberedAnswers {
+ public:
+  explicit RememberedAnswers(const RayScene::Accept& accept) : accept_(accept) {}
+  bool operator()(INode* node) {
+    for (const auto& answer : answers_) {
+      if (answer.first == node) return answer.second;
+    }
+    answers_.emplace_back(node, accept_(node));
+    return answers_.back().second;
+  }
+
+ private:
+  const RayScene::Accept& accept_;
+  std::vector<std::pair<INode*, bool>> answers_;
+};
+
+}  // namespace
+
+const RayScene& SceneView::rays() {
+  update();
+  return rays_;
+}
+
+SceneView::Changes SceneView::takeChanges() {
+  update();
+  const Changes changes = changes_;
+  changes_ = {};
+  return changes;
+}
+
+INode* SceneView::pick(const Ray& ray, const RayScene::Accept& accept) {
+  update();
+  RememberedAnswers answers(accept);
+  const auto hit = accept ? rays_.intersect(ray, std::ref(answers)) : rays_.intersect(ray);
+  return hit ? rays_.items()[hit->item].node : nullptr;
+}
+
+void SceneView::update() {
+  const auto moved = scene_.movedSince(movesSeen_);
+  if (!built_ || appearance_ != scene_.appearance() || !moved) return rebuild();
+  movesSeen_ = scene_.moveCount();
+  for (Node* node : *moved) follow(*node);
+  if (!followed_.empty()) moveWhatFollowed();
+}
+
+void SceneView::rebuild() {
+  std::vector<ViewItem> items = viewItems(scene_);
+  appearance_ = scene_.appearance();
+  movesSeen_ = scene_.moveCount();
+  itemOf_.clear();
+  for (std::size_t i = 0; i < items.size(); ++i) itemOf_[static_cast<Node*>(items[i].node)] = i;
+  rays_.setItems(std::move(items));
+  built_ = true;
+  changes_ = {true, Box3()};
+  ++rebuilds_;
+}
+
+void SceneView::follow(Node& node) {
+  const auto item = itemOf_.find(&node);
+  if (item != itemOf_.end()) followed_.push_back(item->second);
+  for (const Ref<Node>& child : node.children()) follow(*child);
+}
+
+void SceneView::moveWhatFollowed() {
+  std::sort(followed_.begin(), followed_.end());
+  followed_.erase(std::unique(followed_.begin(), followed_.end()), followed_.end());
+  std::vector<RayScene::Move> moves;
+  for (const std::size_t index : followed_) {
+    const ViewItem& item = rays_.items()[index];
+    const Matrix3 toWorld = item.node->GetObjectTM(0);
+    if (toWorld == item.toWorld) continue;
+    changes_.bounds += boundsOf(item);
+    moves.push_back({index, toWorld});
+  }
+  rays_.moveItems(moves);
+  for (const RayScene::Move& move : moves) changes_.bounds += boundsOf(rays_.items()[move.item]);
+  moves_ += moves.size();
+  followed_.clear();
+}
+
+}  // namespace host

@@ -1,0 +1,3 @@
+// A shared library like any other.
+
+extern "C" int answer() { return 42; }
