@@ -42,7 +42,7 @@ endfunction()
 # sources with the same function, so the choice is made when linking.
 function(zorvel_assemble_plugin)
   set(objects)
-  foreach(folder core model repository scene)
+  foreach(folder core model repository scene ui)
     list(APPEND objects $<TARGET_OBJECTS:zorvel_${folder}>)
   endforeach()
   foreach(variant "zorvel_plugin|Debug.cpp" "zorvel_plugin_diagnostic|DebugRecording.cpp")
@@ -55,11 +55,30 @@ function(zorvel_assemble_plugin)
   endforeach()
 endfunction()
 
-# zorvel_test(NAME SOURCE...): one GoogleTest program, run as one test. LIBRARIES is what it links besides.
+# zorvel_plugin_module(TARGET FILE LIBRARY SOURCE...): the loadable module FILE.gup with one of the two log sinks. The text of its resource
+# script goes in as it stands: the host reads the string table from it, as Windows reads the compiled one.
+function(zorvel_plugin_module target file library)
+  file(READ ${PROJECT_SOURCE_DIR}/core/zorvel.rc script)
+  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/generated/ModuleResourceScript.cpp
+       CONTENT "extern \"C\" const char* ModuleResourceScript() { return R\"rc(@script@)rc\"; }\n" @ONLY)
+  set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/zorvel.rc)
+  add_library(${target} MODULE ${PROJECT_BINARY_DIR}/generated/ModuleResourceScript.cpp ${ARGN})
+  target_link_libraries(${target} PRIVATE zorvel_options -Wl,--whole-archive ${library} -Wl,--no-whole-archive)
+  set_target_properties(${target} PROPERTIES PREFIX "" OUTPUT_NAME ${file} SUFFIX .gup CXX_STANDARD 14
+                                             LIBRARY_OUTPUT_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  file(COPY ${PROJECT_SOURCE_DIR}/core/icons DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+endfunction()
+
+# zorvel_test(NAME SOURCE... [OWN_MAIN] LIBRARIES LIBRARY...): one GoogleTest program, run as one test. LIBRARIES is what it links
+# besides. OWN_MAIN: its sources hold the main function.
 function(zorvel_test name)
-  cmake_parse_arguments(TEST "" "" "LIBRARIES" ${ARGN})
+  cmake_parse_arguments(TEST "OWN_MAIN" "" "LIBRARIES" ${ARGN})
+  set(main GTest::gtest_main)
+  if(TEST_OWN_MAIN)
+    set(main GTest::gtest)
+  endif()
   add_executable(${name} ${TEST_UNPARSED_ARGUMENTS})
-  target_link_libraries(${name} PRIVATE zorvel_options ${TEST_LIBRARIES} GTest::gmock GTest::gtest_main)
+  target_link_libraries(${name} PRIVATE zorvel_options ${TEST_LIBRARIES} GTest::gmock ${main})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   set_target_properties(${name} PROPERTIES CXX_STANDARD 17 UNITY_BUILD ${ZORVEL_UNITY})
   add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:${PROJECT_BINARY_DIR}/test-results/${name}.xml)
