@@ -47,25 +47,6 @@ void write(const fs::path& file, const std::string& text) {
   std::ofstream(file, std::ios::binary) << text;
 }
 
-/// A bumpy sheet of 2 * side * side triangles.
-host::Mesh sheet(int side) {
-  host::Mesh mesh;
-  for (int y = 0; y <= side; ++y) {
-    for (int x = 0; x <= side; ++x) {
-      mesh.positions.emplace_back(static_cast<float>(x), static_cast<float>(y), static_cast<float>((x * y) % 7));
-    }
-  }
-  const auto corner = [side](int x, int y) { return static_cast<std::uint32_t>(y * (side + 1) + x); };
-  for (int y = 0; y < side; ++y) {
-    for (int x = 0; x < side; ++x) {
-      mesh.triangles.push_back({corner(x, y), corner(x + 1, y), corner(x + 1, y + 1)});
-      mesh.triangles.push_back({corner(x, y), corner(x + 1, y + 1), corner(x, y + 1)});
-    }
-  }
-  host::completeMesh(mesh);
-  return mesh;
-}
-
 }  // namespace
 
 GeneratedRepository::GeneratedRepository(int characters) : folder_(temporaryFolder()) {
@@ -174,6 +155,24 @@ void GeneratedRepository::writeFolders(int number) const {
   write(base / "o0/pose.vrmesh", mesh);
   write(base / "k0/c0k0_c0p0.vrmesh", mesh);
   for (int i = 0; i < 5; ++i) write(base / ("a" + std::to_string(i)) / "asset.vrmesh", mesh);
+}
+
+host::Mesh sheet(int side) {
+  host::Mesh mesh;
+  for (int y = 0; y <= side; ++y) {
+    for (int x = 0; x <= side; ++x) {
+      mesh.positions.emplace_back(static_cast<float>(x), static_cast<float>(y), static_cast<float>((x * y) % 7));
+    }
+  }
+  const auto corner = [side](int x, int y) { return static_cast<std::uint32_t>(y * (side + 1) + x); };
+  for (int y = 0; y < side; ++y) {
+    for (int x = 0; x < side; ++x) {
+      mesh.triangles.push_back({corner(x, y), corner(x + 1, y), corner(x + 1, y + 1)});
+      mesh.triangles.push_back({corner(x, y), corner(x + 1, y + 1), corner(x, y + 1)});
+    }
+  }
+  host::completeMesh(mesh);
+  return mesh;
 }
 
 }  // namespace bench

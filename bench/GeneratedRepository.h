@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <string>
 
+#include "host/meshes/Mesh.h"
+
 namespace bench {
 
 /// A repository on disk, in a temporary folder that goes with it: each character has 40 clothes with 3 styles, an
@@ -35,5 +37,8 @@ class GeneratedRepository {
   std::filesystem::path folder_;
   int elements_ = 0;
 };
+
+/// A bumpy sheet of 2 * side * side triangles, one unit each way, between Z 0 and 6.
+host::Mesh sheet(int side);
 
 }  // namespace bench

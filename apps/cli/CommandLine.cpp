@@ -62,6 +62,10 @@ Command addCreate(CLI::App& app) {
   command->add_option("--unit", options->unit, "System unit of the scene (centimeters unless given)")
       ->transform(CLI::CheckedTransformer(UNITS, CLI::ignore_case))
       ->option_text("UNIT");
+  command->add_option("--at", options->at, "Where the character stands, in scene units")
+      ->delimiter(',')
+      ->option_text("X,Y,Z");
+  command->add_option("--turn", options->turn, "How far it is turned about the vertical axis")->option_text("DEGREES");
   command->add_option("--picture", options->picture, "Write a picture of the scene (PNG)");
   command->add_option("--width", options->width, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
   command->add_option("--height", options->height, "Of the picture, in pixels")->check(CLI::Range(16, 8192));

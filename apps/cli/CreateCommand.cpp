@@ -9,6 +9,7 @@
 #include "apps/cli/Choice.h"
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/LoadedRepository.h"
+#include "apps/cli/PlaceByClicks.h"
 #include "apps/cli/Progress.h"
 #include "host/application/Application.h"
 #include "host/application/Listener.h"
@@ -102,6 +103,7 @@ int build(const CreateOptions& options, Findings& findings) {
     complain("nothing was built.");
     return EXIT_FINDINGS;
   }
+  placeByClicks(*parent, {options.at[0], options.at[1], options.at[2]}, options.turn);
   std::cout << "Built " << host::toUtf8(parent->GetName()) << ", " << application.scene().nodes().size() << " nodes\n";
   reportPieces(reportOf(ZORVEL::LogStore::Entries()), findings);
   // Reads every mesh and texture, so that those which cannot be read are named even when no file is asked for.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -21,6 +22,9 @@ struct CreateOptions {
   bool bare = false;
   /// One of the UNITS_ constants.
   int unit;
+  /// Where it stands, in scene units, and how far it is turned about Z, in degrees.
+  std::array<float, 3> at = {0.0F, 0.0F, 0.0F};
+  float turn = 0.0F;
   /// Files to write; empty for none.
   std::filesystem::path picture;
   std::filesystem::path gltf;

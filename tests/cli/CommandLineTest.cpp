@@ -163,6 +163,18 @@ TEST_F(CommandLine, LeavesNothingBehindWhereAFileCannotBeWritten) {
   EXPECT_TRUE(std::filesystem::is_empty(out_.path()));
 }
 
+TEST_F(CommandLine, PlacesTheGroupWhereItIsTold) {
+  writeTextures();
+  const Outcome outcome =
+      run({"create", root(), "--unit", "meters", "--at", "1.5,-2,0.75", "--turn", "90", "--json", file("a.json")});
+  EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
+  const Json head = json("a.json")["nodes"][0];
+  EXPECT_EQ(head["transform"][3], Json({1.5, -2.0, 0.75}));
+  EXPECT_NEAR(head["transform"][0][1].get<double>(), 0.01, 1e-7);
+  EXPECT_EQ(head["children"][0]["selected"], true);
+  EXPECT_EQ(run({"create", root(), "--at", "1,2"}).status, cli::EXIT_USAGE);
+}
+
 /// Decimal commas and grouped thousands, whatever locales the machine has.
 class CommaPunctuation : public std::numpunct<char> {
   char do_decimal_point() const override { return ','; }
