@@ -40,6 +40,9 @@ class ManifestContext {
   bool m_active = false;
 };
 
+/// One pair of name and pattern; each ends in a null, and so does the list.
+std::wstring Filter() { return std::wstring(L"ZORVEL XML") + L'\0' + L"*.XML" + L'\0'; }
+
 std::wstring FolderOf(const wchar_t* file) {
   std::vector<wchar_t> drive(FILE_NAME_LENGTH);
   std::vector<wchar_t> folder(FILE_NAME_LENGTH);
@@ -51,9 +54,10 @@ std::wstring FolderOf(const wchar_t* file) {
 
 std::wstring RepositoryDialog::AskForFolder() {
   wchar_t file[FILE_NAME_LENGTH] = L"";
+  const std::wstring filter = Filter();
   OPENFILENAMEW request = {};
   request.lStructSize = sizeof(request);
-  request.lpstrFilter = L"ZORVEL XML\0*.XML\0";
+  request.lpstrFilter = filter.c_str();
   request.lpstrFile = file;
   request.nMaxFile = FILE_NAME_LENGTH;
   request.lpstrTitle = L"Select file \"zorvel.xml\"";

@@ -34,6 +34,8 @@ class CommandFacade : public support::LoadedRepositoryTest {
     Application::instance().fileDialog().setProvider([this, file](const FileDialog::Question& question) {
       ++asked_;
       EXPECT_EQ(question.title, L"Select file \"zorvel.xml\"");
+      const std::vector<std::pair<std::wstring, std::wstring>> filters = {{L"ZORVEL XML", L"*.XML"}};
+      EXPECT_EQ(question.filters, filters);
       return file;
     });
   }
