@@ -11,14 +11,18 @@ namespace {
 const int COUNTER_START = 1000;
 const int STEP = 10;
 
+// Records with static storage may release their ids after the registry has gone.
+bool registryGone = false;
+
 struct Registry {
+  ~Registry() { registryGone = true; }
+
   int counter = COUNTER_START;
   std::vector<const DataContainer*> elements;  // by (id - COUNTER_START) / STEP - 1; null where an id names nothing
 };
 
-// Never destroyed: records with static storage release their ids when the process ends.
 Registry& registry() {
-  static Registry& instance = *new Registry;
+  static Registry instance;
   return instance;
 }
 
@@ -45,6 +49,7 @@ int UniqueRegistry::GetUnique(const DataContainer& element) {
 }
 
 void UniqueRegistry::Release(const DataContainer& element) {
+  if (registryGone) return;
   if (Find(element.m_unique) == &element) registry().elements[slotOf(element.m_unique)] = nullptr;
 }
 

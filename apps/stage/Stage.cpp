@@ -1,0 +1,109 @@
+#include "apps/stage/Stage.h"
+
+#include <QApplication>
+#include <iostream>
+
+#include "apps/stage/ExitStatus.h"
+#include "apps/stage/StageMenus.h"
+#include "host/actions/IconFolders.h"
+#include "host/application/Application.h"
+#include "host/application/Listener.h"
+#include "host/modes/CommandModes.h"
+#include "host/plugins/ModuleLoader.h"
+#include "host/view/Renderer.h"
+
+namespace stage {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+host::Application& application() { return host::Application::instance(); }
+
+fs::path programFolder() { return {QCoreApplication::applicationDirPath().toStdString()}; }
+
+/// Until the viewport shows its best, or nothing more is to be expected of it.
+void waitForPicture(StageWindow& window) {
+  while (!window.view().picture().complete()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+  QCoreApplication::processEvents();
+}
+
+}  // namespace
+
+Stage::Stage(StageOptions options) : options_(std::move(options)), status_(EXIT_CLEAN) {
+  if (!options_.repository.empty()) settings_.emplace(options_.repository);
+}
+
+Stage::~Stage() {
+  window_.log().follow({});
+  window_.menus().offerCharacter({});
+  // A mode of the module must not be current any more when it goes.
+  application().modes().returnToStandard();
+  application().modules().shutDown();
+}
+
+void Stage::complain(const QString& text, int status) {
+  std::cerr << "zorvel-stage: " << text.toStdString() << '\n';
+  status_ = std::max(status_, status);
+}
+
+int Stage::run() {
+  if (!options_.unattended()) window_.becomeInteractive();
+  window_.show();
+  prepare();
+  runScripts();
+  createCharacter();
+  window_.catchUp();
+  writePictures();
+  if (options_.quit) return status_;
+  return QApplication::exec() == 0 ? status_ : EXIT_INTERNAL;
+}
+
+void Stage::prepare() {
+  if (settings_ && !settings_->error().empty()) {
+    application().listener().report(settings_->error());
+    complain(QString::fromStdString(settings_->error()), EXIT_UNREADABLE);
+  }
+  loadModule();
+  if (!options_.scene.empty() && !window_.files().open(options_.scene)) {
+    complain(window_.promptLine().message(), EXIT_UNREADABLE);
+  }
+}
+
+void Stage::loadModule() {
+  const fs::path module = options_.module.empty() ? programFolder() / "zorvel.gup" : options_.module;
+  const fs::path beside = fs::absolute(module).parent_path();
+  application().icons().set({beside / "icons", programFolder() / "icons"});
+  const std::string error = application().modules().load(module);
+  if (!error.empty()) return complain(QString::fromStdString(error), EXIT_UNREADABLE);
+  const ModuleLog log = ModuleLog::of(module);
+  window_.log().follow(log);
+  character_ = ModuleCharacter::of(module);
+  window_.menus().offerCharacter(character_);
+  if (log.records()) window_.resizeDocks({&window_.listener(), &window_.log()}, {1, 1}, Qt::Horizontal);
+}
+
+void Stage::runScripts() {
+  for (const std::string& script : options_.scripts) {
+    const bool understood = window_.listener().scriptLine().run(QString::fromStdString(script));
+    if (!understood) complain(QString("script not understood: %1").arg(QString::fromStdString(script)), EXIT_FINDINGS);
+  }
+}
+
+void Stage::createCharacter() {
+  if (!options_.create) return;
+  if (!character_.canCreate()) return complain("this module creates no characters by itself", EXIT_FINDINGS);
+  character_.create();
+}
+
+void Stage::writePictures() {
+  if (!options_.picture.empty() && !window_.files().savePictureNow(options_.picture)) {
+    complain(window_.promptLine().message(), EXIT_FINDINGS);
+  }
+  if (options_.windowPicture.empty()) return;
+  waitForPicture(window_);
+  const std::string error = host::writePicture(window_.grab().toImage(), options_.windowPicture);
+  if (!error.empty()) complain(QString::fromStdString(options_.windowPicture.string() + ": " + error), EXIT_FINDINGS);
+}
+
+}  // namespace stage

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QToolBar>
+
+#include "apps/stage/FileCommands.h"
+#include "apps/stage/ModuleCharacter.h"
+
+namespace stage {
+
+class StageWindow;
+
+/// Menus and the standard tool bar of the stage's window, with their shortcuts.
+class StageMenus : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit StageMenus(StageWindow& window);
+
+  /// Puts the entry into the menu when the module can create; one that cannot takes it away.
+  void offerCharacter(ModuleCharacter character);
+
+  QAction& undoAction() const { return *undo_; }
+  QAction& redoAction() const { return *redo_; }
+
+ public slots:
+  /// The steps that undo and redo would make stand in their texts.
+  void showUndo();
+  void showSelection();
+  void showUnit();
+
+ signals:
+  void unitChosen(int type);
+
+ private:
+  void addFileMenu();
+  void addEditMenu();
+  void addViewMenu();
+  void addCustomizeMenu();
+  void addScriptingMenu();
+  void addToolBar();
+
+  StageWindow& window_;
+  QAction* new_ = nullptr;
+  QAction* open_ = nullptr;
+  QAction* save_ = nullptr;
+  QAction* import_ = nullptr;
+  QAction* picture_ = nullptr;
+  QAction* undo_ = nullptr;
+  QAction* redo_ = nullptr;
+  QAction* delete_ = nullptr;
+  QAction* frame_ = nullptr;
+  QAction* frameAll_ = nullptr;
+  QAction* create_ = nullptr;
+  QActionGroup* units_ = nullptr;
+  ModuleCharacter character_;
+};
+
+/// The name of one of the UNITS_ constants.
+QString unitName(int type);
+
+}  // namespace stage

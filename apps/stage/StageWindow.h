@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "apps/stage/FileCommands.h"
+#include "apps/stage/HostWatch.h"
+#include "apps/stage/ModuleLog.h"
+#include "apps/stage/document/SceneDocument.h"
+#include "apps/stage/panels/ListenerPanel.h"
+#include "apps/stage/panels/LogPanel.h"
+#include "apps/stage/panels/NodePanel.h"
+#include "apps/stage/panels/PromptLine.h"
+#include "apps/stage/panels/QuickAccessToolBar.h"
+#include "apps/stage/viewport/ViewportWidget.h"
+
+namespace stage {
+
+class StageMenus;
+
+/// The window in which the embedded host is used by hand. It begins with a new scene; there may be one at a time.
+class StageWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  StageWindow();
+  ~StageWindow() override;
+
+  ViewportWidget& view() const { return *view_; }
+  FileCommands& files() const { return *files_; }
+  SceneDocument& document() const { return *document_; }
+  StageMenus& menus() const { return *menus_; }
+  NodePanel& nodes() const { return *nodes_; }
+  ListenerPanel& listener() const { return *listener_; }
+  PromptLine& promptLine() const { return *prompt_; }
+  QuickAccessToolBar& quickAccess() const { return *quickAccess_; }
+  LogPanel& log() const { return *log_; }
+
+  /// Brings everything shown up to date now, not only before the program waits.
+  void catchUp();
+  /// From now on a person is asked where a question is due, and the window is found again where it was left.
+  void becomeInteractive();
+
+ public slots:
+  void goToScriptLine();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void connectHost();
+  void showTitle();
+
+  SceneDocument* document_;
+  ViewportWidget* view_;
+  FileCommands* files_;
+  NodePanel* nodes_;
+  ListenerPanel* listener_;
+  LogPanel* log_;
+  PromptLine* prompt_;
+  QuickAccessToolBar* quickAccess_;
+  StageMenus* menus_;
+  HostWatch* watch_;
+  bool interactive_ = false;
+};
+
+}  // namespace stage

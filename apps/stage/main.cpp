@@ -1,0 +1,25 @@
+#include <QApplication>
+#include <exception>
+#include <iostream>
+
+#include "apps/stage/DarkTheme.h"
+#include "apps/stage/ExitStatus.h"
+#include "apps/stage/Stage.h"
+
+int main(int argc, char** argv) try {
+  // Help and mistakes need no display.
+  const stage::ParsedOptions parsed = stage::parseOptions(argc, argv);
+  if (!parsed.options) return parsed.status;
+  // Qt talks about run-time folders and window hints that nobody who runs it from a script cares for.
+  if (parsed.options->unattended()) qputenv("QT_LOGGING_RULES", "default.warning=false");
+  QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+  QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  QApplication application(argc, argv);
+  QApplication::setApplicationDisplayName("Zorvel Stage");
+  stage::applyDarkTheme(application);
+  stage::Stage run(*parsed.options);
+  return run.run();
+} catch (const std::exception& error) {
+  std::cerr << "zorvel-stage: internal error: " << error.what() << '\n';
+  return stage::EXIT_INTERNAL;
+}

@@ -1,0 +1,41 @@
+#include "apps/stage/panels/PromptLine.h"
+
+namespace stage {
+
+PromptLine::PromptLine(QWidget* parent)
+    : QStatusBar(parent), prompt_(new QLabel), message_(new QLabel), progress_(new QProgressBar), unit_(new QLabel) {
+  prompt_->setToolTip(tr("What the current mode waits for"));
+  prompt_->setAccessibleName(tr("Prompt"));
+  prompt_->setContentsMargins(6, 0, 6, 0);
+  // Texts from files may be long; they must not widen the window.
+  prompt_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  message_->setTextFormat(Qt::PlainText);
+  prompt_->setTextFormat(Qt::PlainText);
+  QPalette quiet = message_->palette();
+  quiet.setColor(QPalette::WindowText, QColor(165, 165, 165));
+  message_->setPalette(quiet);
+  unit_->setToolTip(tr("System unit: what one unit of the scene is"));
+  progress_->setMaximumWidth(140);
+  progress_->hide();
+  addWidget(prompt_, 1);
+  addWidget(message_, 1);
+  addPermanentWidget(progress_);
+  addPermanentWidget(unit_);
+}
+
+void PromptLine::setPrompt(const QString& prompt) { prompt_->setText(prompt.isEmpty() ? tr("Ready") : prompt); }
+
+void PromptLine::say(const QString& message) {
+  message_->setText(message);
+  message_->setToolTip(message);
+}
+
+void PromptLine::setUnit(const QString& unit) { unit_->setText(unit); }
+
+void PromptLine::setProgress(int percent) {
+  progress_->setValue(percent);
+  progress_->setVisible(percent < 100);
+}
+
+}  // namespace stage

@@ -1,0 +1,115 @@
+#include <max.h>
+
+#include <QtTest/QtTest>
+#include <cmath>
+
+#include "apps/stage/StageMenus.h"
+#include "host/application/Application.h"
+#include "host/modes/CommandModes.h"
+#include "host/scene/Scene.h"
+#include "tests/stage/StageTest.h"
+
+namespace {
+
+/// On the ground, in nobody's way.
+const Point3 onGround(-60, 40, 0);
+
+class PlacingByHand : public support::StageTest {
+ protected:
+  /// The node that is being placed: the plug-in's own parent of the character.
+  static INode* placed() {
+    for (host::Node* node : scene().nodes()) {
+      if (node->IsGroupMember() != FALSE && node->GetParentNode()->IsGroupHead() != FALSE) return node;
+    }
+    return nullptr;
+  }
+  static Point3 place(INode* node) { return node->GetNodeTM(0).GetTrans(); }
+  static bool standardMode() {
+    return &host::Application::instance().modes().current() == &host::Application::instance().modes().standard();
+  }
+};
+
+void expectNear(const Point3& place, const Point3& wanted, float tolerance) {
+  EXPECT_NEAR(place.x, wanted.x, tolerance);
+  EXPECT_NEAR(place.y, wanted.y, tolerance);
+  EXPECT_NEAR(place.z, wanted.z, tolerance);
+}
+
+TEST_F(PlacingByHand, ACharacterFollowsTheMouseOverGroundTableAndLampAndIsTurnedByTheSecondStep) {
+  createCharacter();
+  settle();
+  EXPECT_EQ(window().promptLine().prompt(), "Place your ZORVEL Character");
+  EXPECT_EQ(view().cursor().shape(), Qt::CrossCursor);
+
+  // A pixel on the ground is about a scene unit wide here.
+  move(pixelOf(onGround));
+  expectNear(place(placed()), onGround, 2.0F);
+  const Point3 onTable(190, 140, 75);
+  move(pixelOf(onTable));
+  expectNear(place(placed()), onTable, 2.0F);
+  move(pixelOf(Point3(210, 150, 310)));
+  EXPECT_NEAR(place(placed()).z, 0.0F, 1e-3F) << "nothing stands on a helper";
+  move(pixelOf(onTable));
+
+  click(pixelOf(onTable));
+  EXPECT_EQ(window().promptLine().prompt(), "Rotate your ZORVEL Character");
+  move(pixelOf(onTable) + QPoint(100, 30));
+  const Matrix3 turned = placed()->GetNodeTM(0);
+  EXPECT_NEAR(std::atan2(turned.GetRow(0).y, turned.GetRow(0).x), 1.0F, 1e-4F);
+
+  click(pixelOf(onTable) + QPoint(100, 30));
+  EXPECT_TRUE(standardMode());
+  INode* head = placed()->GetParentNode();
+  expectNear(place(head), onTable, 2.0F);
+  EXPECT_TRUE(static_cast<bool>(placed()->Selected()));
+  EXPECT_TRUE(window().menus().undoAction().isEnabled());
+}
+
+TEST_F(PlacingByHand, ARightClickLeavesNothingBehindAndUndoAfterItDoesNoHarm) {
+  const std::size_t before = scene().nodes().size();
+  createCharacter();
+  move(pixelOf(onGround));
+  click(pixelOf(onGround));
+  click(pixelOf(onGround), Qt::RightButton);
+  EXPECT_EQ(scene().nodes().size(), before);
+  EXPECT_TRUE(standardMode());
+  key(Qt::Key_Z, Qt::ControlModifier);
+  key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(scene().nodes().size(), before);
+  EXPECT_EQ(window().nodes().tree().topLevelItemCount(), static_cast<int>(before));
+}
+
+TEST_F(PlacingByHand, NavigatingInTheMiddleOfAPlacementIsNoneOfItsBusiness) {
+  createCharacter();
+  move(pixelOf(onGround));
+  const Point3 stood = place(placed());
+  const float yaw = view().viewport().yaw();
+  const QPoint from = pixelOf(onGround);
+  press(from, Qt::MiddleButton, Qt::AltModifier);
+  move(from + QPoint(60, 20));
+  release(from + QPoint(60, 20), Qt::MiddleButton, Qt::AltModifier);
+  EXPECT_NE(view().viewport().yaw(), yaw);
+  EXPECT_EQ(place(placed()), stood);
+  EXPECT_EQ(window().promptLine().prompt(), "Place your ZORVEL Character");
+  click(pixelOf(onGround), Qt::RightButton);
+}
+
+TEST_F(PlacingByHand, AWholeUseCanBeUndoneAndMadeAgain) {
+  const std::size_t before = scene().nodes().size();
+  createCharacter();
+  move(pixelOf(onGround));
+  click(pixelOf(onGround));
+  move(pixelOf(onGround) + QPoint(50, 0));
+  click(pixelOf(onGround) + QPoint(50, 0));
+  const std::size_t built = scene().nodes().size();
+  ASSERT_GT(built, before);
+
+  key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(scene().nodes().size(), before);
+  EXPECT_FALSE(window().menus().undoAction().isEnabled());
+  key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(scene().nodes().size(), built);
+  EXPECT_TRUE(waitForPicture());
+}
+
+}  // namespace

@@ -1,0 +1,82 @@
+#include "tests/stage/StageTest.h"
+
+#include <QtTest/QtTest>
+#include <cmath>
+
+#include "core/Commands.h"
+#include "host/application/Application.h"
+#include "host/modes/CommandModes.h"
+#include "host/scene/Scene.h"
+#include "scene/PlacementState.h"
+
+namespace support {
+
+void StageTest::SetUp() {
+  LoadedRepositoryTest::SetUp();
+  window_ = std::make_unique<stage::StageWindow>();
+  window_->resize(1100, 800);
+  window_->show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
+  // From the front and above: no thing hides another.
+  view().viewport().lookAt(Point3(0, 150, 60), 900.0F, 0.1F, 0.6F);
+  // A first move to where the last test left the mouse would be none.
+  move(QPoint(3, 3));
+}
+
+void StageTest::TearDown() {
+  host::Application::instance().modes().returnToStandard();
+  ZORVEL::PlacementState::Get() = ZORVEL::PlacementState();
+  window_.reset();
+  LoadedRepositoryTest::TearDown();
+}
+
+host::Scene& StageTest::scene() { return host::Application::instance().scene(); }
+
+INode* StageTest::node(const wchar_t* name) { return scene().find(name); }
+
+QPoint StageTest::pixelOf(const Point3& world) {
+  const auto pixel = view().viewport().camera().project(world, view().width(), view().height());
+  return {static_cast<int>(std::lround(pixel->x())), static_cast<int>(std::lround(pixel->y()))};
+}
+
+QPoint StageTest::inWindow(const QPoint& pixel) { return view().mapTo(window_.get(), pixel); }
+
+void StageTest::move(const QPoint& pixel) {
+  QTest::mouseMove(window_->windowHandle(), inWindow(pixel));
+  settle();
+}
+
+void StageTest::press(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+  QTest::mousePress(window_->windowHandle(), button, keys, inWindow(pixel));
+  settle();
+}
+
+void StageTest::release(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+  QTest::mouseRelease(window_->windowHandle(), button, keys, inWindow(pixel));
+  settle();
+}
+
+void StageTest::click(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+  press(pixel, button, keys);
+  release(pixel, button, keys);
+}
+
+void StageTest::key(Qt::Key key, Qt::KeyboardModifiers keys) {
+  QTest::keyClick(window_->windowHandle(), key, keys);
+  settle();
+}
+
+void StageTest::settle() {
+  QCoreApplication::processEvents();
+  window_->catchUp();
+  QCoreApplication::processEvents();
+}
+
+bool StageTest::waitForPicture() {
+  settle();
+  return QTest::qWaitFor([this] { return view().picture().complete(); }, 60000);
+}
+
+void StageTest::createCharacter() { ZORVEL::Commands::CreateCharacter(); }
+
+}  // namespace support
