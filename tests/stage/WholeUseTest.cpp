@@ -38,6 +38,10 @@ cancel  300 320 9 0 ZORVEL Character created
 
 class WholeUse : public testing::Test {
  protected:
+  void SetUp() override {
+    Application::instance().reset();
+    Application::instance().prompts() = host::Prompts();
+  }
   void TearDown() override { Application::instance().reset(); }
 
   static stage::StageOptions options(const support::SmallRepository& repository) {
