@@ -3,6 +3,7 @@
 #include <memory>
 #include <mutex>
 #include <new>
+#include <utility>
 
 namespace ZORVEL {
 
@@ -11,6 +12,7 @@ namespace {
 struct Store {
   std::mutex mutex;
   std::unique_ptr<std::vector<LogEntry>> entries;
+  LogStore::Listener listener;
 };
 
 Store& store() {
@@ -39,13 +41,22 @@ bool LogStore::Exists() {
 }
 
 void LogStore::Add(DEBUG_TYPE level, const wchar_t* text) {
-  std::lock_guard<std::mutex> lock(store().mutex);
-  if (!store().entries) return;
+  const wchar_t* const message = text ? text : L"";
+  Listener listener;
   try {
-    store().entries->push_back({level, text ? text : L""});
+    std::lock_guard<std::mutex> lock(store().mutex);
+    if (!store().entries) return;
+    store().entries->push_back({level, message});
+    listener = store().listener;
   } catch (const std::bad_alloc&) {
     // Losing a message is better than failing the operation that reports it.
   }
+  if (listener) listener(level, message);
+}
+
+void LogStore::SetListener(Listener listener) {
+  std::lock_guard<std::mutex> lock(store().mutex);
+  store().listener = std::move(listener);
 }
 
 std::vector<LogEntry> LogStore::Entries() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,9 @@ class LogStore {
 
   /// Never throws; a message that memory has no room for is lost.
   static void Add(DEBUG_TYPE level, const wchar_t* text);
+  /// Told of every message after it was recorded, in the thread that logged it; it may log itself. Empty for nobody.
+  using Listener = std::function<void(DEBUG_TYPE level, const wchar_t* text)>;
+  static void SetListener(Listener listener);
   /// A copy, so that it may be read while messages go on arriving. Empty without a store.
   static std::vector<LogEntry> Entries();
   /// Forgets the messages and keeps the store.

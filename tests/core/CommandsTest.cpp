@@ -147,4 +147,35 @@ TEST_F(CommandFacade, APoseRebuildsTheTabsAndAnUnknownOneTakesTheChoiceBack) {
   EXPECT_EQ(Selection2::GetPose(), nullptr);
 }
 
+TEST_F(CommandFacade, WhatTheWindowSendsWhileItRebuildsItsTabsForAPoseIsIgnored) {
+  const unsigned int skin = uniqueOf(anna()->GetSkin(L"s1"));
+  const unsigned int style = uniqueOf(anna()->GetStyle(L"k1", L"k1m2"));
+  const unsigned int pose = uniqueOf(anna()->GetPose(L"p2"));
+  const unsigned int bag = asset(0);
+  Selection2::AddAsset(static_cast<int>(asset(3)));
+  Selection2::SetSkin(nullptr);
+  int rebuilds = 0;
+  // The window answers a rebuild with events of its own, in the middle of it.
+  ZORVEL::LogStore::SetListener([&](ZORVEL::DEBUG_TYPE, const wchar_t* text) {
+    if (std::wstring(text) != L"MainWindow::RebuildTabs : no window..") return;
+    ++rebuilds;
+    Commands::SetSelectedPose(0, true);
+    Commands::SetSelectedSkin(skin, true);
+    Commands::SetSelectedStyle(style, true);
+    Commands::SetSelectedAsset(bag, true);
+    Commands::SetDeselectedAsset(asset(3), false);
+  });
+  Commands::SetSelectedPose(pose, true);
+  ZORVEL::LogStore::SetListener({});
+  EXPECT_EQ(rebuilds, 1);
+  EXPECT_STREQ(Selection2::GetPose(), L"p2");
+  EXPECT_EQ(Selection2::GetSkin(), nullptr);
+  EXPECT_STREQ(Selection2::GetStyle(), L"k1m1");
+  EXPECT_EQ(Selection2::GetAssetCount(), 0) << "taking away does not look at the flag";
+  Commands::SetSelectedSkin(skin, false);
+  EXPECT_STREQ(Selection2::GetSkin(), L"s1") << "the flag is down again";
+  expectNoWindow(L"RebuildTabs");
+  expectNoWindow(L"UpdateElementSelection");
+}
+
 }  // namespace

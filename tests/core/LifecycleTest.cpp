@@ -1,0 +1,66 @@
+#include <gtest/gtest.h>
+#include <max.h>
+
+#include "core/Settings.h"
+#include "core/zorvel.h"
+#include "host/application/Application.h"
+#include "host/application/Notifications.h"
+#include "host/scripting/ScriptRunner.h"
+#include "model/Data2.h"
+#include "tests/support/LocalAppData.h"
+#include "tests/support/LogStoreTest.h"
+
+extern "C" {
+int LibNumberClasses();
+ClassDesc* LibClassDesc(int i);
+const MCHAR* LibDescription();
+ULONG LibVersion();
+}
+
+namespace {
+
+class Lifecycle : public support::LogStoreTest {
+ protected:
+  static std::size_t registrations() { return host::Application::instance().notifications().count(); }
+
+  support::LocalAppData appData_;
+};
+
+TEST_F(Lifecycle, StartsWithoutItsActionTableAndStopsMoreThanOnce) {
+  const std::size_t before = registrations();
+  auto* plugin = static_cast<GUP*>(LibClassDesc(0)->Create());
+  EXPECT_EQ(plugin->Start(), GUPRESULT_KEEP);
+  EXPECT_EQ(registrations(), before + 3);
+  EXPECT_NE(ZORVEL::Settings::GetSingleton(), nullptr);
+  ZORVEL::Data2::AddCharacter();
+  plugin->Stop();
+  EXPECT_EQ(registrations(), before);
+  EXPECT_EQ(ZORVEL::Data2::GetCharacterCount(), 0);
+  EXPECT_FALSE(ZORVEL::LogStore::Exists());
+  plugin->Stop();
+  EXPECT_EQ(registrations(), before);
+  EXPECT_EQ(plugin->Control(7), 0U);
+  EXPECT_EQ(plugin->Save(nullptr), IO_OK);
+  plugin->DeleteThis();
+}
+
+TEST_F(Lifecycle, StopsCleanlyWithoutEverHavingStarted) {
+  auto* plugin = new ZORVEL::zorvel;
+  plugin->Stop();
+  plugin->DeleteThis();
+}
+
+TEST_F(Lifecycle, DescribesOneClassAndNoTextWithoutAModule) {
+  EXPECT_EQ(LibNumberClasses(), 1);
+  EXPECT_EQ(LibVersion(), 0x4E203200U);
+  ClassDesc* description = LibClassDesc(0);
+  EXPECT_EQ(LibClassDesc(0), description);
+  EXPECT_EQ(LibClassDesc(1), nullptr);
+  EXPECT_EQ(LibClassDesc(-1), nullptr);
+  EXPECT_EQ(description->ClassID(), Class_ID(0x269D2BA1, 0x25482A2C));
+  EXPECT_EQ(description->SuperClassID(), GUP_CLASS_ID);
+  EXPECT_STREQ(description->InternalName(), L"zorvel");
+  EXPECT_EQ(LibDescription(), nullptr);
+}
+
+}  // namespace
