@@ -8,7 +8,7 @@ namespace host {
 class Scene;
 
 constexpr const char* SCENE_FORMAT = "zorvel-scene";
-constexpr int SCENE_FORMAT_VERSION = 2;
+constexpr int SCENE_FORMAT_VERSION = 1;
 
 /// The scene as JSON text, with all that is needed to open it again: units, layers, and the tree of nodes with
 /// transforms, user properties, layer, group, selection, object and material. Lengths are in scene units; a matrix is

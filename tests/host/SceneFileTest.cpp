@@ -164,7 +164,7 @@ TEST_F(SceneFile, LeavesTheSceneAloneWhenAnyPartOfTheFileIsNotReadable) {
       {good.substr(0, good.size() / 2), "no scene file"},
       {good.substr(0, good.size() - 3), "no scene file"},
       {replaced("zorvel-scene", "other-scene"), "no scene file"},
-      {replaced("\"version\": 2", "\"version\": 99"), "version"},
+      {replaced("\"version\": 1", "\"version\": 99"), "version"},
       {replaced("\"type\": 0", "\"type\": 70"), "unit"},
       {replaced("\"layer\": \"0\"", "\"layer\": \"gone\""), "layer"},
       {replaced("\"group\": \"head\"", "\"group\": \"king\""), "group"},
