@@ -7,6 +7,7 @@
 #include "host/application/Application.h"
 #include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
+#include "host/scene/SurroundingsObject.h"
 #include "tests/stage/StageTest.h"
 
 namespace {
@@ -110,6 +111,50 @@ TEST_F(PlacingByHand, AWholeUseCanBeUndoneAndMadeAgain) {
   key(Qt::Key_Y, Qt::ControlModifier);
   EXPECT_EQ(scene().nodes().size(), built);
   EXPECT_TRUE(waitForPicture());
+}
+
+TEST_F(PlacingByHand, ItStandsOnAScaledAndTurnedSurfaceAndNeverOnItself) {
+  auto* plate = scene().create(
+      new host::SurroundingsObject(static_cast<host::SurroundingsObject*>(node(L"Table")->GetObjectRef())->mesh()));
+  Matrix3 tm(TRUE);
+  tm.Scale(Point3(0.5F, 0.8F, 0.4F));
+  tm.RotateZ(0.7F);
+  tm.Translate(Point3(-330, 60, 0));
+  plate->SetNodeTM(0, tm);
+  const Box3 box = plate->worldBounds();
+  const Point3 onPlate(box.Center().x, box.Center().y, box.pmax.z);
+  createCharacter();
+  move(pixelOf(onPlate));
+  expectNear(place(placed()), onPlate, 2.0F);
+  move(pixelOf(onGround));
+  const Point3 chest = place(placed()) + Point3(0, 0, 100);
+  move(pixelOf(chest));
+  EXPECT_GT(place(placed()).y, chest.y) << "behind itself";
+  click(pixelOf(onGround), Qt::RightButton);
+}
+
+TEST_F(PlacingByHand, ItStaysWhileTheMouseIsInTheSkyAndASecondOneTakesTheMouseOver) {
+  createCharacter();
+  move(pixelOf(onGround));
+  INode* first = placed();
+  const Point3 stood = place(first);
+  // Level with the ground: the upper half of the view looks above the horizon.
+  view().viewport().lookAt(Point3(0, 150, 60), 900.0F, 0.1F, 0.0F);
+  move(QPoint(view().width() / 2 + 40, 5));
+  EXPECT_EQ(place(first), stood);
+  view().viewport().lookAt(Point3(0, 150, 60), 900.0F, 0.1F, 0.6F);
+  createCharacter();
+  expectLogged(ZORVEL::DEBUG_WARNING, L"Placement::StartPlacement node alreay set!");
+  move(pixelOf(Point3(-100, 0, 0)));
+  EXPECT_EQ(place(first), stood);
+  // In the first step this time; it takes the second character alone.
+  const std::size_t nodes = scene().nodes().size();
+  click(pixelOf(Point3(-100, 0, 0)), Qt::RightButton);
+  EXPECT_LT(scene().nodes().size(), nodes);
+  EXPECT_EQ(placed(), first);
+  EXPECT_TRUE(standardMode());
+  move(pixelOf(onGround) + QPoint(30, 0));
+  EXPECT_EQ(place(first), stood) << "moves after the end move nothing";
 }
 
 }  // namespace
