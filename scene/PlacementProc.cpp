@@ -58,11 +58,6 @@ void MovePlacementToGroupHead(INode& node) {
   head->SetNodeTM(0, tm);
 }
 
-void Clear() {
-  PlacementState::Get().node = nullptr;
-  PlacementState::Get().step = STEP_IDLE;
-}
-
 void FixPosition(const IPoint2& m) {
   PlacementState::Get().step = STEP_ROTATE;
   PlacementState::Get().rotateStart = m;
@@ -78,7 +73,7 @@ void FixRotation() {
     host->SelectNode(node, 1);
   }
   host->ExecuteMAXCommand(END_MODE_COMMAND);
-  Clear();
+  PlacementState::Get().Clear();
   Debug::AddDebugMessage(DEBUG_INFO, L"Clicked in rotate mode...");
 }
 
@@ -95,7 +90,7 @@ void Cancel() {
   Interface* host = GetCOREInterface();
   while (node->NumberOfChildren() > 0) host->DeleteNode(node->GetChildNode(0), TRUE, FALSE);
   host->DeleteNode(node, TRUE, FALSE);
-  Clear();
+  PlacementState::Get().Clear();
   host->ExecuteMAXCommand(END_MODE_COMMAND);
 }
 

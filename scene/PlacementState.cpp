@@ -7,4 +7,9 @@ PlacementState& PlacementState::Get() {
   return state;
 }
 
+void PlacementState::Clear() {
+  node = nullptr;
+  step = STEP_IDLE;
+}
+
 }  // namespace ZORVEL

@@ -12,6 +12,9 @@ enum PlacementStep : int { STEP_IDLE = 0, STEP_PLACE = 1, STEP_ROTATE = 2 };
 struct PlacementState {
   static PlacementState& Get();
 
+  /// Nothing is being placed any more.
+  void Clear();
+
   /// Null when nothing is being placed.
   INode* node = nullptr;
   int step = STEP_IDLE;

@@ -4,15 +4,22 @@
 #include <notify.h>
 
 #include "core/Debug.h"
+#include "scene/PlacementState.h"
 #include "scene/ProxyObjectDatabase.h"
 
 namespace ZORVEL {
 
 namespace {
 
+/// The objects of the old scene are gone, and so is the node that was being placed.
+void ForgetScene() {
+  ProxyObjectDatabase::Clear();
+  PlacementState::Get().Clear();
+}
+
 void AfterNewScene(void* /*param*/, NotifyInfo* /*info*/) {
   Debug::AddDebugMessage(DEBUG_INFO, L"new max scene...");
-  ProxyObjectDatabase::Clear();
+  ForgetScene();
 }
 
 // Material libraries and render presets are opened with the same code; only a scene file replaces the objects.
@@ -20,13 +27,16 @@ void AfterFileOpened(void* /*param*/, NotifyInfo* info) {
   if (info == nullptr || info->callParam == nullptr) return;
   if (*static_cast<FileIOType*>(info->callParam) != IOTYPE_MAX) return;
   Debug::AddDebugMessage(DEBUG_INFO, L"open max file...");
-  ProxyObjectDatabase::Clear();
+  ForgetScene();
 }
 
 void BeforeNodeDeleted(void* /*param*/, NotifyInfo* info) {
   if (info == nullptr || info->callParam == nullptr) return;
   Debug::AddDebugMessage(DEBUG_INFO, L"PreNodeDelete");
-  const Object* object = static_cast<INode*>(info->callParam)->GetObjectRef();
+  INode* node = static_cast<INode*>(info->callParam);
+  // Undo takes nodes away too, in the middle of a placement as at any time.
+  if (node == PlacementState::Get().node) PlacementState::Get().Clear();
+  const Object* object = node->GetObjectRef();
   if (object == nullptr) return;
   Debug::AddDebugMessage(DEBUG_INFO, L"got obj...");
   ProxyObjectDatabase::Release(object);

@@ -219,4 +219,28 @@ TEST_F(PlacementByMouse, LateMovesAfterTheEndChangeNothing) {
   EXPECT_TRUE(scene().nodes().empty());
 }
 
+TEST_F(PlacementByMouse, ForgetsANodeThatANewSceneAnOpenedFileOrUndoTakesAway) {
+  FileIOType type = IOTYPE_MAX;
+  const std::function<void()> ways[] = {[] { Application::instance().newScene(); },
+                                        [] {
+                                          undo().undo();
+                                          undo().clear();
+                                        },
+                                        [&] {
+                                          BroadcastNotification(NOTIFY_FILE_POST_OPEN, &type);
+                                          Application::instance().reset();
+                                        }};
+  for (const auto& takeAway : ways) {
+    start();
+    moveTo({100, 50, 0});
+    takeAway();
+    EXPECT_EQ(ZORVEL::PlacementState::Get().node, nullptr);
+    feed_->move(0, {300, 300});
+    expectLogged(ZORVEL::DEBUG_ERROR, L"No node selected for placement");
+    feed_->press(MOUSE_LBUTTON, 0, {300, 300});
+    feed_->rightClick(0, {300, 300});
+    EXPECT_TRUE(scene().nodes().empty());
+  }
+}
+
 }  // namespace
