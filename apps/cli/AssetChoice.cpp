@@ -4,6 +4,7 @@
 
 #include "apps/cli/ModelText.h"
 #include "apps/cli/NearestIds.h"
+#include "core/Commands.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
 
@@ -13,6 +14,15 @@ using ZORVEL::CharacterData;
 using ZORVEL::Data2;
 using ZORVEL::DataContainer;
 using ZORVEL::Selection2;
+
+namespace {
+
+/// By the rules of its category; no window is there to be refreshed.
+void add(const DataContainer& chosen) {
+  ZORVEL::Commands::SetSelectedAsset(static_cast<unsigned int>(Data2::GetUnique(&chosen)), false);
+}
+
+}  // namespace
 
 void AssetChoice::wish(const std::string& wanted) {
   std::string id = wanted;
@@ -56,7 +66,7 @@ void AssetChoice::selectDefaults(const DataContainer& category) {
     const bool required = first && CharacterData::IsRequired(&category);
     first = false;
     if (!required && !character_.CheckAssetStyleForClothSelection(record, material)) return;
-    add(&category, material != nullptr ? *material : *record);
+    add(material != nullptr ? *material : *record);
   };
   for (const DataContainer* record : offered) {
     if (!isUsable(*record)) continue;
@@ -74,12 +84,7 @@ void AssetChoice::selectWish(std::size_t index) {
     result_.notes.push_back("Asset " + wish.id + " takes the place of an earlier one: its category, " +
                             field(wish.category, L"id") + ", takes one.");
   }
-  add(wish.category, *wish.chosen);
-}
-
-void AssetChoice::add(const DataContainer* category, const DataContainer& chosen) {
-  if (!CharacterData::IsMultiple(category)) Selection2::RemoveAssetsOfCategory(category, &character_);
-  Selection2::AddAsset(Data2::GetUnique(&chosen));
+  add(*wish.chosen);
 }
 
 DataContainer* AssetChoice::find(const std::string& id) const {

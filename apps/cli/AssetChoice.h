@@ -30,7 +30,6 @@ class AssetChoice {
   bool isOffered(const Record& asset, const Record* record);
   void selectDefaults(const Record& category);
   void selectWish(std::size_t index);
-  void add(const Record* category, const Record& chosen);
 
   struct Wish {
     std::string id;

@@ -2,8 +2,6 @@
 
 #include <plugapi.h>
 
-#include <string>
-
 #include "host/materials/Material.h"
 
 namespace host {
