@@ -237,7 +237,7 @@ TEST_F(PlacementByMouse, ForgetsANodeThatANewSceneAnOpenedFileOrUndoTakesAway) {
     EXPECT_EQ(ZORVEL::PlacementState::Get().node, nullptr);
     feed_->move(0, {300, 300});
     expectLogged(ZORVEL::DEBUG_ERROR, L"No node selected for placement");
-    feed_->press(MOUSE_LBUTTON, 0, {300, 300});
+    click({300, 300});
     feed_->rightClick(0, {300, 300});
     EXPECT_TRUE(scene().nodes().empty());
   }
