@@ -5,6 +5,7 @@
 #include "host/actions/ActionManager.h"
 #include "host/actions/IconFolders.h"
 #include "host/actions/QuickAccessBar.h"
+#include "host/application/Accelerators.h"
 #include "host/application/ClassRegistry.h"
 #include "host/application/FileDialog.h"
 #include "host/application/HostInterface.h"
@@ -25,6 +26,7 @@ namespace host {
 
 /// In the order in which they are made; what is further down may use what is further up.
 struct Application::Parts {
+  Accelerators accelerators;
   Listener listener;
   Notifications notifications;
   Units units;
@@ -56,6 +58,7 @@ Application& Application::instance() {
   return application;
 }
 
+Accelerators& Application::accelerators() { return parts_->accelerators; }
 ActionManager& Application::actions() { return parts_->actions; }
 AssetManager& Application::assets() { return parts_->assets; }
 ClassRegistry& Application::classes() { return parts_->classes; }

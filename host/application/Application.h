@@ -6,6 +6,7 @@
 
 namespace host {
 
+class Accelerators;
 class ActionManager;
 class AssetManager;
 class ClassRegistry;
@@ -30,6 +31,7 @@ class Application {
  public:
   static Application& instance();
 
+  Accelerators& accelerators();
   ActionManager& actions();
   AssetManager& assets();
   ClassRegistry& classes();

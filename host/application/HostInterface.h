@@ -14,6 +14,8 @@ class HostInterface final : public Interface13 {
  public:
   HostInterface();
 
+  MaxSDK::QmaxMainWindow* GetQmaxMainWindow() override { return mainWindow_; }
+
   TimeValue GetTime() override { return time_; }
   void SetTime(TimeValue t, BOOL redraw) override;
   void PushPrompt(const MCHAR* text) override;
@@ -51,6 +53,8 @@ class HostInterface final : public Interface13 {
 
   ILayerManager* GetLayerManager() override;
 
+  /// The window that plug-ins get as parent of theirs; whoever sets it takes it back (null) before it goes.
+  void setMainWindow(MaxSDK::QmaxMainWindow* window) { mainWindow_ = window; }
   /// Empties the list of scene materials and the current library.
   void clearMaterials();
 
@@ -58,6 +62,7 @@ class HostInterface final : public Interface13 {
   Ref<MaterialLibrary> sceneMaterials_;
   Ref<MaterialLibrary> library_;
   std::uint64_t sceneMaterialsRevision_ = 0;
+  MaxSDK::QmaxMainWindow* mainWindow_ = nullptr;
   TimeValue time_ = 0;
   BOOL animate_ = FALSE;
 };

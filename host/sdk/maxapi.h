@@ -7,6 +7,10 @@
 #include <inode.h>
 #include <ipoint2.h>
 
+namespace MaxSDK {
+class QmaxMainWindow;
+}
+
 constexpr DWORD REDRAW_NORMAL = 8;
 
 /// A view of the scene in a window.
@@ -30,6 +34,9 @@ class PickNodeCallback {
 class Interface {
  public:
   virtual ~Interface() = default;
+
+  /// <Qt/QmaxMainWindow.h> has the class. Null in a host without a window.
+  virtual MaxSDK::QmaxMainWindow* GetQmaxMainWindow() = 0;
 
   virtual TimeValue GetTime() = 0;
   virtual void SetTime(TimeValue t, BOOL redraw = TRUE) = 0;
@@ -85,6 +92,12 @@ class Interface13 : public Interface {
  public:
   virtual ILayerManager* GetLayerManager() = 0;
 };
+
+/// While a window of a plug-in takes typed text, the host's one-key shortcuts must not act. Calls are counted, so each
+/// "disable" is followed by one "enable"; further ones are ignored.
+void DisableAccelerators();
+void EnableAccelerators();
+BOOL AcceleratorsEnabled();
 
 Interface* GetCOREInterface();
 Interface13* GetCOREInterface13();

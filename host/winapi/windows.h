@@ -46,6 +46,23 @@ using HACCEL = struct HACCEL__*;
 #define FILE_ATTRIBUTE_DIRECTORY 0x10U
 #define FILE_ATTRIBUTE_NORMAL 0x80U
 
+/// 100 ns steps since 1601, in UTC.
+struct FILETIME {
+  DWORD dwLowDateTime;
+  DWORD dwHighDateTime;
+};
+
+struct WIN32_FILE_ATTRIBUTE_DATA {
+  DWORD dwFileAttributes;
+  FILETIME ftCreationTime;
+  FILETIME ftLastAccessTime;
+  FILETIME ftLastWriteTime;
+  DWORD nFileSizeHigh;
+  DWORD nFileSizeLow;
+};
+
+enum GET_FILEEX_INFO_LEVELS { GetFileExInfoStandard };
+
 #define DLL_PROCESS_ATTACH 1
 #define DLL_PROCESS_DETACH 0
 
@@ -62,6 +79,11 @@ using HACCEL = struct HACCEL__*;
 
 /// INVALID_FILE_ATTRIBUTES when the path names nothing that can be reached.
 DWORD WINAPI GetFileAttributesW(LPCWSTR path);
+
+/// Fills a WIN32_FILE_ATTRIBUTE_DATA. FALSE, and nothing filled, when the path names nothing that can be reached, and
+/// for any other level. Linux keeps no time of creation: the time of the last write stands there too. A folder has size
+/// 0.
+BOOL WINAPI GetFileAttributesExW(LPCWSTR path, GET_FILEEX_INFO_LEVELS level, LPVOID information);
 
 /// Null when the file cannot be opened. In a writing mode the parent folder is found without regard to case.
 std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode);

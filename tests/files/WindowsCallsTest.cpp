@@ -1,5 +1,7 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <shlobj.h>
+#include <sys/stat.h>
 #include <windows.h>
 
 #include <cstdlib>
@@ -32,6 +34,29 @@ TEST(WindowsCalls, AttributesTellFilesFromFolders) {
   }
   EXPECT_EQ(GetFileAttributesW(nullptr), INVALID_FILE_ATTRIBUTES);
   EXPECT_EQ(GetFileAttributesW(L""), INVALID_FILE_ATTRIBUTES);
+}
+
+std::uint64_t joined(DWORD high, DWORD low) { return (std::uint64_t{high} << 32U) | low; }
+
+TEST(WindowsCalls, AttributesHoldSizeAndTimeOfTheLastWrite) {
+  const support::TemporaryFolder folder;
+  const std::filesystem::path file = folder.write("Sub/File.txt", "x");
+  std::filesystem::resize_file(file, (std::uint64_t{1} << 32U) + 5);
+  // 2001-02-03 04:05:06.1234567 UTC, and some nanoseconds that no step of 100 can hold.
+  const timespec times[] = {{0, 0}, {981173106, 123456789}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  ASSERT_NE(GetFileAttributesExW((folder.wide() + L"\\SUB\\file.TXT").c_str(), GetFileExInfoStandard, &data), FALSE);
+  EXPECT_EQ(data.dwFileAttributes, FILE_ATTRIBUTE_NORMAL);
+  EXPECT_EQ(joined(data.nFileSizeHigh, data.nFileSizeLow), (std::uint64_t{1} << 32U) + 5);
+  EXPECT_EQ(joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime), 126256467061234567U);
+  EXPECT_EQ(joined(data.ftLastAccessTime.dwHighDateTime, data.ftLastAccessTime.dwLowDateTime), 116444736000000000U);
+
+  ASSERT_NE(GetFileAttributesExW((folder.wide() + L"\\sub").c_str(), GetFileExInfoStandard, &data), FALSE);
+  EXPECT_EQ(data.dwFileAttributes, FILE_ATTRIBUTE_DIRECTORY);
+  EXPECT_EQ(GetFileAttributesExW((folder.wide() + L"\\nothing").c_str(), GetFileExInfoStandard, &data), FALSE);
+  EXPECT_EQ(GetFileAttributesExW(nullptr, GetFileExInfoStandard, &data), FALSE);
+  EXPECT_EQ(GetFileAttributesExW(folder.wide().c_str(), GetFileExInfoStandard, nullptr), FALSE);
 }
 
 TEST(WindowsCalls, FilesAreOpenedWithoutRegardToCaseAndFoldersNever) {
