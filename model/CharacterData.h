@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -89,12 +90,15 @@ class CharacterData : public DataContainer {
   DataContainer* findClothGroup(int clothIndex, CLOTH_CHILD group) const;
   /// The record under which an asset is offered with the selected pose; null when it has no place in that pose.
   DataContainer* findOfferedAsset(DataContainer* asset) const;
+  void orderAssetMatrix() const;
 
   DataContainer m_containers[CONTAINER_COUNT];  // indexed by CONTAINER
   std::wstring m_skinsName;
   std::wstring m_posesName;
   std::wstring m_clothName;
   std::vector<AssetMatrixElement> m_assetMatrix;
+  /// Indexes of the rows by asset and pose, made when a row is first looked for.
+  mutable std::vector<std::uint32_t> m_matrixOrder;
 };
 
 }  // namespace ZORVEL

@@ -1,5 +1,9 @@
 // The lookups of CharacterData; building and lists are in CharacterData.cpp.
+#include <algorithm>
+#include <cstdint>
 #include <cwchar>
+#include <numeric>
+#include <tuple>
 
 #include "core/Debug.h"
 #include "model/CharacterData.h"
@@ -104,10 +108,26 @@ bool CharacterData::GetAssetAndMaterial(int unique, DataContainer*& asset, DataC
 
 const AssetMatrixElement* CharacterData::FindAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID) const {
   if (!poseID || !assetID) return nullptr;
-  for (const AssetMatrixElement& row : m_assetMatrix) {
-    if (row.assetID == assetID && row.poseID == poseID) return &row;
-  }
-  return nullptr;
+  orderAssetMatrix();
+  // A page of assets asks for each of them, and there may be a row for each asset in each pose.
+  const auto found = std::lower_bound(m_matrixOrder.begin(), m_matrixOrder.end(), 0U, [&](std::uint32_t row, unsigned) {
+    const int order = m_assetMatrix[row].assetID.compare(assetID);
+    return order < 0 || (order == 0 && m_assetMatrix[row].poseID < poseID);
+  });
+  if (found == m_matrixOrder.end()) return nullptr;
+  const AssetMatrixElement& row = m_assetMatrix[*found];
+  return row.assetID == assetID && row.poseID == poseID ? &row : nullptr;
+}
+
+void CharacterData::orderAssetMatrix() const {
+  if (m_matrixOrder.size() == m_assetMatrix.size()) return;
+  m_matrixOrder.resize(m_assetMatrix.size());
+  std::iota(m_matrixOrder.begin(), m_matrixOrder.end(), 0U);
+  // Of several rows for the same two the first counts.
+  std::stable_sort(m_matrixOrder.begin(), m_matrixOrder.end(), [this](std::uint32_t a, std::uint32_t b) {
+    return std::tie(m_assetMatrix[a].assetID, m_assetMatrix[a].poseID) <
+           std::tie(m_assetMatrix[b].assetID, m_assetMatrix[b].poseID);
+  });
 }
 
 bool CharacterData::IsAssetExcludedByCloth(const DataContainer* cloth, const DataContainer* asset) const {
