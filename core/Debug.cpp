@@ -4,4 +4,6 @@ namespace ZORVEL {
 
 void Debug::AddDebugMessage(DEBUG_TYPE /*level*/, const wchar_t* /*text*/) {}
 
+void Debug::ShowInfoWindow() {}
+
 }  // namespace ZORVEL

@@ -8,6 +8,8 @@
 #include "core/Settings.h"
 #include "model/Data2.h"
 #include "scene/SceneNotifications.h"
+#include "ui/MaxForm.h"
+#include "ui/PictureCache.h"
 
 namespace ZORVEL {
 
@@ -20,6 +22,7 @@ void Log(const wchar_t* text) { Debug::AddDebugMessage(DEBUG_INFO, text); }
 DWORD zorvel::Start() {
   ExecuteMAXScriptScript(L"qat.add \"ZORVEL\" \"ZORVEL Manager\"");
   LogStore::Create();
+  Debug::ShowInfoWindow();
   Log(L"zorvel::Start - start plugin...");
   Log(L"zorvel::Start - load settings...");
   if (!Settings::LoadSettings()) {
@@ -35,6 +38,9 @@ DWORD zorvel::Start() {
 
 void zorvel::Stop() {
   ZORVELActionTable::Deactivate();
+  // No window may outlive the code of its events, no picture the toolkit.
+  MaxForm::DeleteAll();
+  PictureCache::Instance().Clear();
   Data2::Clear();
   Settings::FreeSettings();
   LogStore::Free();

@@ -1,31 +1,80 @@
 #include "ui/MainWindow.h"
 
+#include <memory>
+#include <new>
+
 #include "core/Debug.h"
+#include "ui/Log.h"
+#include "ui/MainWindowClass.h"
 
 namespace ZORVEL {
 
-// There is no form yet, so the entries answer as they do while none is open.
+namespace {
 
-void MainWindow::OpenMainWindow() {
-  Debug::AddDebugMessage(DEBUG_INFO, L"MainWindow::OpenMainWindow : create...");
-  Debug::AddDebugMessage(DEBUG_ERROR, L"MainWindow::OpenMainWindow : could not create window...");
+void LogError(const wchar_t* text) { Debug::AddDebugMessage(DEBUG_ERROR, text); }
+
+MainWindowClass* makeWindow() {
+  if (!MaxForm::CanBeMade()) return nullptr;
+  try {
+    return new MainWindowClass;
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
 }
 
-void MainWindow::Rebuild() { Debug::AddDebugMessage(DEBUG_ERROR, L"MainWindow::Rebuild : no window.."); }
+void createWindow() {
+  LogInfo(L"MainWindow::OpenMainWindow : create...");
+  MainWindowClass* form = makeWindow();
+  MainWindowClass::window = form;
+  if (form == nullptr) return LogError(L"MainWindow::OpenMainWindow : could not create window...");
+  form->ShowModeless();
+  form->Activate();
+  form->UpdateTitle();
+  form->UpdateCharacterSelectionFromGUI();
+}
 
-void MainWindow::RebuildTabs() { Debug::AddDebugMessage(DEBUG_ERROR, L"MainWindow::RebuildTabs : no window.."); }
+void displayWindow(MainWindowClass& form) {
+  LogInfo(L"MainWindow::OpenMainWindow : display...");
+  form.showNormal();
+  form.Activate();
+  form.UpdateCharacterSelectionFromGUI();
+  form.UpdateTitle();
+}
+
+}  // namespace
+
+void MainWindow::OpenMainWindow() {
+  if (MainWindowClass::window == nullptr) return createWindow();
+  displayWindow(*MainWindowClass::window);
+}
+
+void MainWindow::Rebuild() {
+  if (MainWindowClass::window == nullptr) return LogError(L"MainWindow::Rebuild : no window..");
+  MainWindowClass::window->Rebuild();
+  MainWindowClass::window->UpdateTitle();
+}
+
+void MainWindow::RebuildTabs() {
+  if (MainWindowClass::window == nullptr) return LogError(L"MainWindow::RebuildTabs : no window..");
+  MainWindowClass::window->RebuildTabs();
+}
 
 void MainWindow::UpdateCharacterSelectionFromGUI() {
-  Debug::AddDebugMessage(DEBUG_ERROR, L"MainWindow::UpdateCharacterSelectionFromGUI : no window..");
+  if (MainWindowClass::window == nullptr) {
+    return LogError(L"MainWindow::UpdateCharacterSelectionFromGUI : no window..");
+  }
+  MainWindowClass::window->UpdateCharacterSelectionFromGUI();
 }
 
 void MainWindow::UpdateElementSelection() {
-  Debug::AddDebugMessage(DEBUG_ERROR, L"MainWindow::UpdateElementSelection : no window..");
+  if (MainWindowClass::window == nullptr) return LogError(L"MainWindow::UpdateElementSelection : no window..");
+  MainWindowClass::window->UpdateElementSelection();
 }
 
 // The text names the entry above; it is kept as it is.
 void MainWindow::UpdateInfo() {
-  Debug::AddDebugMessage(DEBUG_ERROR, L"MainWindow::UpdateElementSelection : no window..");
+  if (MainWindowClass::window == nullptr) return LogError(L"MainWindow::UpdateElementSelection : no window..");
+  MainWindowClass::window->UpdateInfoField();
 }
 
 }  // namespace ZORVEL

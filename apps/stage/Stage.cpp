@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "apps/stage/ExitStatus.h"
+#include "apps/stage/PluginWindows.h"
 #include "apps/stage/StageMenus.h"
 #include "host/actions/IconFolders.h"
 #include "host/application/Application.h"
@@ -36,7 +37,6 @@ Stage::Stage(StageOptions options) : options_(std::move(options)), status_(EXIT_
 
 Stage::~Stage() {
   window_.log().follow({});
-  window_.menus().offerCharacter({});
   // A mode of the module must not be current any more when it goes.
   application().modes().returnToStandard();
   application().modules().shutDown();
@@ -52,7 +52,6 @@ int Stage::run() {
   window_.show();
   prepare();
   runScripts();
-  createCharacter();
   window_.catchUp();
   writePictures();
   if (options_.quit) return status_;
@@ -76,10 +75,10 @@ void Stage::loadModule() {
   application().icons().set({beside / "icons", programFolder() / "icons"});
   const std::string error = application().modules().load(module);
   if (!error.empty()) return complain(QString::fromStdString(error), EXIT_UNREADABLE);
+  // What it opens unasked, an info window say, waits in the menu.
+  for (QWidget* opened : pluginWindows(window_)) opened->close();
   const ModuleLog log = ModuleLog::of(module);
   window_.log().follow(log);
-  character_ = ModuleCharacter::of(module);
-  window_.menus().offerCharacter(character_);
   if (log.records()) window_.resizeDocks({&window_.listener(), &window_.log()}, {1, 1}, Qt::Horizontal);
 }
 
@@ -88,12 +87,6 @@ void Stage::runScripts() {
     const bool understood = window_.listener().scriptLine().run(QString::fromStdString(script));
     if (!understood) complain(QString("script not understood: %1").arg(QString::fromStdString(script)), EXIT_FINDINGS);
   }
-}
-
-void Stage::createCharacter() {
-  if (!options_.create) return;
-  if (!character_.canCreate()) return complain("this module creates no characters by itself", EXIT_FINDINGS);
-  character_.create();
 }
 
 void Stage::writePictures() {

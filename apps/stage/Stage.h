@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "apps/stage/ModuleCharacter.h"
 #include "apps/stage/RepositorySettings.h"
 #include "apps/stage/StageOptions.h"
 #include "apps/stage/StageWindow.h"
@@ -26,14 +25,12 @@ class Stage {
   void prepare();
   void loadModule();
   void runScripts();
-  void createCharacter();
   void writePictures();
   void complain(const QString& text, int status);
 
   StageOptions options_;
   std::optional<RepositorySettings> settings_;
   StageWindow window_;
-  ModuleCharacter character_;
   int status_;
 };
 

@@ -4,7 +4,9 @@
 
 #include "apps/stage/EditCommands.h"
 #include "apps/stage/Icons.h"
+#include "apps/stage/PluginWindows.h"
 #include "apps/stage/StageWindow.h"
+#include "host/application/Accelerators.h"
 #include "host/application/Application.h"
 #include "host/application/Units.h"
 #include "host/scene/Scene.h"
@@ -33,6 +35,10 @@ QAction* withIcon(QAction* action, Icon which) {
 
 QString stepText(const QString& verb, const std::vector<std::wstring>& names) {
   return names.empty() ? verb : QString("%1 %2").arg(verb, QString::fromStdWString(names.back()).replace('&', "&&"));
+}
+
+bool isOneKey(const QKeySequence& keys) {
+  return keys.count() == 1 && (static_cast<unsigned>(keys[0]) & unsigned{Qt::KeyboardModifierMask}) == 0;
 }
 
 }  // namespace
@@ -105,19 +111,13 @@ void StageMenus::addViewMenu() {
   menu->addSeparator();
   for (QDockWidget* panel : window_.findChildren<QDockWidget*>()) menu->addAction(panel->toggleViewAction());
   for (QToolBar* bar : window_.findChildren<QToolBar*>()) menu->addAction(bar->toggleViewAction());
-}
-
-void StageMenus::offerCharacter(ModuleCharacter character) {
-  character_ = character;
-  create_->setVisible(character_.canCreate());
+  menu->addSeparator();
+  QMenu* windows = menu->addMenu(tr("Plug-in &Windows"));
+  connect(windows, &QMenu::aboutToShow, &window_, [windows, this] { listPluginWindows(*windows, window_); });
 }
 
 void StageMenus::addCustomizeMenu() {
   QMenu* customize = window_.menuBar()->addMenu(tr("&Customize"));
-  create_ = customize->addAction(tr("Create the Next &Character"), this, [this] { character_.create(); });
-  create_->setShortcut(QKeySequence("Ctrl+K"));
-  create_->setToolTip(tr("Has the plug-in create the next character of the repository, to be placed with the mouse"));
-  create_->setVisible(false);
   QMenu* menu = customize->addMenu(tr("System &Unit"));
   units_ = new QActionGroup(this);
   for (int type = 0; type < unitNames.size(); ++type) {
@@ -163,6 +163,14 @@ void StageMenus::showSelection() { delete_->setEnabled(!host::Application::insta
 void StageMenus::showUnit() {
   const int type = host::Application::instance().units().type();
   if (QAction* action = units_->actions().value(type)) action->setChecked(true);
+}
+
+void StageMenus::followAccelerators() {
+  const bool act = host::Application::instance().accelerators().enabled();
+  for (QAction* action : window_.findChildren<QAction*>()) {
+    // Bars never have the focus, so such a shortcut rests and still stands in its menu.
+    if (isOneKey(action->shortcut())) action->setShortcutContext(act ? Qt::WindowShortcut : Qt::WidgetShortcut);
+  }
 }
 
 }  // namespace stage

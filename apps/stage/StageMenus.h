@@ -5,7 +5,6 @@
 #include <QToolBar>
 
 #include "apps/stage/FileCommands.h"
-#include "apps/stage/ModuleCharacter.h"
 
 namespace stage {
 
@@ -18,9 +17,6 @@ class StageMenus : public QObject {
  public:
   explicit StageMenus(StageWindow& window);
 
-  /// Puts the entry into the menu when the module can create; one that cannot takes it away.
-  void offerCharacter(ModuleCharacter character);
-
   QAction& undoAction() const { return *undo_; }
   QAction& redoAction() const { return *redo_; }
 
@@ -29,6 +25,8 @@ class StageMenus : public QObject {
   void showUndo();
   void showSelection();
   void showUnit();
+  /// Shortcuts of one key without a modifier act only while the host's accelerators do.
+  void followAccelerators();
 
  signals:
   void unitChosen(int type);
@@ -52,9 +50,7 @@ class StageMenus : public QObject {
   QAction* delete_ = nullptr;
   QAction* frame_ = nullptr;
   QAction* frameAll_ = nullptr;
-  QAction* create_ = nullptr;
   QActionGroup* units_ = nullptr;
-  ModuleCharacter character_;
 };
 
 /// The name of one of the UNITS_ constants.

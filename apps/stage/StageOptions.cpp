@@ -25,7 +25,6 @@ void describe(CLI::App& app, StageOptions& options) {
   app.add_option("--script", options.scripts, "Line of script to run at start; may be repeated")
       ->type_size(1)
       ->allow_extra_args(false);
-  app.add_flag("--create", options.create, "Create the next character of the repository (diagnostic module)");
   app.add_option("--picture", options.picture, "Draw the view into a PNG file, after the scripts");
   app.add_option("--window-picture", options.windowPicture, "Write what the window looks like into a PNG file");
   app.add_flag("--quit", options.quit, "Quit when that is done; asks nothing");

@@ -14,8 +14,6 @@ struct StageOptions {
   std::filesystem::path module;
   /// Run in that order.
   std::vector<std::string> scripts;
-  /// After the scripts.
-  bool create = false;
   std::filesystem::path picture;
   std::filesystem::path windowPicture;
   bool quit = false;

@@ -5,7 +5,9 @@
 #include "apps/stage/QtQuestions.h"
 #include "apps/stage/StageMenus.h"
 #include "apps/stage/WindowMemory.h"
+#include "host/application/Accelerators.h"
 #include "host/application/Application.h"
+#include "host/application/HostInterface.h"
 #include "host/application/Units.h"
 
 namespace stage {
@@ -47,12 +49,17 @@ StageWindow::StageWindow()
 
 StageWindow::~StageWindow() {
   application().redraw = {};
+  application().accelerators().changed = {};
+  application().interface().setMainWindow(nullptr);
   // Before the document and the view that its commands speak of.
   delete files_;
 }
 
 void StageWindow::connectHost() {
+  application().interface().setMainWindow(this);
   application().redraw = [this] { view_->refresh(); };
+  application().accelerators().changed = [this] { menus_->followAccelerators(); };
+  menus_->followAccelerators();
   connect(watch_, &HostWatch::sceneChanged, view_, &ViewportWidget::refresh);
   connect(watch_, &HostWatch::sceneChanged, nodes_, &NodePanel::refresh);
   connect(watch_, &HostWatch::sceneChanged, menus_, &StageMenus::showSelection);
@@ -98,7 +105,7 @@ void StageWindow::showTitle() {
 void StageWindow::closeEvent(QCloseEvent* event) {
   if (!files_->mayLeaveScene()) return event->ignore();
   if (interactive_) WindowMemory::remember(*this);
-  QMainWindow::closeEvent(event);
+  MaxSDK::QmaxMainWindow::closeEvent(event);
 }
 
 }  // namespace stage

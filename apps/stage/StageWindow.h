@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMainWindow>
+#include <Qt/QmaxMainWindow.h>
 
 #include "apps/stage/FileCommands.h"
 #include "apps/stage/HostWatch.h"
@@ -17,8 +17,9 @@ namespace stage {
 
 class StageMenus;
 
-/// The window in which the embedded host is used by hand. It begins with a new scene; there may be one at a time.
-class StageWindow : public QMainWindow {
+/// The window in which the embedded host is used by hand, and which plug-ins get as its main window. It begins with a
+/// new scene; there may be one at a time.
+class StageWindow : public MaxSDK::QmaxMainWindow {
   Q_OBJECT
 
  public:

@@ -14,6 +14,8 @@ int main(int argc, char** argv) try {
   if (parsed.options->unattended()) qputenv("QT_LOGGING_RULES", "default.warning=false");
   QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  // 150 % is 150 %.
+  QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   QApplication application(argc, argv);
   QApplication::setApplicationDisplayName("Zorvel Stage");
   stage::applyDarkTheme(application);

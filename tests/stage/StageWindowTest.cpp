@@ -2,6 +2,7 @@
 
 #include <actiontable.h>
 #include <gmock/gmock.h>
+#include <maxapi.h>
 #include <units.h>
 
 #include <QAction>
@@ -175,6 +176,29 @@ TEST_F(StageWindow, TheQuickAccessBarShowsWhatScriptsAddAsLongAsItCanBeRun) {
   actions.removeTable(77);
   settle();
   EXPECT_TRUE(window().quickAccess().actions().isEmpty());
+}
+
+TEST_F(StageWindow, OneKeyShortcutsRestWhileAPluginHoldsThemOff) {
+  EXPECT_EQ(GetCOREInterface()->GetQmaxMainWindow(), &window());
+  const std::size_t all = scene().nodes().size();
+  scene().select(*scene().find(L"Table"), true);
+  settle();
+  DisableAccelerators();
+  DisableAccelerators();
+  EnableAccelerators();
+  EXPECT_EQ(AcceleratorsEnabled(), FALSE);
+  key(Qt::Key_Delete);
+  EXPECT_EQ(scene().nodes().size(), all);
+  key(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_TRUE(scene().selection().empty()) << "those with a modifier go on acting";
+
+  EnableAccelerators();
+  EnableAccelerators();
+  EXPECT_EQ(AcceleratorsEnabled(), TRUE);
+  scene().select(*scene().find(L"Table"), true);
+  settle();
+  key(Qt::Key_Delete);
+  EXPECT_EQ(scene().nodes().size(), all - 1);
 }
 
 TEST_F(StageWindow, AnUntouchedSceneTakesItsSizeFromTheUnitAndATouchedOneKeepsItsNumbers) {

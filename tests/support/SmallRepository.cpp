@@ -1,5 +1,8 @@
 #include "tests/support/SmallRepository.h"
 
+#include <QColor>
+#include <QImage>
+#include <numeric>
 #include <sstream>
 
 namespace support {
@@ -10,16 +13,16 @@ const char* const DESCRIPTION = R"(<?xml version="1.0" encoding="UTF-8"?>
 <zorvel>
   <globalAssets>
     <asset id="g1" name="Bench" folder="bench" type="global">
-      <material id="g1m1" name="Oak" material="Oak"/>
+      <material id="g1m1" name="Oak" material="Oak" preview="oak.png"/>
     </asset>
   </globalAssets>
   <character id="c1" name="Anna" folder="anna">
-    <skins name="Skin"><skin id="s1" name="Light" material="Skin light"/></skins>
+    <skins name="Skin"><skin id="s1" name="Light" material="Skin light" preview="light.png"/></skins>
     <cloth name="Clothing">
       <clothing id="k1" name="Summer" folder="summer">
-        <material id="k1m1" name="Blue" material="Blue"/>
-        <material id="k1m2" name="Props" material="From props"/>
-        <material id="k1m3" name="Lost" material="Nowhere"/>
+        <material id="k1m1" name="Blue" material="Blue" preview="blue.png"/>
+        <material id="k1m2" name="Props" material="From props" preview="props.png"/>
+        <material id="k1m3" name="Lost" material="Nowhere" preview="lost.png"/>
         <exclude id="a3"/>
       </clothing>
     </cloth>
@@ -33,7 +36,7 @@ const char* const DESCRIPTION = R"(<?xml version="1.0" encoding="UTF-8"?>
     </categories>
     <assets>
       <asset id="a1" name="Bag" folder="bag" type="common" category="t1" material="Leather">
-        <material id="a1m1" name="Cloth" material="Canvas"/>
+        <material id="a1m1" name="Cloth" material="Canvas" preview="canvas.png"/>
       </asset>
       <asset id="a2" name="Seat" folder="seat" type="common" category="t1" material="Oak"/>
       <asset id="a3" name="Hat" folder="hat" type="common" category="t2" material="Leather"/>
@@ -73,6 +76,13 @@ void writeMaterials(const TemporaryFolder& folder) {
   folder.write("global_assets/materials.mat", materialLibrary(texturedMaterial("Oak", "oak.png")));
 }
 
+void writePicture(const TemporaryFolder& folder, const std::string& file, int width, int height) {
+  QImage image(width, height, QImage::Format_RGB32);
+  // Another colour for each file, the same each time.
+  image.fill(QColor::fromHsv(static_cast<int>(std::accumulate(file.begin(), file.end(), 0U) % 360U), 120, 200));
+  image.save(QString::fromStdString(folder.write(file, "").string()), "PNG");
+}
+
 }  // namespace
 
 SmallRepository::SmallRepository() {
@@ -80,6 +90,19 @@ SmallRepository::SmallRepository() {
   folder_.write("anna/previews/preview_k1.png", "");
   writeMeshes(folder_);
   writeMaterials(folder_);
+}
+
+void SmallRepository::writePictures() const {
+  writePicture(folder_, "anna/previews/preview_k1.png", 110, 330);
+  for (const char* file : {"anna/previews/k1_p1.png", "anna/previews/k1_p2.png", "anna/summer/blue.png",
+                           "anna/summer/props.png", "anna/summer/lost.png"}) {
+    writePicture(folder_, file, 100, 300);
+  }
+  for (const char* file :
+       {"anna/skin/light.png", "anna/bag/canvas.png", "anna/seat/preview.png", "anna/hat/preview.png",
+        "anna/scarf/preview.png", "anna/lamp/preview.png", "global_assets/bench/oak.png"}) {
+    writePicture(folder_, file, 150, 150);
+  }
 }
 
 std::string boxObj(float width, float depth, float height) {

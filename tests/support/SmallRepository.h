@@ -12,6 +12,8 @@ namespace support {
 class SmallRepository {
  public:
   SmallRepository();
+  /// A picture for every element, so that the main window shows them all: without, it shows none.
+  void writePictures() const;
 
   const TemporaryFolder& folder() const { return folder_; }
   /// As the settings hold it: with a trailing backslash.

@@ -3,11 +3,11 @@
 #include <hold.h>
 #include <units.h>
 
-#include "apps/stage/document/SolidMesh.h"
 #include "host/application/Application.h"
 #include "host/files/Paths.h"
 #include "host/materials/MaterialClasses.h"
 #include "host/meshes/MeshFile.h"
+#include "host/meshes/SolidMesh.h"
 #include "host/scene/LampHelper.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
@@ -46,7 +46,7 @@ std::shared_ptr<const host::Mesh> steps() {
   constexpr float width = 120.0F;
   constexpr float rise = 18.0F;
   constexpr float depth = 34.0F;
-  SolidMesh mesh;
+  host::SolidMesh mesh;
   for (int i = 0; i < 4; ++i) {
     const auto step = static_cast<float>(i);
     mesh.addBox({-width / 2, step * depth, 0},
@@ -56,13 +56,13 @@ std::shared_ptr<const host::Mesh> steps() {
 }
 
 std::shared_ptr<const host::Mesh> ramp() {
-  SolidMesh mesh;
+  host::SolidMesh mesh;
   mesh.addPrism({{0, 0, 0}, {0, 190, 0}, {0, 190, 55}}, -60, 60);
   return mesh.finish();
 }
 
 std::shared_ptr<const host::Mesh> table() {
-  SolidMesh mesh;
+  host::SolidMesh mesh;
   mesh.addBox({-75, -42, 71}, {75, 42, 75});
   for (const float x : {-68.0F, 61.0F}) {
     for (const float y : {-35.0F, 28.0F}) mesh.addBox({x, y, 0}, {x + 7, y + 7, 71});

@@ -1,8 +1,8 @@
-#include "apps/stage/document/SolidMesh.h"
+#include "host/meshes/SolidMesh.h"
 
 #include <utility>
 
-namespace stage {
+namespace host {
 
 void SolidMesh::addBox(const Point3& low, const Point3& high) {
   addPrism({{0, low.y, low.z}, {0, high.y, low.z}, {0, high.y, high.z}, {0, low.y, high.z}}, low.x, high.x);
@@ -31,9 +31,9 @@ void SolidMesh::addSide(const std::vector<Point3>& corners) {
   for (std::uint32_t i = 2; i < corners.size(); ++i) mesh_.triangles.push_back({first, first + i - 1, first + i});
 }
 
-std::shared_ptr<const host::Mesh> SolidMesh::finish() {
-  host::completeMesh(mesh_);
-  return std::make_shared<const host::Mesh>(std::exchange(mesh_, {}));
+std::shared_ptr<const Mesh> SolidMesh::finish() {
+  completeMesh(mesh_);
+  return std::make_shared<const Mesh>(std::exchange(mesh_, {}));
 }
 
-}  // namespace stage
+}  // namespace host

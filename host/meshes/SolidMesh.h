@@ -5,7 +5,7 @@
 
 #include "host/meshes/Mesh.h"
 
-namespace stage {
+namespace host {
 
 /// Builds meshes with flat sides, in centimetres.
 class SolidMesh {
@@ -15,13 +15,13 @@ class SolidMesh {
   /// A shape in the YZ plane, counter-clockwise seen from +X and convex, drawn out along X.
   void addPrism(const std::vector<Point3>& shape, float fromX, float toX);
 
-  std::shared_ptr<const host::Mesh> finish();
+  std::shared_ptr<const Mesh> finish();
 
  private:
   /// Convex, counter-clockwise seen from outside.
   void addSide(const std::vector<Point3>& corners);
 
-  host::Mesh mesh_;
+  Mesh mesh_;
 };
 
-}  // namespace stage
+}  // namespace host

@@ -1,0 +1,126 @@
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QtTest/QtTest>
+
+#include "tests/ui/WindowTest.h"
+#include "ui/PictureReader.h"
+
+namespace {
+
+using ZORVEL::FileStamp;
+using ZORVEL::PictureCache;
+using ZORVEL::PictureSource;
+
+class Pictures : public support::WindowTest {
+ protected:
+  static std::string encoded(const QSize& size, const char* type, QImage::Format format = QImage::Format_RGB32) {
+    QImage image(size, format);
+    image.fill(0);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, type);
+    return bytes.toStdString();
+  }
+  /// A head that promises 20,000 x 20,000 pixels, and nothing after it.
+  static std::string hugePng() {
+    return QByteArray::fromHex(
+               "89504e470d0a1a0a0000000d4948445200004e2000004e2008020000006c12d16e0000000049444154"
+               "35af061e0000000049454e44ae426082")
+        .toStdString();
+  }
+  static PictureSource source(const std::filesystem::path& file, const QSize& box) {
+    PictureSource one;
+    one.path = QString::fromStdString(file.string()).toStdWString();
+    one.stamp = FileStamp::Of(one.path);
+    one.box = box;
+    return one;
+  }
+  static int decoded() { return PictureCache::Instance().GetDecodedCount(); }
+};
+
+TEST_F(Pictures, ThatCannotBeShownSayWhyInTheirPlace) {
+  const std::string good = encoded(QSize(110, 330), "PNG");
+  const std::string jpeg = encoded(QSize(110, 330), "JPG");
+  const struct {
+    std::string bytes;
+    QString complaint;
+  } cases[] = {{good, ""},
+               {jpeg, ""},
+               {encoded(QSize(110, 330), "BMP"), ""},
+               {"", "it is not a picture"},
+               {"no picture at all\n", "it is not a picture"},
+               {good.substr(0, 20), "picture cannot be shown"},
+               {good.substr(0, good.size() / 2), "picture cannot be shown"},
+               {hugePng(), "it is too large (20000 x 20000 pixels)"}};
+  open();
+  for (const auto& one : cases) {
+    files().folder().write("anna/previews/preview_kb.png", one.bytes);
+    clickNode(node("Anna"));
+    ASSERT_EQ(stripNames().front(), "Blouse");
+    const QWidget& picture = *window().GetClothWidget().GetElements().front()->GetPicture();
+    const QImage image = shown(picture);
+    EXPECT_EQ(image.pixelColor(3, 100), one.complaint.isEmpty() ? QColor(Qt::black) : QColor(68, 68, 68));
+    EXPECT_EQ(picture.toolTip().contains("The picture cannot be shown"), !one.complaint.isEmpty()) << one.bytes.size();
+    EXPECT_TRUE(picture.toolTip().contains(one.complaint)) << picture.toolTip().toStdString();
+  }
+  clickNode(node("Anna"));
+  files().remove("anna/previews/preview_kb.png");
+  const ZORVEL::MainWindowClothPreview& gone = *window().GetClothWidget().GetElements().front();
+  shown(*gone.GetPicture());
+  click(*gone.GetPicture());
+  EXPECT_TRUE(tabs().isVisible()) << "it can be clicked all the same";
+}
+
+TEST_F(Pictures, LargerThanTheirPlaceShowTheirUpperLeftCorner) {
+  QImage large(4000, 3000, QImage::Format_RGB32);
+  large.fill(Qt::red);
+  large.setPixelColor(99, 299, Qt::green);
+  const std::filesystem::path file = files().folder().write("large.png", "");
+  large.save(QString::fromStdString(file.string()));
+  QString problem;
+  const QImage image = ZORVEL::PictureReader::Read(source(file, QSize()).path, QSize(100, 300), problem);
+  EXPECT_EQ(problem, "");
+  EXPECT_EQ(image.size(), QSize(100, 300));
+  EXPECT_EQ(image.pixelColor(99, 299), QColor(Qt::green));
+}
+
+TEST_F(Pictures, AreDecodedOnceAndWhenFirstSeen) {
+  const int before = decoded();
+  openWithBlouse();
+  tabs().grab();
+  EXPECT_EQ(decoded() - before, 4) << "three poses and an overlay; nothing of the other tabs";
+  openTab("Skin");
+  tabs().grab();
+  EXPECT_EQ(decoded() - before, 6);
+  clickBox("Skin", "Dark");
+  clickPicture("Pose", "Sitting");
+  clickNode(node("Anna", "Dress"));
+  clickNode(node("Anna", "Blouse"));
+  openTab("Skin");
+  tabs().grab();
+  EXPECT_EQ(decoded() - before, 9) << "the poses of the other clothing";
+  files().writePicture("anna/skin/dark.png", QSize(150, 151), Qt::green);
+  clickPicture("Pose", "Sitting");
+  openTab("Skin");
+  EXPECT_EQ(shown(*element("Skin", "Dark").GetPicture()).pixelColor(5, 5), QColor(Qt::green)) << "written anew";
+  EXPECT_EQ(decoded() - before, 10);
+}
+
+TEST_F(Pictures, ThatWereNotSeenForLongAreForgottenBeforeMemoryIsFull) {
+  const std::filesystem::path file =
+      files().folder().write("large.png", encoded(QSize(4000, 4000), "PNG", QImage::Format_Mono));
+  const auto get = [&](int height) { PictureCache::Instance().Get(source(file, QSize(4000, height))); };
+  const int before = decoded();
+  for (int height = 4000; height > 3996; --height) get(height);
+  for (int height = 4000; height > 3996; --height) get(height);
+  EXPECT_EQ(decoded() - before, 4) << "61 MiB each";
+  for (int height = 3996; height > 3994; --height) get(height);
+  get(3997);
+  EXPECT_EQ(decoded() - before, 6);
+  get(4000);
+  EXPECT_EQ(decoded() - before, 7);
+}
+
+}  // namespace

@@ -1,0 +1,29 @@
+#include "ui/FileStamp.h"
+
+#include <windows.h>
+
+namespace ZORVEL {
+
+namespace {
+
+std::uint64_t Join(DWORD high, DWORD low) { return (static_cast<std::uint64_t>(high) << 32) | low; }
+
+}  // namespace
+
+FileStamp FileStamp::Of(const std::wstring& path) {
+  WIN32_FILE_ATTRIBUTE_DATA data = {};
+  FileStamp stamp;
+  if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) == 0) return stamp;
+  if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return stamp;
+  stamp.exists = true;
+  stamp.size = Join(data.nFileSizeHigh, data.nFileSizeLow);
+  stamp.time = Join(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime);
+  return stamp;
+}
+
+const FileStamp& FileStamps::Get(const std::wstring& path) {
+  const auto found = m_stamps.find(path);
+  return found != m_stamps.end() ? found->second : m_stamps.emplace(path, FileStamp::Of(path)).first->second;
+}
+
+}  // namespace ZORVEL

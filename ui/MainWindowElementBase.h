@@ -1,0 +1,71 @@
+#pragma once
+
+#include <string>
+
+#include "ui/PictureBox.h"
+#include "ui/WrappingCheckBox.h"
+
+namespace ZORVEL {
+
+class MainWindowGeneralPage;
+
+/// One element of a page: a picture with a check box underneath. One that is not available has no box, and a click on
+/// its picture opens the web page where it can be had.
+class MainWindowElementBase {
+ public:
+  struct Content {
+    int unique = 0;
+    std::wstring picturePath;
+    std::wstring text;
+    bool available = false;
+    std::wstring url;
+    std::wstring missingFile;  ///< what is not there when it is not available
+  };
+
+  virtual ~MainWindowElementBase() = default;
+  MainWindowElementBase(const MainWindowElementBase&) = delete;
+  MainWindowElementBase& operator=(const MainWindowElementBase&) = delete;
+
+  /// What the element is; it can be chosen from now on.
+  void Create(Content content, MainWindowGeneralPage* host);
+  /// Makes the controls, children of `parent`, which destroys them. The element must live as long as they do.
+  void MakeControls(QWidget* parent);
+  /// `y` is where the picture ends and the box begins.
+  void Place(int x, int y);
+
+  int GetUnique() const { return m_content.unique; }
+  bool isAvailable() const { return m_content.available; }
+  bool GetSelected() const { return m_selected; }
+  /// Tells nobody.
+  void SetSelected(bool selected);
+  void SelectThisUnique(int unique) { SetSelected(GetUnique() == unique); }
+  void SelectThisInCase(int unique);
+  void Focus();
+
+  /// Null when there is none, and before the controls are made.
+  const QCheckBox* GetCheckBox() const { return m_checkBox; }
+  const PictureBox* GetPicture() const { return m_logo; }
+
+ protected:
+  MainWindowElementBase() = default;
+
+  WrappingCheckBox* m_checkBox = nullptr;
+
+ private:
+  virtual QSize GetPictureSize() const = 0;
+  virtual QSize GetCheckBoxSize() const = 0;
+
+  void makeCheckBox(QWidget* parent);
+  void makePicture(QWidget* parent);
+  QString describe() const;
+  void AfterSelect();
+  void AfterSelectImage();
+  void tellHost(bool selected);
+
+  Content m_content;
+  bool m_selected = false;
+  PictureBox* m_logo = nullptr;
+  MainWindowGeneralPage* m_host = nullptr;
+};
+
+}  // namespace ZORVEL

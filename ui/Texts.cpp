@@ -1,0 +1,35 @@
+#include "ui/Texts.h"
+
+#include <QTextDocument>
+
+#include "model/Fields.h"
+
+namespace ZORVEL {
+
+namespace {
+
+const int LONGEST_LINE = 256;
+const int LONGEST_TOOL_TIP = 2000;
+
+QString Cut(const QString& text, int longest) {
+  return text.size() <= longest ? text : text.left(longest) + QChar(0x2026);
+}
+
+}  // namespace
+
+std::wstring Texts::Field(const DataContainer* record, const wchar_t* field) {
+  const wchar_t* text = Fields::OptionalText(record, field);
+  return text != nullptr ? text : std::wstring();
+}
+
+QString Texts::FromWide(const wchar_t* text) { return text != nullptr ? QString::fromWCharArray(text) : QString(); }
+
+QString Texts::OneLine(const QString& text) { return Cut(text.left(4 * LONGEST_LINE).simplified(), LONGEST_LINE); }
+
+QString Texts::Caption(const QString& text) { return OneLine(text).replace('&', "&&"); }
+
+QString Texts::ToolTip(const QString& text) {
+  return Qt::convertFromPlainText(Cut(text, LONGEST_TOOL_TIP), Qt::WhiteSpaceNormal);
+}
+
+}  // namespace ZORVEL

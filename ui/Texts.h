@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace ZORVEL {
+
+class DataContainer;
+
+/// Names out of a repository on their way to the screen. They may hold anything: line breaks, markup, a megabyte.
+class Texts {
+ public:
+  /// The field's text; empty for a null record and a missing field.
+  static std::wstring Field(const DataContainer* record, const wchar_t* field);
+  static QString FromWide(const wchar_t* text);
+  static QString FromWide(const std::wstring& text) { return QString::fromStdWString(text); }
+
+  /// In one line and no longer than a control could show.
+  static QString OneLine(const QString& text);
+  /// One line whose ampersands stand for themselves where a control takes them for mnemonics.
+  static QString Caption(const QString& text);
+  /// Shown as it stands, never taken for markup.
+  static QString ToolTip(const QString& text);
+};
+
+}  // namespace ZORVEL
