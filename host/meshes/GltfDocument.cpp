@@ -1,5 +1,6 @@
 #include "host/meshes/GltfDocument.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr std::uint32_t jsonChunk = 0x4E4F534A;
 constexpr std::uint32_t binaryChunk = 0x004E4942;
+constexpr const char* quantization = "KHR_mesh_quantization";
 constexpr std::size_t headerSize = 12;
 constexpr std::size_t chunkHeaderSize = 8;
 // Parsed JSON takes many times the room of its text.
@@ -78,22 +80,29 @@ std::uint32_t wholeNumber(const unsigned char* bytes, unsigned componentType) {
   }
 }
 
-/// A float, or a normalized whole number.
-float fraction(const unsigned char* bytes, unsigned componentType) {
+/// What a component says: a float, a whole number, or when `normalized` a whole number's share of its highest.
+float componentAt(const unsigned char* bytes, unsigned componentType, bool normalized) {
+  const auto number = [normalized](int value, float highest) {
+    return normalized ? std::max(static_cast<float>(value) / highest, -1.0F) : static_cast<float>(value);
+  };
   switch (componentType) {
     case Float:
       return valueAt<float>(bytes);
+    case Byte:
+      return number(valueAt<std::int8_t>(bytes), 127.0F);
     case UnsignedByte:
-      return static_cast<float>(*bytes) / 255.0F;
+      return number(*bytes, 255.0F);
+    case Short:
+      return number(valueAt<std::int16_t>(bytes), 32767.0F);
     case UnsignedShort:
-      return static_cast<float>(valueAt<std::uint16_t>(bytes)) / 65535.0F;
+      return number(valueAt<std::uint16_t>(bytes), 65535.0F);
     default:
-      throw UnreadableMesh("the glTF file has texture coordinates of an unknown type");
+      throw UnreadableMesh("the glTF file has vertices of an unknown type");
   }
 }
 
-bool changesNoShape(const std::string& extension) {
-  return extension.rfind("KHR_materials_", 0) == 0 || extension == "KHR_lights_punctual";
+bool isUnderstood(const std::string& extension) {
+  return extension.rfind("KHR_materials_", 0) == 0 || extension == "KHR_lights_punctual" || extension == quantization;
 }
 
 std::size_t requiredIndex(const GltfDocument::Json& object, const char* key) {
@@ -114,14 +123,14 @@ GltfDocument::GltfDocument(std::string_view glb) {
   if (!root_.is_object()) throw UnreadableMesh("the glTF file's description is not valid JSON");
   const std::optional<Chunk> binary = nextChunk(glb, offset);
   if (binary && binary->type == binaryChunk) binary_ = binary->bytes;
-  refuseUnknownExtensions();
+  readExtensions();
 }
 
-void GltfDocument::refuseUnknownExtensions() const {
+void GltfDocument::readExtensions() {
   for (const Json& extension : list(root_, "extensionsRequired")) {
     const std::string name = extension.is_string() ? extension.get<std::string>() : std::string("?");
-    if (!changesNoShape(name))
-      throw UnreadableMesh("the glTF file needs the extension " + name + ", which is not read");
+    isQuantized_ = isQuantized_ || name == quantization;
+    if (!isUnderstood(name)) throw UnreadableMesh("the glTF file needs the extension " + name + ", which is not read");
   }
 }
 
@@ -186,25 +195,29 @@ GltfDocument::Elements GltfDocument::elements(std::size_t accessor, const char* 
 
 std::vector<Point3> GltfDocument::points(std::size_t accessor) const {
   const Elements all = elements(accessor, "VEC3", 3);
-  if (all.componentType != Float) throw UnreadableMesh("the glTF file has positions or normals that are not floats");
+  if (all.componentType != Float && !isQuantized_) {
+    throw UnreadableMesh("the glTF file has positions or normals that are not floats");
+  }
+  const std::size_t size = componentSize(all.componentType);
   std::vector<Point3> points(all.count);
   for (std::size_t i = 0; i < all.count; ++i) {
     const unsigned char* bytes = all.first + i * all.stride;
-    points[i] = Point3(valueAt<float>(bytes), valueAt<float>(bytes + 4), valueAt<float>(bytes + 8));
+    const auto at = [&](std::size_t axis) {
+      return componentAt(bytes + axis * size, all.componentType, all.normalized);
+    };
+    points[i] = Point3(at(0), at(1), at(2));
   }
   return points;
 }
 
 std::vector<TexCoord> GltfDocument::texCoords(std::size_t accessor) const {
   const Elements all = elements(accessor, "VEC2", 2);
-  if (all.componentType != Float && !all.normalized) {
-    throw UnreadableMesh("the glTF file has texture coordinates of an unknown type");
-  }
   const std::size_t size = componentSize(all.componentType);
   std::vector<TexCoord> coords(all.count);
   for (std::size_t i = 0; i < all.count; ++i) {
     const unsigned char* bytes = all.first + i * all.stride;
-    coords[i] = {fraction(bytes, all.componentType), fraction(bytes + size, all.componentType)};
+    coords[i] = {componentAt(bytes, all.componentType, all.normalized),
+                 componentAt(bytes + size, all.componentType, all.normalized)};
   }
   return coords;
 }

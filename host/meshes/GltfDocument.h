@@ -41,12 +41,14 @@ class GltfDocument {
     bool normalized;
   };
 
-  void refuseUnknownExtensions() const;
+  void readExtensions();
   std::string_view view(std::size_t index) const;
   Elements elements(std::size_t accessor, const char* type, std::size_t components) const;
 
   Json root_;
   std::string_view binary_;
+  /// Whether positions and normals may be whole numbers.
+  bool isQuantized_ = false;
 };
 
 }  // namespace host

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/files/WholeFile.h"
+#include "host/meshes/CompactGeometry.h"
 #include "host/meshes/GltfGeometry.h"
 
 namespace host {
@@ -30,24 +31,37 @@ void addMaterials(tinygltf::Model& model, const Mesh& mesh) {
   }
 }
 
+void addGeometry(tinygltf::Model& model, const Mesh& mesh, VertexPrecision precision) {
+  tinygltf::Mesh& written = model.meshes.front();
+  if (precision == VertexPrecision::Full) {
+    written.primitives = appendGeometry(model, mesh);
+    return;
+  }
+  CompactGeometry compact = appendCompactGeometry(model, mesh);
+  written.primitives = std::move(compact.primitives);
+  const auto number = [](float value) { return static_cast<double>(value); };
+  model.nodes.front().translation = {number(compact.offset.x), number(compact.offset.y), number(compact.offset.z)};
+  model.nodes.front().scale.assign(3, number(compact.scale));
+}
+
 }  // namespace
 
-std::string glbBytes(const Mesh& mesh) {
+std::string glbBytes(const Mesh& mesh, VertexPrecision precision) {
   if (mesh.triangles.empty()) return {};
   tinygltf::Model model;
   addMaterials(model, mesh);
   model.meshes.emplace_back();
-  model.meshes.front().primitives = appendGeometry(model, inMetresYUp(mesh));
   model.nodes.emplace_back();
   model.nodes.front().mesh = 0;
+  addGeometry(model, inMetresYUp(mesh), precision);
   model.scenes.emplace_back();
   model.scenes.front().nodes = {0};
   model.defaultScene = 0;
   return toGlb(model);
 }
 
-std::string writeMeshFile(const Mesh& mesh, const std::filesystem::path& file) {
-  const std::string bytes = glbBytes(mesh);
+std::string writeMeshFile(const Mesh& mesh, const std::filesystem::path& file, VertexPrecision precision) {
+  const std::string bytes = glbBytes(mesh, precision);
   if (bytes.empty()) return "the mesh has no triangles to write";
   return writeWholeFile(file, bytes);
 }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -70,6 +72,53 @@ TEST(GltfMesh, WritingAndReadingKeepsEverythingAMeshHas) {
       EXPECT_NEAR(reading.mesh->texCoords[after].v, mesh.texCoords[before].v, 1e-6F);
     }
   }
+}
+
+TEST(GltfMesh, WritingCompactlyKeepsShapeAndMaterialsInALittleMoreThanHalfTheRoom) {
+  Mesh mesh = *shapes::sphere(90, {300, -40, 90}, 40);
+  for (const Point3& n : mesh.normals) mesh.texCoords.push_back({0.5F + 0.5F * n.x, 0.5F + 0.5F * n.z});
+  const std::size_t half = mesh.triangles.size() / 2;
+  for (std::size_t i = 0; i < 2 * half; ++i) mesh.materialIds.push_back(i < half ? 4 : 0);
+  const std::string bytes = host::glbBytes(mesh, host::VertexPrecision::Compact);
+  EXPECT_LT(bytes.size(), host::glbBytes(mesh).size() * 6 / 10);
+  const MeshReading reading = readMesh(bytes);
+  ASSERT_TRUE(reading.mesh) << reading.error;
+  ASSERT_EQ(reading.mesh->triangles.size(), mesh.triangles.size());
+  for (std::size_t i = 0; i < 2 * half; ++i) {
+    // Those of material id 0 come first.
+    const std::size_t j = i < half ? half + i : i - half;
+    EXPECT_EQ(reading.mesh->materialId(j), mesh.materialId(i));
+    for (std::size_t corner = 0; corner < 3; ++corner) {
+      const std::size_t before = mesh.triangles[i][corner];
+      const std::size_t after = reading.mesh->triangles[j][corner];
+      expectNear(reading.mesh->positions[after], mesh.positions[before], 180.0F / 65535);
+      expectNear(reading.mesh->normals[after], mesh.normals[before], 0.008F);
+      EXPECT_NEAR(reading.mesh->texCoords[after].u, mesh.texCoords[before].u, 1e-5F);
+      EXPECT_NEAR(reading.mesh->texCoords[after].v, mesh.texCoords[before].v, 1e-5F);
+    }
+  }
+  mesh.texCoords.front() = {7.5F, -3};
+  const MeshReading tiled = readMesh(host::glbBytes(mesh, host::VertexPrecision::Compact));
+  ASSERT_TRUE(tiled.mesh) << tiled.error;
+  const auto isTiled = [](const host::TexCoord& coord) { return coord.u == 7.5F && coord.v == -3.0F; };
+  EXPECT_TRUE(std::any_of(tiled.mesh->texCoords.begin(), tiled.mesh->texCoords.end(), isTiled));
+}
+
+TEST(GltfMesh, ReadsSignedWholeNumbersOnlyWhereTheFileSaysSo) {
+  Strip strip;
+  const std::array<std::int16_t, 24> places = {0, 0, 0, 7, 2, 0, 0, 7, 0, -2, 0, 7, 2, -2, 0, 7};
+  std::memcpy(strip.positions.data(), places.data(), 32);
+  strip.document["accessors"][0]["componentType"] = 5122;
+  strip.document["bufferViews"][0]["byteStride"] = 8;
+  EXPECT_NE(strip.read().error.find("not floats"), std::string::npos);
+  strip.document["extensionsRequired"] = {"KHR_mesh_quantization"};
+  MeshReading reading = strip.read();
+  ASSERT_TRUE(reading.mesh) << reading.error;
+  expectNear(reading.mesh->positions[3], {200, 0, -200});
+  strip.document["accessors"][0]["normalized"] = true;
+  reading = strip.read();
+  ASSERT_TRUE(reading.mesh) << reading.error;
+  expectNear(reading.mesh->positions[3], {200.0F / 32767, 0, -200.0F / 32767});
 }
 
 TEST(GltfMesh, WritesMetresWithYUpAndVDownward) {
