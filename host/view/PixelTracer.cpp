@@ -40,6 +40,32 @@ void addBehind(Coverage& sum, const Coverage& under) {
   sum.alpha += under.alpha * left;
 }
 
+/// How sure the mean of a pixel's samples is, judged by their brightness on the screen.
+class Spread {
+ public:
+  void add(const Coverage& one) {
+    const float light = (one.color.r + 2.0F * one.color.g + one.color.b) / 4.0F;
+    const float seen = std::sqrt(std::clamp(light, 0.0F, 1.0F)) + one.alpha;
+    ++count_;
+    sum_ += seen;
+    squares_ += seen * seen;
+  }
+  bool within(float deviation) const {
+    if (count_ < fewest || deviation <= 0.0F) return false;
+    const float count = static_cast<float>(count_);
+    const float variance = std::max(0.0F, squares_ - sum_ * sum_ / count) / (count - 1.0F);
+    return variance < deviation * deviation * count;
+  }
+
+ private:
+  /// Fewer samples than these may agree by chance.
+  static constexpr int fewest = 4;
+
+  int count_ = 0;
+  float sum_ = 0.0F;
+  float squares_ = 0.0F;
+};
+
 Coverage solid(const Color& color, float alpha) { return {{color.r * alpha, color.g * alpha, color.b * alpha}, alpha}; }
 
 }  // namespace
@@ -55,16 +81,20 @@ PixelTracer::PixelTracer(const RayScene& scene, const Camera& camera, const Rend
 Coverage PixelTracer::pixel(int x, int y) const {
   const SamplePattern pattern(x, y);
   Coverage sum;
-  for (int i = 0; i < options_.samples; ++i) {
-    const SampleSource source{pattern, static_cast<std::uint32_t>(i), static_cast<std::uint32_t>(options_.samples)};
+  Spread spread;
+  int taken = 0;
+  while (taken < options_.samples && !spread.within(options_.enough / 255.0F)) {
+    const SampleSource source{pattern, static_cast<std::uint32_t>(taken++),
+                              static_cast<std::uint32_t>(options_.samples)};
     const SamplePattern::Pair place = source.pair(SamplePattern::Pixel);
     const Ray ray = camera_.rayThrough(static_cast<float>(x) + place.x, static_cast<float>(y) + place.y, options_.width,
                                        options_.height);
     const Coverage one = sample(ray, y, source);
     sum.color = Color(sum.color.r + one.color.r, sum.color.g + one.color.g, sum.color.b + one.color.b);
     sum.alpha += one.alpha;
+    spread.add(one);
   }
-  const float share = 1.0F / static_cast<float>(options_.samples);
+  const float share = 1.0F / static_cast<float>(taken);
   return {{sum.color.r * share, sum.color.g * share, sum.color.b * share}, sum.alpha * share};
 }
 

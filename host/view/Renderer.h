@@ -20,6 +20,9 @@ struct RenderOptions {
   int height = 600;
   /// Samples for each pixel; 1 to 4096.
   int samples = 20;
+  /// A pixel takes no more samples once its light is known this well, as one standard deviation of a byte's 255 steps;
+  /// 0 takes them all.
+  float enough = 0.0F;
   /// A floor at Z = 0 that is seen only by the shadows upon it, and only from above.
   bool ground = true;
   Background background = Background::Studio;
