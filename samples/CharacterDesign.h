@@ -3,10 +3,13 @@
 #include <string>
 #include <vector>
 
+#include "samples/HeadShape.h"
 #include "samples/Material.h"
+#include "samples/Proportions.h"
 #include "samples/Props.h"
 #include "samples/Textures.h"
 #include "samples/Wardrobe.h"
+#include "samples/WornThings.h"
 
 namespace samples {
 
@@ -25,6 +28,7 @@ struct SkinDesign {
   std::string name;
   Textures::Face face;
   QColor hair;
+  std::string texture = {};  ///< file name in the repository's maps; `claimed` fills it
 };
 
 struct OutfitDesign {
@@ -40,7 +44,6 @@ struct OutfitDesign {
   std::vector<StyleDesign> styles;
   std::vector<std::string> excludes;
   std::vector<Selected> selects;
-  Footwear shownWith = Footwear::Sneakers;
   bool hasFolder = true;
   std::string missingPose;  ///< the pose without a mesh; empty for none
 };
@@ -53,13 +56,17 @@ struct CategoryDesign {
 };
 
 struct AssetDesign {
+  /// A prop is one mesh that matrix rows place, a worn thing has a mesh for each pose, a global one stands for an asset
+  /// that all characters share.
+  enum class Kind { Prop, Worn, Global };
+
+  Kind kind = Kind::Prop;
   std::string key;
   std::string name;
-  std::string category;     ///< empty for what only a pose brings along
-  bool isFootwear = false;  ///< modelled for every pose
-  Footwear footwear = Footwear::Sneakers;
+  std::string category;  ///< empty for what only a pose brings along
+  Worn worn = Worn::Sneakers;
   Prop prop = Prop::Handbag;
-  std::string global;  ///< id of the global asset that it stands for; empty for the character's own
+  std::string global;  ///< id of the global asset
   std::vector<StyleDesign> styles;
   StyleDesign plain;     ///< of an asset without styles
   std::string onlyPose;  ///< empty for every pose
@@ -75,6 +82,12 @@ struct CharacterDesign {
   std::vector<CategoryDesign> categories;
   std::vector<AssetDesign> assets;
   std::string seat;  ///< the asset that seated poses cannot do without
+  std::string post;  ///< what a leaning pose leans against
+
+  /// Null when there is none.
+  const AssetDesign* asset(const std::string& assetKey) const;
+  /// What the pose cannot do without; null when it stands by itself.
+  const AssetDesign* support(const Pose& pose) const;
 };
 
 struct GlobalAssetDesign {
@@ -82,11 +95,10 @@ struct GlobalAssetDesign {
   std::string name;
   Prop prop = Prop::Suitcase;
   std::vector<StyleDesign> styles;
+  StyleDesign plain;  ///< of an asset without styles
   bool hasFolder = true;
 };
 
-CharacterDesign annaDesign();
-CharacterDesign brunoDesign();
 std::vector<GlobalAssetDesign> globalAssetDesigns();
 
 }  // namespace samples

@@ -8,54 +8,46 @@
 #include "samples/Crew.h"
 #include "samples/DescriptionWriter.h"
 #include "samples/MeshStore.h"
-#include "samples/Previews.h"
 
 namespace samples {
 
-/// Makes one character of the repository: its meshes, libraries and pictures. Outlives the crew's work that it plans.
+/// Makes the meshes and libraries of one character. Outlives the crew's work that it plans.
 class CharacterMaker {
  public:
-  CharacterMaker(CharacterDesign design, std::vector<GlobalAssetDesign> globals, std::filesystem::path root);
-
-  const CharacterDesign& design() const { return m_design; }
-  const std::vector<PlacementRow>& placements() const { return m_placements; }
-
-  void planMeshes(Crew& crew, MeshStore& store, double coarseness) const;
-  [[nodiscard]] std::string writeLibraries() const;
-  /// The meshes must be done.
-  void planPictures(Crew& crew, const MeshStore& store, const Previews& previews) const;
-
- private:
   using BodyPtr = std::shared_ptr<const ImplicitBody>;
   struct Posed {
     Pose pose;
     BodyPtr body;
   };
-  struct Dressed {
-    const OutfitDesign* outfit;
-    const StyleDesign* style;
-    const SkinDesign* skin;
-  };
 
+  CharacterMaker(CharacterDesign design, std::filesystem::path root);
+
+  const CharacterDesign& design() const { return m_design; }
+  const std::vector<Posed>& poses() const { return m_poses; }
+  const std::vector<PlacementRow>& placements() const { return m_placements; }
+  std::filesystem::path folder() const { return m_root / m_design.key; }
+
+  // Paths of meshes below the repository, which the store knows them by.
+  std::string bodyMesh(const Pose& pose) const { return m_design.key + "/" + pose.id + "/pose.vrmesh"; }
   std::string outfitMesh(const OutfitDesign& outfit, const Pose& pose) const;
   std::string assetMesh(const AssetDesign& asset, const Pose& pose) const;
-  const AssetDesign* footwear(Footwear kind) const;
-  const Posed& seated() const;
-  void placeAssets();
 
-  std::vector<host::ViewItem> figure(const Posed& posed, const Dressed& dressed, const MeshStore& store,
-                                     const Previews& previews) const;
-  void planOutfitPictures(Crew& crew, const OutfitDesign& outfit, const MeshStore& store,
-                          const Previews& previews) const;
-  void planSkinPictures(Crew& crew, const MeshStore& store, const Previews& previews) const;
-  void planPosePictures(Crew& crew, const MeshStore& store, const Previews& previews) const;
-  void planAssetPictures(Crew& crew, const MeshStore& store, const Previews& previews) const;
+  void planMeshes(Crew& crew, MeshStore& store, double coarseness) const;
+  [[nodiscard]] std::string writeLibraries() const;
+
+ private:
+  void placeAssets();
+  const Posed& posed(bool seated) const;
 
   CharacterDesign m_design;
-  std::vector<GlobalAssetDesign> m_globals;
   std::filesystem::path m_root;
   std::vector<Posed> m_poses;
   std::vector<PlacementRow> m_placements;
 };
+
+/// The mesh of the pieces, written to the file and put into the store under that name; `file` empty keeps it from the
+/// disk.
+Crew::Job meshJob(const std::filesystem::path& file, const std::string& name, MeshStore& store, double coarseness,
+                  std::function<std::vector<Piece>()> pieces);
 
 }  // namespace samples

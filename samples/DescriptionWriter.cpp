@@ -36,7 +36,7 @@ std::string number(double value) {
   return stream.str();
 }
 
-std::string shop(const std::string& id) { return "http://shop.example/item?id=" + id; }
+std::string shop(const std::string& id) { return "https://shop.example.com/item?id=" + id; }
 
 }  // namespace
 
@@ -65,9 +65,9 @@ void DescriptionWriter::addGlobalAssets(const std::vector<GlobalAssetDesign>& as
   open("globalAssets");
   for (const GlobalAssetDesign& asset : assets) {
     const std::string id = globalId(asset);
-    open("asset", {{"id", id}, {"name", asset.name}, {"folder", asset.key}, {"type", "global"}, {"url", shop(id)}});
-    addStyles(id, asset.styles);
-    close("asset");
+    Attributes attributes = {
+        {"id", id}, {"name", asset.name}, {"folder", asset.key}, {"type", "global"}, {"url", shop(id)}};
+    addAssetWithStyles(std::move(attributes), asset.styles, asset.plain);
   }
   close("globalAssets");
 }
@@ -119,12 +119,13 @@ void DescriptionWriter::addPoses(const CharacterDesign& character) {
   for (const Pose& pose : samplePoses(character.proportions.femininity)) {
     const std::string id = poseId(character, pose);
     const Attributes attributes = {{"id", id}, {"name", pose.name}, {"folder", pose.id}, {"url", shop(id)}};
-    if (!pose.seated) {
+    const AssetDesign* support = character.support(pose);
+    if (support == nullptr) {
       empty("pose", attributes);
       continue;
     }
     open("pose", attributes);
-    empty("asset", {{"id", assetId(character, character.seat)}, {"name", "Seat"}});
+    empty("asset", {{"id", assetId(character, support->key)}, {"name", support->name}});
     close("pose");
   }
   close("poses");
@@ -145,20 +146,27 @@ void DescriptionWriter::addAsset(const CharacterDesign& character, const AssetDe
   const std::string id = assetId(character, asset.key);
   Attributes attributes = {{"id", id}, {"name", asset.name}};
   if (!asset.category.empty()) attributes.emplace_back("category", categoryId(character, asset.category));
-  if (!asset.global.empty()) {
+  if (asset.kind == AssetDesign::Kind::Global) {
     attributes.insert(attributes.end(), {{"type", "global"}, {"globalID", asset.global}});
     empty("asset", attributes);
     return;
   }
+  const bool worn = asset.kind == AssetDesign::Kind::Worn;
   attributes.insert(attributes.end(),
-                    {{"folder", asset.key}, {"type", asset.isFootwear ? "specific" : "common"}, {"url", shop(id)}});
-  if (asset.styles.empty()) {
-    attributes.emplace_back("material", asset.plain.material.name);
+                    {{"folder", asset.key}, {"type", worn ? "specific" : "common"}, {"url", shop(id)}});
+  addAssetWithStyles(std::move(attributes), asset.styles, asset.plain);
+}
+
+void DescriptionWriter::addAssetWithStyles(Attributes attributes, const std::vector<StyleDesign>& styles,
+                                           const StyleDesign& plain) {
+  if (styles.empty()) {
+    attributes.emplace_back("material", plain.material.name);
     empty("asset", attributes);
     return;
   }
+  const std::string id = attributes.front().second;
   open("asset", attributes);
-  addStyles(id, asset.styles);
+  addStyles(id, styles);
   close("asset");
 }
 

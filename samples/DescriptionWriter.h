@@ -36,6 +36,8 @@ class DescriptionWriter {
   void addPoses(const CharacterDesign& character);
   void addCategories(const CharacterDesign& character);
   void addAsset(const CharacterDesign& character, const AssetDesign& asset);
+  /// The first of the attributes is the id.
+  void addAssetWithStyles(Attributes attributes, const std::vector<StyleDesign>& styles, const StyleDesign& plain);
   void addStyles(const std::string& ownerId, const std::vector<StyleDesign>& styles);
   void addMatrix(const std::vector<PlacementRow>& placements);
 

@@ -25,12 +25,18 @@ double Box::distance(const Vec3& p) const {
   return length(d);
 }
 
-Vec3 Field::normal(const Vec3& p, double step) const {
+Field::Slope Field::slope(const Vec3& p, double step) const {
   // Four samples at the corners of a tetrahedron give the gradient with the fewest calls.
   constexpr Vec3 corners[] = {{1, -1, -1}, {-1, -1, 1}, {-1, 1, -1}, {1, 1, 1}};
   Vec3 gradient;
-  for (const Vec3& corner : corners) gradient = gradient + corner * distance(p + corner * step);
-  return normalized(gradient);
+  double sum = 0;
+  for (const Vec3& corner : corners) {
+    const double d = distance(p + corner * step);
+    gradient = gradient + corner * d;
+    sum += d;
+  }
+  const double steepness = length(gradient) / (4 * step);
+  return {normalized(gradient), 0.25 * sum / std::max(steepness, 0.3)};
 }
 
 FieldPtr makeField(FunctionField::Function function, const Box& box) {

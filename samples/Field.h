@@ -27,8 +27,13 @@ class Field {
   /// Holds the whole surface.
   virtual Box bounds() const = 0;
 
-  /// Outward, unit length.
-  Vec3 normal(const Vec3& point, double step = 0.06) const;
+  struct Slope {
+    Vec3 normal;  ///< outward, unit length
+    double distance = 0;
+  };
+  /// What four samples around the point tell; the distance is the field's divided by its steepness.
+  Slope slope(const Vec3& point, double step = 0.06) const;
+  Vec3 normal(const Vec3& point) const { return slope(point).normal; }
 };
 
 using FieldPtr = std::shared_ptr<const Field>;

@@ -5,6 +5,8 @@ namespace {
 
 constexpr std::array<Side, 2> kSides = {Side::Left, Side::Right};
 constexpr double kWall = 1.1;
+// A depth for `openAt` that leaves no hollow.
+constexpr double kSolid = -2;
 
 // Cuts the cloth where `cut` is positive, and hollows it so far from there that nobody sees the bottom.
 double openAt(double cloth, double cut, double depth) {
@@ -12,35 +14,73 @@ double openAt(double cloth, double cut, double depth) {
   return smoothMax(smoothMax(cloth, cut, 0.5), -hollow, 0.3);
 }
 
+// What ends above the hips is hidden by what is worn below, so it needs no opening.
+bool tuckedIn(const TopCut& cut) { return cut.hem > 0.54; }
+
+// Positive nearer to the lower bone than to the upper one: what ends on the upper half leaves a bent limb's lower half
+// alone.
+double onLowerHalf(const Limb& limb, const Vec3& p) {
+  const Vec3 upper = mix(limb.upper.origin, limb.lower.origin, alongLine(p, limb.upper.origin, limb.lower.origin));
+  const Vec3 end = limb.lower.point({0, 0, limb.lowerLength});
+  const Vec3 lower = mix(limb.lower.origin, end, alongLine(p, limb.lower.origin, end));
+  return length(p - upper) - length(p - lower);
+}
+
+// A thicker band of that height where the cloth ends.
+double ribAt(double cut, double height) { return height > 0 ? 0.22 * smoothStep(-height, -height + 0.5, cut) : 0.0; }
+
+// The right front lies over the left one and fades towards the side.
+double overlapAt(const Vec3& straight, double overlap) {
+  if (overlap < 0 || straight.y > 0) return 0;
+  return 0.38 * smoothStep(-16, -4, straight.x) * (1 - smoothStep(overlap - 0.25, overlap + 0.25, straight.x));
+}
+
 }  // namespace
 
-Garment::Garment(const ImplicitBody& body) : m_body(std::make_shared<ImplicitBody>(body)) {}
+Garment::Garment(const ImplicitBody& body)
+    : m_body(std::make_shared<ImplicitBody>(body)), m_lap(std::make_shared<Lap>(body.skeleton())) {}
 
-FieldPtr Garment::make(Distance distance) const { return makeField(std::move(distance), m_body->bounds().grown(4)); }
+FieldPtr Garment::make(Distance distance) const { return makeField(std::move(distance), m_body->bounds().grown(5)); }
+
+Garment::Distance Garment::hands(bool bareArms) const {
+  return [body = m_body, bareArms](const Vec3& p) {
+    double d = -1e3;
+    for (const Side side : kSides) {
+      d = std::max(d, 0.5 - body->handDistance(side, p));
+      if (!bareArms) continue;
+      d = std::max(d, std::min(0.4 - body->armDistance(side, p), body->skeleton().arm(side).lower.local(p).z));
+    }
+    return d;
+  };
+}
 
 Garment::Distance Garment::trunkCloth(const TopCut& cut) const {
-  return [body = m_body, cut](const Vec3& p) {
+  return [body = m_body, lap = m_lap, cut](const Vec3& p) {
     const double s = body->skeleton().stature();
-    const Vec3 rest = body->skeleton().toRest(p);
-    double d = body->trunkDistance(p);
-    for (const Side side : kSides) d = body->joinLeg(d, body->legDistance(side, p), side, p, 7.0);
-    const double loose = cut.hemEase * (1 - smoothStep(cut.hem * s, 0.66 * s, rest.z));
-    d = d - cut.ease - loose;
-    d = smoothMin(d, body->neckDistance(p) - cut.neckEase, 2.0);
-    // Seated thighs reach forward out of the cloth.
-    return smoothMax(d, -(rest.y + 0.108 * s + 0.2 * std::max(rest.z - 0.6 * s, 0.0)), 1.0);
+    double d = body->trunkDistance(p) - cut.ease;
+    if (d > 30) return d;
+    const Vec3 straight = lap->straight(p);
+    const double loose = cut.hemEase * (1 - smoothStep(cut.hem * s, 0.66 * s, straight.z));
+    if (!tuckedIn(cut) || cut.hem >= 0.60) d = smoothMin(d, lap->hull(p, cut.ease, 0, 0), 3.5);
+    d -= loose + overlapAt(straight, cut.overlap);
+    return smoothMin(d, body->neckDistance(p) - cut.neckEase, 2.0);
   };
 }
 
 Garment::Distance Garment::sleeves(const TopCut& cut, Side side) const {
   return [body = m_body, cut, side](const Vec3& p) {
     const Limb& arm = body->skeleton().arm(side);
+    const double d = body->armDistance(side, p);
+    if (d > 15) return d - 5;
     const bool longSleeve = cut.sleeve > 1;
-    const double along = longSleeve ? arm.lower.local(p).z - (cut.sleeve - 1) * arm.lowerLength
-                                    : arm.upper.local(p).z - cut.sleeve * arm.upperLength;
+    const Vec3 lower = arm.lower.local(p);
+    const double along = longSleeve
+                             ? lower.z - (cut.sleeve - 1) * arm.lowerLength
+                             : std::max(arm.upper.local(p).z - cut.sleeve * arm.upperLength, onLowerHalf(arm, p));
     const double folds =
-        0.12 * std::sin(1.1 * arm.lower.local(p).z + 0.35 * p.x) * std::exp(-0.012 * std::pow(arm.lower.local(p).z, 2));
-    return openAt(body->armDistance(side, p) - cut.sleeveEase - folds, along, 3.0);
+        longSleeve ? 0.12 * std::sin(1.1 * lower.z + 0.35 * p.x) * std::exp(-0.012 * lower.z * lower.z) : 0;
+    const double flare = cut.sleeveFlare * smoothStep(-14, 0, along);
+    return openAt(d - cut.sleeveEase - folds - flare - ribAt(along, cut.rib), along, 3.0);
   };
 }
 
@@ -59,22 +99,26 @@ Garment::Distance Garment::necklineCut(const TopCut& cut) const {
 }
 
 Garment::Distance Garment::hood(const TopCut& cut) const {
+  if (!cut.hood) return {};
   const double s = m_body->skeleton().stature();
   const Frame neck = m_body->skeleton().neck();
   auto blob = std::make_shared<BlobField>();
-  // Folded down: a thick roll around the neck, heavier at the back.
-  constexpr int steps = 12;
+  // Folded down: a thick roll around the neck, heavier at the back, open in front.
+  constexpr int steps = 14;
   Vec3 last;
+  double lastRadius = 0;
   for (int i = 0; i <= steps; ++i) {
-    const double angle = mix(-2.35, 2.35, static_cast<double>(i) / steps);
+    const double angle = mix(-2.55, 2.55, static_cast<double>(i) / steps);
     const double back = std::cos(angle) * 0.5 + 0.5;
     const Vec3 place =
-        neck.point(Vec3{0.050 * std::sin(angle), 0.004 + 0.048 * std::cos(angle), -0.020 + 0.026 * back} * s);
-    if (i > 0) blob->addCone(last, mix(0.013, 0.018, back) * s, place, mix(0.013, 0.018, back) * s, 0.01 * s);
+        neck.point(Vec3{0.056 * std::sin(angle), 0.002 + 0.056 * std::cos(angle), -0.008 + 0.030 * back} * s);
+    const double radius = mix(0.014, 0.024, back) * s;
+    if (i > 0) blob->addCone(last, lastRadius, place, radius, 0.01 * s);
     last = place;
+    lastRadius = radius;
   }
-  blob->addEllipsoid(neck.at(neck.point(Vec3{0, 0.062, -0.028} * s)), Vec3{0.050, 0.018, 0.045} * s, 0.02 * s);
-  return [blob, enabled = cut.hood](const Vec3& p) { return enabled ? blob->distance(p) : 1e3; };
+  blob->addEllipsoid(neck.at(neck.point(Vec3{0, 0.070, -0.034} * s)), Vec3{0.062, 0.028, 0.062} * s, 0.02 * s);
+  return [blob](const Vec3& p) { return blob->distance(p); };
 }
 
 FieldPtr Garment::top(const TopCut& cut) const {
@@ -83,20 +127,24 @@ FieldPtr Garment::top(const TopCut& cut) const {
   const auto left = sleeves(cut, Side::Left);
   const auto right = sleeves(cut, Side::Right);
   const auto roll = hood(cut);
-  return make([body = m_body, cut, trunk, neckline, left, right, roll](const Vec3& p) {
-    const Skeleton& skeleton = body->skeleton();
-    const double hem = cut.hem * skeleton.stature() - skeleton.toRest(p).z;
+  const auto away = hands(cut.sleeve <= 1.2);
+  return make([body = m_body, lap = m_lap, cut, trunk, neckline, left, right, roll, away](const Vec3& p) {
+    const double s = body->skeleton().stature();
     double d = trunk(p);
-    if (d > 25) return d;
-    const double opening = neckline(p);
-    if (cut.lapel > 0) d -= 0.5 * smoothStep(-cut.lapel, -cut.lapel + 1.4, opening);
-    d = openAt(d, hem, 3.0);
+    if (d < 25) {
+      const double opening = neckline(p);
+      const double hem = (cut.hem * s - lap->straight(p).z) / lap->stretch();
+      if (cut.lapel > 0) d -= cut.lapelThickness * smoothStep(-cut.lapel, -cut.lapel + 0.8, opening);
+      d -= std::max(ribAt(opening, 0.6 * cut.rib), ribAt(hem, cut.rib));
+      d = smoothMax(openAt(d, hem, tuckedIn(cut) ? kSolid : 3.0), away(p), 0.8);
+    }
     if (cut.sleeve > 0) {
       d = body->joinArm(d, left(p), Side::Left, p);
       d = body->joinArm(d, right(p), Side::Right, p);
     }
-    d = smoothMax(d, opening, 0.4);
-    return smoothMin(d, roll(p), 1.5);
+    if (d > 20) return d;
+    d = smoothMax(d, neckline(p), 0.4);
+    return roll ? smoothMin(d, roll(p), 1.2) : d;
   });
 }
 
@@ -106,76 +154,64 @@ FieldPtr Garment::trousers(const TrouserCut& cut) const {
   for (const Side side : kSides) {
     const Limb& leg = m_body->skeleton().leg(side);
     auto blob = std::make_shared<BlobField>();
-    const double knee = mix(0.036, cut.hemRadius, 0.4) * s;
+    const double knee = mix(0.036, cut.hemRadius, cut.length < 2 ? 1.0 : 0.4) * s;
     blob->addCone(leg.upper.point({0, 0, 0.02 * s}), 0.050 * s + cut.thigh, leg.lower.origin, knee, 0);
     blob->addCone(leg.lower.origin, knee, leg.lower.point({0, 0, leg.lowerLength + 4}), cut.hemRadius * s, 0.02 * s);
     legs[static_cast<std::size_t>(side)] = blob;
   }
-  return make([body = m_body, cut, legs](const Vec3& p) {
+  return make([body = m_body, cut, legs, away = hands(true)](const Vec3& p) {
     const Skeleton& skeleton = body->skeleton();
     double d = body->trunkDistance(p) - cut.ease;
     for (const Side side : kSides) {
       const Limb& leg = skeleton.leg(side);
-      const double along = leg.lower.local(p).z;
-      const double folds = 0.11 * std::sin(0.9 * along + 0.25 * p.x) * std::exp(-0.006 * along * along) +
-                           0.11 * std::sin(0.8 * along) * smoothStep(leg.lowerLength - 16, leg.lowerLength - 4, along);
+      const double lower = leg.lower.local(p).z;
+      const double folds = 0.11 * std::sin(0.9 * lower + 0.25 * p.x) * std::exp(-0.006 * lower * lower) +
+                           0.11 * std::sin(0.8 * lower) * smoothStep(leg.lowerLength - 16, leg.lowerLength - 4, lower);
+      const double along = cut.length < 1
+                               ? std::max(leg.upper.local(p).z - cut.length * leg.upperLength, onLowerHalf(leg, p))
+                               : lower - (cut.length - 1) * leg.lowerLength;
       double cloth =
           smoothMin(body->legDistance(side, p) - cut.ease, legs[static_cast<std::size_t>(side)]->distance(p), 1);
-      cloth = openAt(cloth - folds, along - leg.lowerLength + cut.hemAbove * skeleton.stature(), 4.0);
+      cloth = openAt(cloth - folds, along + cut.hemAbove * skeleton.stature(), 4.0);
       d = body->joinLeg(d, cloth, side, p, 4.0);
     }
-    return openAt(d, skeleton.toRest(p).z - cut.waist * skeleton.stature(), 0.5);
+    d = openAt(d, skeleton.toRest(p).z - cut.waist * skeleton.stature(), 0.5);
+    return d > 3 ? d : smoothMax(d, away(p), 0.8);
   });
 }
 
 Garment::Distance Garment::skirtCloth(const SkirtCut& cut) const {
-  return [body = m_body, cut](const Vec3& p) {
+  return [body = m_body, lap = m_lap, cut](const Vec3& p) {
     const Skeleton& skeleton = body->skeleton();
-    const double s = skeleton.stature();
-    const Limb& left = skeleton.leg(Side::Left);
-    const Limb& right = skeleton.leg(Side::Right);
-    const Vec3 around = skeleton.lap().local(p);
-    const double t = std::clamp(around.z / left.upperLength, -0.1, 1.3);
-    const Vec3 a = mix(left.upper.origin, left.lower.origin, t);
-    const Vec3 b = mix(right.upper.origin, right.lower.origin, t);
-    const Vec3 nearest = mix(a, b, alongLine(p, a, b));
-    const double swing = smoothStep(0.05, 1.0, t);
-    const double seated = skeleton.pose().seated ? 0.25 : 1.0;
-    const double folds = cut.folds * swing * std::sin(9 * std::atan2(around.x, around.y) + 0.6);
-    const double radius = mix(0.050, 0.034, std::clamp(t, 0.0, 1.0)) * s + cut.ease + seated * cut.flare * swing;
-    const double legs = length(p - nearest) - radius - seated * folds;
-    double d = smoothMin(body->trunkDistance(p) - cut.ease, legs, 3.0);
+    double d = smoothMin(body->trunkDistance(p) - cut.ease, lap->hull(p, cut.ease, cut.flare, cut.folds), 3.5);
     // However wide the stride, no thigh comes through.
     for (const Side side : kSides) {
       const double shin = skeleton.leg(side).lower.local(p).z;
       d = smoothMin(d, smoothMax(body->legDistance(side, p) - cut.ease, shin - 2.0, 1.0), 1.0);
     }
-    const double top = skeleton.toRest(p).z - cut.waist * s;
+    if (cut.overlap >= 0 && d < 4) d -= overlapAt(lap->straight(p), cut.overlap);
+    const double top = (lap->straight(p).z - cut.waist * skeleton.stature()) / lap->stretch();
     return top > 0 ? std::max(d, top) : d;
   };
 }
 
 Garment::Distance Garment::skirtHem(const SkirtCut& cut) const {
-  return [body = m_body, cut](const Vec3& p) {
-    const Frame lap = body->skeleton().lap();
-    const Vec3 knees =
-        (body->skeleton().leg(Side::Left).lower.origin + body->skeleton().leg(Side::Right).lower.origin) * 0.5;
-    return lap.local(p).z - cut.length * lap.local(knees).z;
-  };
+  // Beyond the knees a seated lap has nothing to lie on.
+  const double length = m_body->skeleton().pose().seated ? std::min(cut.length, 1.0) : cut.length;
+  return [lap = m_lap, length](const Vec3& p) { return lap->beyond(p, length); };
 }
 
 FieldPtr Garment::skirt(const SkirtCut& cut) const {
-  const auto cloth = skirtCloth(cut);
-  const auto hem = skirtHem(cut);
-  return make([cloth, hem](const Vec3& p) { return openAt(cloth(p), hem(p), 5.0); });
+  return make([cloth = skirtCloth(cut), hem = skirtHem(cut), away = hands(true)](const Vec3& p) {
+    const double d = openAt(cloth(p), hem(p), 5.0);
+    return d > 3 ? d : smoothMax(d, away(p), 0.8);
+  });
 }
 
 FieldPtr Garment::dress(const TopCut& topCut, const SkirtCut& skirtCut) const {
   const FieldPtr upper = top(topCut);
-  const auto cloth = skirtCloth(skirtCut);
-  const auto hem = skirtHem(skirtCut);
-  return make(
-      [upper, cloth, hem](const Vec3& p) { return smoothMin(upper->distance(p), openAt(cloth(p), hem(p), 5.0), 1.2); });
+  const FieldPtr lower = skirt(skirtCut);
+  return make([upper, lower](const Vec3& p) { return smoothMin(upper->distance(p), lower->distance(p), 1.2); });
 }
 
 FieldPtr Garment::tie(const TopCut& shirt, double until) const {
@@ -191,6 +227,48 @@ FieldPtr Garment::tie(const TopCut& shirt, double until) const {
     d = smoothMax(d, std::abs(rest.x) - width, 0.4);
     d = smoothMax(d, std::max(rest.z - knot - 1.6, until * s - rest.z), 0.4);
     return std::max(d, rest.y);
+  });
+}
+
+FieldPtr Garment::belt(const TrouserCut& trousers) const {
+  return make([body = m_body, trousers](const Vec3& p) {
+    const double s = body->skeleton().stature();
+    const double height = std::abs(body->skeleton().toRest(p).z - (trousers.waist - 0.011) * s) - 0.010 * s;
+    const double d = body->trunkDistance(p) - trousers.ease;
+    return smoothMax(smoothMax(d - 0.3, height, 0.3), -d - 1.2, 0.3);
+  });
+}
+
+FieldPtr Garment::buttons(const TopCut& cut, double aside, double from, double to, int count, double radius) const {
+  const auto cloth = trunkCloth(cut);
+  const Skeleton& skeleton = m_body->skeleton();
+  const double s = skeleton.stature();
+  const FieldPtr surface = makeField(cloth, m_body->bounds());
+  auto blob = std::make_shared<BlobField>();
+  // Those on a seated lap lie in its folds.
+  const double lowest = skeleton.pose().seated ? std::max(from, std::min(0.615, to)) : from;
+  for (int i = 0; i < count; ++i) {
+    const double z = s * mix(lowest, to, count > 1 ? static_cast<double>(i) / (count - 1) : 0.0);
+    const bool low = z < 0.62 * s;
+    const Frame& part = low ? skeleton.pelvis() : skeleton.chest();
+    const double above = z - (low ? skeleton.restPelvis() : skeleton.restChest());
+    Vec3 place = part.point({aside, -40, above});
+    for (int step = 0; step < 60 && cloth(place) > 0.02; ++step) place = place + part.y * (0.7 * cloth(place));
+    const Vec3 out = surface->normal(place);
+    blob->addEllipsoid(Frame::aimed(place, out, Vec3{0, 0, 1}), {radius, radius, 0.45 * radius}, 0);
+  }
+  return blob;
+}
+
+FieldPtr Garment::zip(const TopCut& cut, double until) const {
+  const auto cloth = trunkCloth(cut);
+  const auto neckline = necklineCut(cut);
+  return make([body = m_body, lap = m_lap, cloth, neckline, until](const Vec3& p) {
+    const Vec3 rest = lap->straight(p);
+    const double d = cloth(p);
+    const double ends = std::max(neckline(p), until * body->skeleton().stature() - rest.z);
+    const double teeth = smoothMax(d - 0.25, -d - 0.6, 0.1);
+    return std::max({smoothMax(teeth, std::abs(rest.x) - 0.55, 0.2), ends, rest.y});
   });
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "samples/ImplicitBody.h"
+#include "samples/Lap.h"
 
 namespace samples {
 
@@ -11,7 +12,8 @@ namespace samples {
 struct TopCut {
   double ease = 0.9;  ///< between skin and cloth
   double sleeveEase = 0.9;
-  double sleeve = 1.8;  ///< 0 none, 1 to the elbow, 2 to the wrist
+  double sleeve = 1.8;     ///< 0 none, 1 to the elbow, 2 to the wrist
+  double sleeveFlare = 0;  ///< added at the end of the sleeve
   double hem = 0.505;
   double hemEase = 0.6;     ///< added towards the hem
   double collar = 0.835;    ///< height of the neckline at the back
@@ -20,7 +22,10 @@ struct TopCut {
   double neckWidth = 1.2;   ///< from the neck to the neckline
   double openFrom = 0;      ///< lowest place of the opening in front; 0 for closed
   double openSlope = 0.36;  ///< half width of the opening for each centimetre upwards
-  double lapel = 0;         ///< width of the lapels along the opening
+  double lapel = 0;         ///< width of the collar and lapels along the opening
+  double lapelThickness = 0.5;
+  double rib = 0;       ///< height of the thicker band at hem, cuffs and neckline
+  double overlap = -1;  ///< how far the right front lies over the left one; less than 0 for no front edge
   bool hood = false;
 };
 
@@ -30,6 +35,7 @@ struct TrouserCut {
   double thigh = 0.8;        ///< added at the thigh
   double hemRadius = 0.046;  ///< of the stature
   double hemAbove = 0.005;   ///< of the stature, over the ankle's joint
+  double length = 2;         ///< 1 to the knee, 2 to the ankle
 };
 
 struct SkirtCut {
@@ -38,10 +44,11 @@ struct SkirtCut {
   double length = 0.98;  ///< along the thighs: 1 to the knees
   double flare = 7;      ///< added at the knees
   double folds = 0.7;    ///< depth of the folds at the hem
+  double overlap = -1;   ///< as of a top
 };
 
 /// Cuts clothes from the shape of the body that wears them, in its pose. Every piece is a closed solid, hollow at its
-/// openings as far as one can look in.
+/// openings as far as one can look in; it gives way to bare arms and hands.
 class Garment {
  public:
   explicit Garment(const ImplicitBody& body);
@@ -53,6 +60,11 @@ class Garment {
   FieldPtr skirt(const SkirtCut& cut) const;
   /// Lies on the shirt and ends at the height `until`.
   FieldPtr tie(const TopCut& shirt, double until) const;
+  FieldPtr belt(const TrouserCut& trousers) const;
+  /// A row of buttons down the front of the top, `aside` centimetres from its middle, between two heights.
+  FieldPtr buttons(const TopCut& cut, double aside, double from, double to, int count, double radius) const;
+  /// A zip fastener down to the height `until`.
+  FieldPtr zip(const TopCut& cut, double until) const;
 
  private:
   using Distance = std::function<double(const Vec3&)>;
@@ -63,9 +75,12 @@ class Garment {
   Distance hood(const TopCut& cut) const;
   Distance skirtCloth(const SkirtCut& cut) const;
   Distance skirtHem(const SkirtCut& cut) const;
+  /// Positive near hands, and near forearms when they are bare.
+  Distance hands(bool bareArms) const;
   FieldPtr make(Distance distance) const;
 
   std::shared_ptr<const ImplicitBody> m_body;
+  std::shared_ptr<const Lap> m_lap;
 };
 
 }  // namespace samples

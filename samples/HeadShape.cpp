@@ -12,7 +12,7 @@ HeadShape::HeadShape(const Skeleton& skeleton, HairStyle hair)
   addNoseAndMouth(*head);
   addEars(*head);
   m_head = head;
-  m_hair = hair == HairStyle::Short ? makeShortHair() : makeBob();
+  m_hair = makeHair(hair, m_frame, m_height);
 }
 
 Frame HeadShape::at(double x, double y, double z, const Vec3& turned) const {
@@ -66,45 +66,6 @@ void HeadShape::addEars(BlobField& field) const {
     field.carveEllipsoid(ear.at(ear.point({s * 0.034 * h, -0.008 * h, 0.012 * h})), size(0.022, 0.042, 0.070),
                          0.02 * h);
   }
-}
-
-FieldPtr HeadShape::makeShortHair() const {
-  const double h = m_height;
-  auto cap = std::make_shared<BlobField>();
-  cap->addEllipsoid(at(0, 0.060, 0.640), size(0.340, 0.425, 0.385), 0);
-  cap->addEllipsoid(at(0, -0.16, 0.93, {18, 0, 0}), size(0.235, 0.20, 0.105), 0.08 * h);
-  const Frame frame = m_frame;
-  const auto distance = [cap, frame, h](const Vec3& p) {
-    const Vec3 u = frame.local(p) * (1.0 / h);
-    // The hairline falls from the forehead past the temples to the nape; it leaves the ears free.
-    const double line = 0.475 - 0.93 * u.y + 0.05 * smoothStep(0.10, 0.22, std::abs(u.x));
-    const double below = smoothMax((line - u.z) * 0.73, 0.30 - u.z, 0.05) * h;
-    const double ear = 0.105 * h - length(p - frame.point(Vec3{std::copysign(0.36, u.x), 0.035, 0.44} * h));
-    const double strands = 0.10 * std::sin(26 * std::atan2(u.x, 0.35 * u.y + 0.4 + 0.3 * u.z));
-    return smoothMax(smoothMax(cap->distance(p) + strands, below, 0.05 * h), ear, 0.04 * h);
-  };
-  return makeField(distance, cap->bounds().grown(0.5));
-}
-
-FieldPtr HeadShape::makeBob() const {
-  const double h = m_height;
-  auto cap = std::make_shared<BlobField>();
-  cap->addEllipsoid(at(0, 0.060, 0.640), size(0.362, 0.440, 0.395), 0);
-  cap->addEllipsoid(at(0, 0.095, 0.40), size(0.415, 0.395, 0.46), 0.10 * h);
-  cap->addEllipsoid(at(0.05, -0.16, 0.90, {16, 10, 0}), size(0.26, 0.20, 0.10), 0.10 * h);
-  const Frame frame = m_frame;
-  const auto distance = [cap, frame, h](const Vec3& p) {
-    const Vec3 u = frame.local(p) * (1.0 / h);
-    // The face looks out of an oval that leans to the parting; the hair ends at the jaw, a little lower in front.
-    const double ox = u.x + 0.10 * (u.z - 0.45);
-    const double oval = (std::hypot(ox / 0.245, (u.z - 0.37) / 0.43) - 1) * 0.245 * h;
-    const double face = std::max(oval, (u.y + 0.02 + 0.10 * u.z) * h);
-    const double below = (0.055 - 0.10 * std::min(-u.y, 0.0) * 2 - u.z) * h;
-    const double strands = 0.11 * std::sin(30 * std::atan2(u.x - 0.05, 0.4 * u.y + 0.25 + 0.25 * u.z));
-    const double hair = smoothMax(cap->distance(p) + strands, -face, 0.06 * h);
-    return smoothMax(hair, below, 0.06 * h);
-  };
-  return makeField(distance, cap->bounds().grown(0.5));
 }
 
 }  // namespace samples

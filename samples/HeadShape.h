@@ -1,11 +1,10 @@
 #pragma once
 
 #include "samples/BlobField.h"
+#include "samples/HairShape.h"
 #include "samples/Skeleton.h"
 
 namespace samples {
-
-enum class HairStyle { Short, Bob };
 
 /// Skull, face, ears and hair of one head. Places on it are parts of the head's height: chin at Z = 0, crown at Z = 1,
 /// facing -Y.
@@ -26,8 +25,6 @@ class HeadShape {
   void addEyes(BlobField& field) const;
   void addNoseAndMouth(BlobField& field) const;
   void addEars(BlobField& field) const;
-  FieldPtr makeShortHair() const;
-  FieldPtr makeBob() const;
 
   Frame at(double x, double y, double z, const Vec3& turned = {}) const;
   Vec3 size(double x, double y, double z) const { return Vec3{x, y, z} * m_height; }

@@ -35,7 +35,7 @@ ImplicitBody::ImplicitBody(const Skeleton& skeleton, HairStyle hair)
 
 FieldPtr ImplicitBody::makeChestAndSeat() const {
   const Proportions& body = m_skeleton.proportions();
-  const double s = body.stature;
+  const double s = m_skeleton.stature();
   const double f = body.femininity;
   const auto chest = [&](double x, double y, double z) {
     return m_skeleton.chest().point({x * s, y * s, z * s - m_skeleton.restChest()});
@@ -59,7 +59,7 @@ FieldPtr ImplicitBody::makeChestAndSeat() const {
 
 FieldPtr ImplicitBody::makeNeck() const {
   const Proportions& body = m_skeleton.proportions();
-  const double s = body.stature;
+  const double s = m_skeleton.stature();
   auto field = std::make_shared<BlobField>();
   field->addCone(m_skeleton.neck().point({0, 0, -0.02 * s}), body.between(0.0345, 0.0290) * s,
                  m_skeleton.head().point({0, 0.001 * s, 0.012 * s}), body.between(0.0325, 0.0265) * s, 0);

@@ -42,7 +42,7 @@ void addThumb(BlobField& field, const Frame& hand, double size, double palm, dou
 
 FieldPtr makeArm(const Skeleton& skeleton, Side side) {
   const Proportions& body = skeleton.proportions();
-  const double s = body.stature;
+  const double s = skeleton.stature();
   const Limb& arm = skeleton.arm(side);
   const double thick = body.between(1.0, 0.84) * (0.93 + 0.14 * body.muscle);
   auto field = std::make_shared<BlobField>();
@@ -50,9 +50,9 @@ FieldPtr makeArm(const Skeleton& skeleton, Side side) {
   field->addCone(arm.upper.point({0, 0, 0.010 * s}), 0.0315 * s * thick, elbow, 0.0215 * s * thick, 0);
   field->addCone(arm.upper.point({0, -0.005 * s, 0.35 * arm.upperLength}), 0.026 * s * thick,
                  arm.upper.point({0, -0.003 * s, 0.65 * arm.upperLength}), 0.0245 * s * thick, 0.02 * s);
-  field->addCone(elbow, 0.0215 * s * thick, arm.end.origin, 0.0148 * s * thick, 0.01 * s);
-  field->addCone(arm.lower.point({0, 0.001 * s, 0.14 * arm.lowerLength}), 0.0235 * s * thick,
-                 arm.lower.point({0, 0, 0.50 * arm.lowerLength}), 0.0190 * s * thick, 0.02 * s);
+  field->addCone(elbow, 0.0212 * s * thick, arm.end.origin, 0.0148 * s * thick, 0.004 * s);
+  field->addCone(arm.lower.point({0, 0.001 * s, 0.20 * arm.lowerLength}), 0.0222 * s * thick,
+                 arm.lower.point({0, 0, 0.50 * arm.lowerLength}), 0.0190 * s * thick, 0.010 * s);
   return field;
 }
 
@@ -87,7 +87,7 @@ FieldPtr makeHand(const Skeleton& skeleton, Side side) {
 
 FieldPtr makeLeg(const Skeleton& skeleton, Side side) {
   const Proportions& body = skeleton.proportions();
-  const double s = body.stature;
+  const double s = skeleton.stature();
   const Limb& leg = skeleton.leg(side);
   const double thick = 0.97 + 0.06 * body.muscle + 0.05 * body.fullness;
   const Vec3 knee = leg.lower.origin;
@@ -95,11 +95,11 @@ FieldPtr makeLeg(const Skeleton& skeleton, Side side) {
   field->addCone(leg.upper.point({0, 0, 0}), body.between(0.0490, 0.0510) * s * thick, knee, 0.0295 * s * thick, 0);
   field->addCone(leg.upper.point({0, -0.010 * s, 0.30 * leg.upperLength}), 0.041 * s * thick,
                  leg.upper.point({0, -0.004 * s, 0.70 * leg.upperLength}), 0.034 * s * thick, 0.02 * s);
-  field->addSphere(leg.lower.point({0, -0.006 * s, 0}), 0.0265 * s * thick, 0.02 * s);
-  field->addCone(knee, 0.0280 * s * thick, leg.end.origin, body.between(0.0195, 0.0180) * s, 0.015 * s);
+  field->addSphere(leg.lower.point({0, -0.005 * s, 0}), 0.0262 * s * thick, 0.008 * s);
+  field->addCone(knee, 0.0282 * s * thick, leg.end.origin, body.between(0.0195, 0.0180) * s, 0.006 * s);
   field->addCone(leg.lower.point({0, 0.010 * s, 0.16 * leg.lowerLength}), body.between(0.0300, 0.0285) * s * thick,
                  leg.lower.point({0, 0.008 * s, 0.46 * leg.lowerLength}), body.between(0.0265, 0.0245) * s * thick,
-                 0.025 * s);
+                 0.018 * s);
   return field;
 }
 

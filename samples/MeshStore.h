@@ -12,6 +12,11 @@ namespace samples {
 /// Finished meshes by their path below the repository; filled by several threads.
 class MeshStore {
  public:
+  MeshStore() = default;
+  /// Begins with the meshes of another, which nobody may be filling meanwhile.
+  explicit MeshStore(const MeshStore& other) : m_meshes(other.m_meshes) {}
+  MeshStore& operator=(const MeshStore&) = delete;
+
   void put(const std::string& path, host::Mesh mesh) {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_meshes[path] = std::make_shared<const host::Mesh>(std::move(mesh));

@@ -8,6 +8,7 @@ namespace samples {
 /// How finely fields become surfaces.
 struct MeshDetail {
   double cell = 0.5;              ///< centimetres between samples of the field
+  bool hollow = true;             ///< whether there may be thin walls, which the samples must not miss
   std::size_t triangles = 20000;  ///< at most, about
   double evenness = 1e-4;         ///< see `Simplification`
   /// How much more a place deserves triangles than others; null is 1 everywhere.

@@ -29,7 +29,7 @@ inline std::string skinMaterialName(const CharacterDesign& character, const Skin
 /// The skin and the hair of one complexion.
 inline Material skinMaterial(const CharacterDesign& character, const SkinDesign& skin) {
   const std::string name = skinMaterialName(character, skin);
-  return multi(name, {plain(name + " Complexion", Qt::white, 0.55, skinId(character, skin) + ".png"),
+  return multi(name, {plain(name + " Complexion", Qt::white, 0.55, skin.texture),
                       plain(name + " Hair", skin.hair, 0.5, "hair.png")});
 }
 

@@ -7,20 +7,43 @@ Pose standing(double femininity) {
   Pose pose;
   pose.id = "standing";
   pose.name = "Standing";
-  pose.pelvisHeight = 0.985;
-  pose.pelvisOffset = {-0.035, 0, 0};
-  pose.pelvis = {0, 4.5, 4};
-  pose.spine = {-2, -4.5, -2};
-  pose.chest = {3, -3.5, -3};
-  pose.neck = {4, 1.5, 2};
-  pose.head = {-2, 2.5, 6};
+  pose.pelvisHeight = 0.992;
+  pose.pelvisOffset = {-0.012, 0, 0};
+  pose.pelvis = {-1, 1.5, 2};
+  pose.spine = {-1, -1.5, -1};
+  pose.chest = {2, -1, -2};
+  pose.neck = {4, 0.5, 1};
+  pose.head = {-2, 1, 5};
+  pose.rightLeg.ankle = {mix(-0.120, -0.085, femininity), 0.005, 0};
+  pose.rightLeg.footYaw = 9;
+  pose.rightLeg.kneeYaw = 7;
+  pose.leftLeg.ankle = {mix(0.125, 0.085, femininity), -0.030, 0};
+  pose.leftLeg.footYaw = 13;
+  pose.leftLeg.kneeYaw = 9;
+  pose.leftArm = {0, mix(13, 14, femininity), 6, 12, 8, 0, 0.45};
+  pose.rightArm = {-2, mix(14, 17, femininity), 6, 14, 8, 0, 0.6};
+  return pose;
+}
+
+// The weight on the right leg, the left hand on the hip.
+Pose contrapposto(double femininity) {
+  Pose pose;
+  pose.id = "contrapposto";
+  pose.name = "Contrapposto";
+  pose.pelvisHeight = 0.982;
+  pose.pelvisOffset = {-0.040, 0, 0};
+  pose.pelvis = {0, mix(5, 6.5, femininity), 4};
+  pose.spine = {-2, mix(-5, -6.5, femininity), -2};
+  pose.chest = {2, -4, -5};
+  pose.neck = {4, 2, 2};
+  pose.head = {-2, 3, 12};
   pose.rightLeg.ankle = {-0.085, 0.0, 0};
   pose.rightLeg.footYaw = 8;
   pose.rightLeg.kneeYaw = 6;
-  pose.leftLeg.ankle = {mix(0.19, 0.15, femininity), -0.10, 0};
-  pose.leftLeg.footYaw = 24;
-  pose.leftLeg.kneeYaw = 16;
-  pose.leftArm = {-3, mix(14, 15, femininity), 8, 22, 12, 0, 0.42};
+  pose.leftLeg.ankle = {mix(0.21, 0.15, femininity), -0.11, 0};
+  pose.leftLeg.footYaw = 26;
+  pose.leftLeg.kneeYaw = 18;
+  pose.leftArm = {-18, 48, 52, 87, 20, -6, 0.30};
   pose.rightArm = {-2, mix(15, 18, femininity), 6, 14, 8, 0, 0.6};
   return pose;
 }
@@ -72,10 +95,57 @@ Pose sitting(double femininity) {
   return pose;
 }
 
+// With the left shoulder against whatever is there, the left leg crossed over the right one.
+Pose leaning(double femininity) {
+  Pose pose;
+  pose.id = "leaning";
+  pose.name = "Leaning";
+  pose.pelvisHeight = 0.972;
+  pose.pelvisOffset = {0.110, 0.01, 0};
+  pose.pelvis = {-2, 3, -4};
+  pose.spine = {-1, 4, 0};
+  pose.chest = {3, 3, 6};
+  pose.neck = {4, -4, 2};
+  pose.head = {0, -5, -10};
+  pose.rightLeg.ankle = {-0.045, 0.0, 0};
+  pose.rightLeg.footYaw = 12;
+  pose.rightLeg.kneeYaw = 8;
+  pose.leftLeg.ankle = {mix(-0.170, -0.155, femininity), -0.190, 0};
+  pose.leftLeg.footYaw = -16;
+  pose.leftLeg.footPitch = -48;
+  pose.leftLeg.kneeYaw = 10;
+  pose.leftArm = {14, 10, 40, 78, 30, -8, 0.30};
+  pose.rightArm = {0, mix(17, 20, femininity), 8, 18, 8, 0, 0.6};
+  return pose;
+}
+
+Pose waving(double femininity) {
+  Pose pose;
+  pose.id = "waving";
+  pose.name = "Waving";
+  pose.pelvisHeight = 0.988;
+  pose.pelvisOffset = {-0.025, 0, 0};
+  pose.pelvis = {-1, 3, 2};
+  pose.spine = {-1, -3.5, 0};
+  pose.chest = {0, -3.5, 2};
+  pose.neck = {2, 2, 2};
+  pose.head = {-3, 4, 6};
+  pose.rightLeg.ankle = {-0.090, 0.0, 0};
+  pose.rightLeg.footYaw = 9;
+  pose.rightLeg.kneeYaw = 7;
+  pose.leftLeg.ankle = {mix(0.16, 0.12, femininity), -0.06, 0};
+  pose.leftLeg.footYaw = 18;
+  pose.leftLeg.kneeYaw = 12;
+  pose.leftArm = {12, 58, -88, 112, 0, 0, 0.10};
+  pose.rightArm = {-2, mix(14, 17, femininity), 6, 14, 8, 0, 0.6};
+  return pose;
+}
+
 }  // namespace
 
 std::vector<Pose> samplePoses(double femininity) {
-  return {standing(femininity), walking(femininity), sitting(femininity)};
+  return {standing(femininity), contrapposto(femininity), walking(femininity),
+          sitting(femininity),  leaning(femininity),      waving(femininity)};
 }
 
 }  // namespace samples

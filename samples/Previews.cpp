@@ -24,6 +24,35 @@ host::Surface toSurface(const Material& material, const Previews::Textures& text
   return surface;
 }
 
+// Few rays leave a grain behind, which neighbours of nearly the same colour take away. Edges and patterns stay.
+QImage withoutGrain(const QImage& picture) {
+  constexpr int reach = 2, sameness = 22;
+  QImage smooth = picture;
+  for (int y = 0; y < picture.height(); ++y) {
+    auto* line = reinterpret_cast<QRgb*>(smooth.scanLine(y));
+    for (int x = 0; x < picture.width(); ++x) {
+      const QRgb own = picture.pixel(x, y);
+      int red = 0, green = 0, blue = 0, sum = 0;
+      for (int j = std::max(y - reach, 0); j <= std::min(y + reach, picture.height() - 1); ++j) {
+        const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(j));
+        for (int i = std::max(x - reach, 0); i <= std::min(x + reach, picture.width() - 1); ++i) {
+          const QRgb other = row[i];
+          const int apart = std::abs(qRed(own) - qRed(other)) + std::abs(qGreen(own) - qGreen(other)) +
+                            std::abs(qBlue(own) - qBlue(other));
+          const int weight = std::max(sameness - apart, 0);
+          red += weight * qRed(other);
+          green += weight * qGreen(other);
+          blue += weight * qBlue(other);
+          sum += weight;
+        }
+      }
+      const int half = sum / 2;
+      line[x] = qRgb((red + half) / sum, (green + half) / sum, (blue + half) / sum);
+    }
+  }
+  return smooth;
+}
+
 }  // namespace
 
 host::ViewItem Previews::item(std::shared_ptr<const host::Mesh> mesh, const Material& material,
@@ -48,11 +77,13 @@ QImage Previews::take(std::vector<host::ViewItem> items, const View& view, int w
   options.width = width;
   options.height = height;
   options.samples = m_samples;
+  options.enough = 4;
   options.ground = view.ground;
   options.background = host::RenderOptions::Background::Plain;
   options.backgroundColor = QColor(56, 57, 60);
   options.threads = 1;
-  return host::render(scene, camera, options);
+  const QImage picture = host::render(scene, camera, options);
+  return m_samples > 2 ? withoutGrain(picture) : picture;
 }
 
 Previews::View Previews::around(const std::vector<host::ViewItem>& items, double widthByHeight) {

@@ -9,8 +9,13 @@ struct Proportions {
   double femininity = 0;  ///< 0 a man's outline, 1 a woman's
   double fullness = 0;    ///< 0 lean; 1 adds about three centimetres around the waist
   double muscle = 0.5;    ///< 0 slight, 1 strong
+  double belly = 0;       ///< 1 adds about five centimetres in front of the waist and nowhere else
+  double shoulders = 1;   ///< factor on the width of the shoulders
+  double stoop = 0;       ///< 1 bends back and neck forward as far as old people do
 
   double headHeight() const { return stature / heads; }
+  /// The stature of the same body with a head of usual size, which a child's body is built from.
+  double bodyStature() const { return (stature - 1.29 * headHeight()) / 0.828; }
   double between(double man, double woman) const { return man + (woman - man) * femininity; }
 };
 

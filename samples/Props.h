@@ -7,10 +7,32 @@
 
 namespace samples {
 
-/// Things to carry, to wear on the head and to sit on, each in its own space; `Placements` says where a body has it.
-enum class Prop { Handbag, Briefcase, SunHat, Fedora, Glasses, Headphones, Stool, Suitcase };
+/// Things that matrix rows place: to carry, to wear on the head, to sit on, and what stands around.
+enum class Prop {
+  Handbag,
+  Briefcase,
+  ShoppingBag,
+  Book,
+  Phone,
+  Dumbbell,
+  Cane,
+  Teddy,
+  Balloon,
+  SunHat,
+  Fedora,
+  FlatCap,
+  BaseballCap,
+  Glasses,
+  Headphones,
+  Stool,
+  Suitcase,
+  Bicycle,
+  Bench,
+  LampPost,
+  Umbrella  ///< never made
+};
 
-/// `body` gives the measures that a prop must fit: the head, the height of the seat.
+/// `body` gives the measures that a prop must fit: the head, the height of the seat, of the hand.
 std::vector<Piece> propPieces(Prop prop, const ImplicitBody& body);
 
 /// Where the body, in its pose, has the prop.

@@ -1,58 +1,32 @@
 #include "samples/SampleRepository.h"
 
-#include <cstdio>
-
-#include "host/meshes/MeshFileWriter.h"
-#include "samples/CharacterMaker.h"
+#include "samples/CharacterPictures.h"
 #include "samples/MaterialLibraryWriter.h"
 #include "samples/Naming.h"
 #include "samples/PictureFile.h"
+#include "samples/RepositoryReadme.h"
 #include "samples/TextFile.h"
+#include "samples/TextureSet.h"
+#include "samples/people/People.h"
 
 namespace samples {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::map<std::string, QImage> drawTextures(const SampleOptions& options,
-                                           const std::vector<CharacterDesign>& characters) {
-  const Textures draw(options.seed, std::clamp(static_cast<int>(512 / options.coarseness), 64, 512));
-  std::map<std::string, QImage> maps;
-  maps["weave.png"] = draw.weave();
-  maps["knit.png"] = draw.knit();
-  maps["leather.png"] = draw.leather();
-  maps["hair.png"] = draw.stripes(QColor(255, 255, 255), QColor(214, 210, 206), 60, 0.5, true);
-  maps["wood.png"] = draw.wood(QColor(255, 250, 244));
-  maps["straw.png"] = draw.straw(QColor(226, 196, 140));
-  maps["denim_blue.png"] = draw.denim(QColor(80, 106, 148));
-  maps["denim_dark.png"] = draw.denim(QColor(46, 58, 88));
-  maps["flowers_meadow.png"] = draw.flowers(QColor(240, 232, 214), QColor(206, 92, 96), QColor(240, 196, 92));
-  maps["stripes_marine.png"] = draw.stripes(QColor(34, 52, 88), QColor(236, 236, 232), 3, 0.28, false);
-  maps["stripes_breton.png"] = draw.stripes(QColor(238, 236, 228), QColor(40, 56, 92), 4, 0.34, false);
-  maps["dots.png"] = draw.dots(QColor(44, 58, 92), QColor(236, 232, 222), 4, 0.17);
-  maps["pinstripe.png"] = draw.stripes(QColor(44, 52, 78), QColor(150, 158, 178), 6, 0.07, true);
-  maps["tweed.png"] = draw.tweed(QColor(112, 96, 76), QColor(188, 172, 142));
-  maps["tie_claret.png"] = draw.stripes(QColor(128, 32, 42), QColor(196, 170, 112), 4, 0.14, false);
-  maps["check_red.png"] = draw.check(QColor(156, 44, 46), QColor(40, 40, 48), QColor(224, 196, 130), 2);
-  for (const CharacterDesign& character : characters) {
-    for (const SkinDesign& skin : character.skins) maps[skinId(character, skin) + ".png"] = draw.skin(skin.face);
-  }
-  return maps;
-}
-
 class Writer {
  public:
   Writer(const fs::path& folder, const SampleOptions& options, const SampleProgress& progress)
-      : m_root(folder), m_options(options), m_progress(progress), m_globals(globalAssetDesigns()) {
-    for (const CharacterDesign& design : {annaDesign(), brunoDesign()}) {
-      m_characters.push_back(std::make_unique<CharacterMaker>(design, m_globals, folder));
-    }
-  }
+      : m_root(folder),
+        m_options(options),
+        m_progress(progress),
+        m_globals(globalAssetDesigns()),
+        m_people(people(std::clamp(options.characters, 1, 1000))) {}
 
   std::string run() {
     using Step = std::string (Writer::*)();
     for (const Step step :
-         {&Writer::writeTextures, &Writer::writeMeshes, &Writer::writeTexts, &Writer::writePictures}) {
+         {&Writer::writeTextures, &Writer::writeGlobalAssets, &Writer::writeCharacters, &Writer::writeTexts}) {
       if (std::string error = (this->*step)(); !error.empty()) return error;
     }
     tell(1);
@@ -68,113 +42,105 @@ class Writer {
   }
 
   std::string writeTextures() {
-    std::vector<CharacterDesign> designs;
-    for (const auto& character : m_characters) designs.push_back(character->design());
+    Crew crew(m_options.threads);
     Previews::Textures textures;
-    for (const auto& [name, image] : drawTextures(m_options, designs)) {
-      if (std::string error = writePicture(image, {m_root / "maps" / name}); !error.empty()) return error;
+    const auto images = drawTextures(m_options.seed, m_options.coarseness, m_people);
+    for (const auto& [name, image] : images) {
       textures[name] = std::make_shared<host::Texture>(image);
+      crew.add([this, file = m_root / "maps" / name, &picture = image] { return writePicture(picture, {file}); });
     }
     m_previews = std::make_unique<Previews>(std::move(textures), m_options.previewSamples);
+    return crew.run(part(0, 0.04));
+  }
+
+  std::string writeGlobalAssets() {
+    Crew meshes(m_options.threads);
+    const auto body = std::make_shared<ImplicitBody>(Skeleton(m_people.front().proportions, samplePoses(1).front()),
+                                                     HairStyle::Short);
+    for (const GlobalAssetDesign& asset : m_globals) {
+      if (!asset.hasFolder) continue;
+      meshes.add(meshJob(globalFolder(asset) / "asset.vrmesh", globalId(asset), m_shared, m_options.coarseness,
+                         [&asset, body] { return propPieces(asset.prop, *body); }));
+    }
+    if (std::string error = meshes.run(part(0.04, 0.08)); !error.empty()) return error;
+    Crew pictures(m_options.threads);
+    for (const GlobalAssetDesign& asset : m_globals) planGlobalPictures(pictures, asset);
+    pictures.add([this] { return writePicture(Previews::notAvailable(110, 330), {m_root / "overlay110x330.png"}); });
+    pictures.add([this] { return writePicture(Previews::notAvailable(100, 300), {m_root / "overlay100x300.png"}); });
+    return pictures.run(part(0.08, 0.1));
+  }
+
+  void planGlobalPictures(Crew& crew, const GlobalAssetDesign& asset) const {
+    if (!asset.hasFolder) return;
+    for (std::size_t i = 0; i < std::max<std::size_t>(asset.styles.size(), 1); ++i) {
+      const StyleDesign* style = asset.styles.empty() ? &asset.plain : &asset.styles[i];
+      std::vector<fs::path> files;
+      if (!asset.styles.empty()) files.push_back(globalFolder(asset) / previewName(styleId(globalId(asset), *style)));
+      if (i == 0) files.push_back(globalFolder(asset) / "preview.png");
+      crew.add([this, &asset, style, files] {
+        const std::vector<host::ViewItem> items = {m_previews->item(m_shared.find(globalId(asset)), style->material)};
+        return writePicture(m_previews->take(items, Previews::around(items, 1), 150, 150), files);
+      });
+    }
+  }
+
+  // One after the other, so that a repository of many does not keep the meshes of all.
+  std::string writeCharacters() {
+    m_description.addGlobalAssets(m_globals);
+    const double step = 0.9 / static_cast<double>(m_people.size());
+    for (std::size_t i = 0; i < m_people.size(); ++i) {
+      const double from = 0.1 + step * static_cast<double>(i);
+      if (std::string error = writeCharacter(m_people[i], from, from + step); !error.empty()) return error;
+    }
     return {};
   }
 
-  std::string writeMeshes() {
+  std::string writeCharacter(const CharacterDesign& design, double from, double to) {
+    const CharacterMaker maker(design, m_root);
+    MeshStore store(m_shared);
     Crew crew(m_options.threads);
-    for (const auto& character : m_characters) character->planMeshes(crew, m_meshes, m_options.coarseness);
-    const auto body = std::make_shared<ImplicitBody>(
-        Skeleton(m_characters.front()->design().proportions, samplePoses(1).front()), HairStyle::Short);
-    for (const GlobalAssetDesign& asset : m_globals) {
-      if (!asset.hasFolder) continue;
-      crew.add([this, &asset, body]() -> std::string {
-        host::Mesh mesh = meshPieces(propPieces(asset.prop, *body), m_options.coarseness);
-        const fs::path file = globalFolder(asset) / "asset.vrmesh";
-        std::error_code error;
-        fs::create_directories(file.parent_path(), error);
-        std::string failed = host::writeMeshFile(mesh, file);
-        m_meshes.put(globalId(asset), std::move(mesh));
-        return failed;
-      });
-    }
-    return crew.run(part(0.05, 0.6));
+    maker.planMeshes(crew, store, m_options.coarseness);
+    if (std::string error = crew.run(part(from, mix(from, to, 0.7))); !error.empty()) return error;
+    CharacterPictures pictures(maker, m_globals, store, *m_previews);
+    pictures.plan(crew);
+    const bool sheet = !m_options.contactSheets.empty();
+    if (sheet) pictures.planContactSheet(crew, m_options.contactSheets / (design.key + ".png"));
+    if (std::string error = crew.run(part(mix(from, to, 0.7), to)); !error.empty()) return error;
+    if (std::string error = sheet ? pictures.writeContactSheet() : ""; !error.empty()) return error;
+    m_description.addCharacter(design, maker.placements());
+    return maker.writeLibraries();
   }
 
   std::string writeTexts() {
-    DescriptionWriter description;
-    description.addGlobalAssets(m_globals);
-    for (const auto& character : m_characters) {
-      if (std::string error = character->writeLibraries(); !error.empty()) return error;
-      description.addCharacter(character->design(), character->placements());
-    }
     if (std::string error = writeGlobalLibraries(); !error.empty()) return error;
-    if (std::string error = writeTextFile(m_root / "README.md", readme()); !error.empty()) return error;
-    return writeTextFile(m_root / "zorvel.xml", description.text());
+    if (std::string error = writeTextFile(m_root / "README.md", repositoryReadme(m_people, m_globals, m_options.seed));
+        !error.empty())
+      return error;
+    return writeTextFile(m_root / "zorvel.xml", m_description.text());
   }
 
   std::string writeGlobalLibraries() const {
     MaterialLibraryWriter shared("D:\\textures\\shared");
     for (const GlobalAssetDesign& asset : m_globals) {
       MaterialLibraryWriter own("D:\\textures\\shared");
-      for (const StyleDesign& style : asset.styles) (style.library == Library::Own ? own : shared).add(style.material);
+      std::vector<StyleDesign> styles = asset.styles;
+      if (styles.empty()) styles.push_back(asset.plain);
+      for (const StyleDesign& style : styles) (style.library == Library::Own ? own : shared).add(style.material);
       if (!asset.hasFolder || own.isEmpty()) continue;
       if (std::string error = own.write(globalFolder(asset) / "materials.mat"); !error.empty()) return error;
     }
     return shared.write(m_root / "global_assets" / "materials.mat");
   }
 
-  std::string writePictures() {
-    Crew crew(m_options.threads);
-    for (const auto& character : m_characters) character->planPictures(crew, m_meshes, *m_previews);
-    for (const GlobalAssetDesign& asset : m_globals) {
-      if (!asset.hasFolder) continue;
-      for (const StyleDesign& style : asset.styles) {
-        crew.add([this, &asset, &style] {
-          const std::vector<host::ViewItem> items = {m_previews->item(m_meshes.find(globalId(asset)), style.material)};
-          const QImage picture = m_previews->take(items, Previews::around(items, 1), 150, 150);
-          std::vector<fs::path> files = {globalFolder(asset) / previewName(styleId(globalId(asset), style))};
-          if (&style == &asset.styles.front()) files.push_back(globalFolder(asset) / "preview.png");
-          return writePicture(picture, files);
-        });
-      }
-    }
-    crew.add([this] { return writePicture(Previews::notAvailable(110, 330), {m_root / "overlay110x330.png"}); });
-    crew.add([this] { return writePicture(Previews::notAvailable(100, 300), {m_root / "overlay100x300.png"}); });
-    return crew.run(part(0.6, 1.0));
-  }
-
   fs::path globalFolder(const GlobalAssetDesign& asset) const { return m_root / "global_assets" / asset.key; }
-
-  std::string readme() const {
-    return "# Sample repository\n\n"
-           "Two characters, Anna and Bruno, with poses, clothing, skins and assets, made by `zorvel sample` with the "
-           "seed " +
-           std::to_string(m_options.seed) +
-           ".\nEverything here is computed; nothing was photographed, scanned or modelled by hand. Lengths are "
-           "centimetres, Z is "
-           "up,\nand the characters face -Y.\n\n"
-           "## What is missing on purpose\n\n"
-           "A repository that people really use is never complete. This one leaves out\n\n"
-           "- the folder `anna\\coat`: the clothing \"Winter Coat\" is shown as not available;\n"
-           "- the mesh `bruno\\hoodie\\bruno_hoodie_bruno_sitting.vrmesh`: \"Hoodie and Chinos\" cannot be worn "
-           "sitting;\n"
-           "- the folder `global_assets\\umbrella`: the asset \"Umbrella\" is not offered.\n\n"
-           "## Where things are\n\n"
-           "- `zorvel.xml` describes everything.\n"
-           "- `<character>\\<pose>\\pose.vrmesh` is the body, `<character>\\skin\\skin.mat` its skins.\n"
-           "- `<character>\\<clothing>` and `<character>\\<asset>` hold meshes, a material library and pictures.\n"
-           "- `<character>\\materials.mat` and `<character>\\props.mat` hold materials that are not in a folder's own "
-           "library.\n"
-           "- `global_assets` holds what all characters share.\n"
-           "- `maps` holds the textures. The libraries name other folders, as libraries do that come from another "
-           "machine.\n";
-  }
 
   fs::path m_root;
   SampleOptions m_options;
   SampleProgress m_progress;
   std::vector<GlobalAssetDesign> m_globals;
-  std::vector<std::unique_ptr<CharacterMaker>> m_characters;
-  MeshStore m_meshes;
+  std::vector<CharacterDesign> m_people;
+  MeshStore m_shared;
+  DescriptionWriter m_description;
   std::unique_ptr<Previews> m_previews;
 };
 

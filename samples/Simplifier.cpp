@@ -1,69 +1,18 @@
 #include "samples/Simplifier.h"
 
-#include <optional>
-#include <queue>
+#include <numeric>
+
+#include "samples/CostQueue.h"
+#include "samples/Quadric.h"
+#include "samples/TriangleFans.h"
 
 namespace samples {
 namespace {
 
-// The sum of squared distances to planes, as a function of the place.
-struct Quadric {
-  double xx = 0, xy = 0, xz = 0, yy = 0, yz = 0, zz = 0;
-  Vec3 linear;
-  double constant = 0;
-
-  void addPlane(const Vec3& n, double offset, double weight) {
-    xx += weight * n.x * n.x;
-    xy += weight * n.x * n.y;
-    xz += weight * n.x * n.z;
-    yy += weight * n.y * n.y;
-    yz += weight * n.y * n.z;
-    zz += weight * n.z * n.z;
-    linear = linear + n * (weight * offset);
-    constant += weight * offset * offset;
-  }
-  void add(const Quadric& q) {
-    xx += q.xx;
-    xy += q.xy;
-    xz += q.xz;
-    yy += q.yy;
-    yz += q.yz;
-    zz += q.zz;
-    linear = linear + q.linear;
-    constant += q.constant;
-  }
-  Vec3 apply(const Vec3& p) const {
-    return {xx * p.x + xy * p.y + xz * p.z, xy * p.x + yy * p.y + yz * p.z, xz * p.x + yz * p.y + zz * p.z};
-  }
-  double at(const Vec3& p) const { return std::max(dot(p, apply(p)) + 2 * dot(linear, p) + constant, 0.0); }
-
-  // Where the sum is least; nothing where that is not one place.
-  std::optional<Vec3> minimum() const {
-    const double a = yy * zz - yz * yz;
-    const double b = xz * yz - xy * zz;
-    const double c = xy * yz - xz * yy;
-    const double determinant = xx * a + xy * b + xz * c;
-    const double size = xx + yy + zz;
-    if (std::abs(determinant) < 1e-4 * size * size * size) return std::nullopt;
-    const double d = xx * zz - xz * xz;
-    const double e = xy * xz - xx * yz;
-    const double f = xx * yy - xy * xy;
-    const Vec3 r = -linear;
-    return Vec3{a * r.x + b * r.y + c * r.z, b * r.x + d * r.y + e * r.z, c * r.x + e * r.y + f * r.z} *
-           (1.0 / determinant);
-  }
-};
-
 struct Candidate {
-  float cost;
-  std::uint32_t a;
-  std::uint32_t b;
-  std::uint32_t stamp;
-
-  bool operator<(const Candidate& other) const {
-    if (cost != other.cost) return cost > other.cost;
-    return a != other.a ? a > other.a : b > other.b;
-  }
+  std::uint32_t a = 0;
+  std::uint32_t b = 0;
+  std::uint32_t stamp = 0;
 };
 
 class Collapser {
@@ -73,33 +22,21 @@ class Collapser {
         m_evenness(how.evenness),
         m_quadrics(surface.positions.size()),
         m_stamps(surface.positions.size()),
-        m_around(surface.positions.size()),
+        m_became(surface.positions.size()),
+        m_around(surface),
         m_marks(surface.positions.size()) {
+    std::iota(m_became.begin(), m_became.end(), 0U);
     m_alive.assign(surface.triangles.size(), 1);
     for (std::uint32_t t = 0; t < surface.triangles.size(); ++t) addTriangle(t, how.weight);
     m_left = surface.triangles.size();
   }
 
-  // Merges vertices nearer to each other than `edge` without looking for the best first: cheap, and most of them go so.
-  void mergeNear(double edge, std::size_t target) {
-    for (std::uint32_t a = 0; a < m_around.size() && m_left > target; ++a) {
-      bool merged = true;
-      while (merged && !m_around[a].empty()) {
-        const auto b = nearestNeighbour(a, edge);
-        merged = b && tryCollapse(std::min(a, *b), std::max(a, *b));
-      }
-    }
-  }
-
   void run(std::size_t target) {
-    proposeAll();
-    while (m_left > target && !m_queue.empty()) {
-      const Candidate best = m_queue.top();
-      m_queue.pop();
-      if (best.stamp != m_stamps[best.a] + m_stamps[best.b] || m_around[best.a].empty() || m_around[best.b].empty()) {
-        continue;
-      }
-      if (tryCollapse(best.a, best.b)) refreshAround(best.a);
+    // What could not be merged at first may be once its surroundings have changed.
+    for (std::size_t before = m_left + 1; m_left > target && m_left < before;) {
+      before = m_left;
+      proposeAll();
+      collapseBest(target);
     }
     compact();
   }
@@ -111,35 +48,19 @@ class Collapser {
     const Vec3 unit = normalized(normal);
     const Vec3& corner = m_surface.positions[triangle[0]];
     const double w = length(normal) * (weight ? weight(corner) : 1.0);
-    for (const std::uint32_t v : triangle) {
-      m_quadrics[v].addPlane(unit, -dot(unit, corner), w);
-      m_around[v].push_back(t);
-    }
+    for (const std::uint32_t v : triangle) m_quadrics[v].addPlane(unit, -dot(unit, corner), w);
   }
 
   void proposeAll() {
+    m_queue = {};
     for (std::uint32_t t = 0; t < m_alive.size(); ++t) {
       if (m_alive[t] == 0) continue;
       const Surface::Triangle& triangle = m_surface.triangles[t];
       for (std::size_t i = 0; i < 3; ++i) {
-        if (triangle[i] < triangle[(i + 1) % 3]) propose(triangle[i], triangle[(i + 1) % 3]);
+        const std::uint32_t a = triangle[i], b = triangle[(i + 1) % 3];
+        if (a < b) m_queue.push(cost(a, b), {a, b, m_stamps[a] + m_stamps[b]});
       }
     }
-  }
-
-  std::optional<std::uint32_t> nearestNeighbour(std::uint32_t a, double edge) const {
-    std::optional<std::uint32_t> nearest;
-    double best = edge * edge;
-    for (const std::uint32_t t : m_around[a]) {
-      if (m_alive[t] == 0) continue;
-      for (const std::uint32_t v : m_surface.triangles[t]) {
-        const Vec3 d = m_surface.positions[v] - m_surface.positions[a];
-        if (v == a || dot(d, d) >= best) continue;
-        best = dot(d, d);
-        nearest = v;
-      }
-    }
-    return nearest;
   }
 
   bool tryCollapse(std::uint32_t a, std::uint32_t b) {
@@ -173,9 +94,30 @@ class Collapser {
     return {place, sum.at(place) + m_evenness * edge * edge * (sum.xx + sum.yy + sum.zz)};
   }
 
-  void propose(std::uint32_t a, std::uint32_t b) {
-    m_queue.push({static_cast<float>(placeFor(a, b).cost), a, b, m_stamps[a] + m_stamps[b]});
+  // A candidate's cost is brought up to date only when its turn comes: merging makes its surroundings dearer, so until
+  // then it could only have waited longer.
+  void collapseBest(std::size_t target) {
+    Candidate best;
+    while (m_left > target && m_queue.pop(best)) {
+      const std::uint32_t a = std::min(current(best.a), current(best.b));
+      const std::uint32_t b = std::max(current(best.a), current(best.b));
+      if (a == b) continue;
+      const std::uint32_t stamp = m_stamps[a] + m_stamps[b];
+      const float now = best.stamp == stamp ? 0 : cost(a, b);
+      if (m_queue.mustWait(now))
+        m_queue.push(now, {a, b, stamp});
+      else
+        tryCollapse(a, b);
+    }
   }
+
+  // The vertex that `v` has become.
+  std::uint32_t current(std::uint32_t v) {
+    while (m_became[v] != v) v = m_became[v] = m_became[m_became[v]];
+    return v;
+  }
+
+  float cost(std::uint32_t a, std::uint32_t b) const { return static_cast<float>(placeFor(a, b).cost); }
 
   // Two vertices may become one only when just the two triangles at their edge vanish by it.
   bool keepsClosed(std::uint32_t a, std::uint32_t b) {
@@ -192,7 +134,7 @@ class Collapser {
         ++shared;
       }
     }
-    return shared == 2 && m_around[a].size() + m_around[b].size() > 7;
+    return shared == 2 && m_around.count(a) + m_around.count(b) > 7;
   }
 
   bool turnsOver(std::uint32_t moved, std::uint32_t other, const Vec3& place) const {
@@ -227,40 +169,21 @@ class Collapser {
   void collapse(std::uint32_t a, std::uint32_t b, const Vec3& place) {
     m_surface.positions[a] = place;
     m_quadrics[a].add(m_quadrics[b]);
-    std::vector<std::uint32_t> around;
     for (const std::uint32_t t : m_around[a]) {
-      if (has(t, b))
-        m_alive[t] = 0;
-      else
-        around.push_back(t);
+      if (has(t, b)) m_alive[t] = 0;
     }
+    dropDead(a);
+    dropDead(b);
     for (const std::uint32_t t : m_around[b]) {
-      if (m_alive[t] == 0) continue;
       for (std::uint32_t& v : m_surface.triangles[t]) v = v == b ? a : v;
-      around.push_back(t);
     }
-    m_around[b].clear();
-    m_around[a] = std::move(around);
-    ++m_stamps[a];
-  }
-
-  void refreshAround(std::uint32_t a) {
-    ++m_mark;
-    m_marks[a] = m_mark;
-    for (const std::uint32_t t : m_around[a]) {
-      for (const std::uint32_t v : m_surface.triangles[t]) {
-        if (m_marks[v] == m_mark) continue;
-        m_marks[v] = m_mark;
-        dropDead(v);
-        propose(std::min(a, v), std::max(a, v));
-      }
-    }
+    m_around.join(a, b);
+    m_stamps[a] += m_stamps[b] + 1;
+    m_became[b] = a;
   }
 
   void dropDead(std::uint32_t v) {
-    auto& around = m_around[v];
-    around.erase(std::remove_if(around.begin(), around.end(), [this](std::uint32_t t) { return m_alive[t] == 0; }),
-                 around.end());
+    m_around.filter(v, [this](std::uint32_t t) { return m_alive[t] != 0; });
   }
 
   bool has(std::uint32_t t, std::uint32_t v) const {
@@ -290,19 +213,19 @@ class Collapser {
   double m_evenness;
   std::vector<Quadric> m_quadrics;
   std::vector<std::uint32_t> m_stamps;
-  std::vector<std::vector<std::uint32_t>> m_around;
+  std::vector<std::uint32_t> m_became;
+  TriangleFans m_around;
   std::vector<std::uint32_t> m_marks;
   std::uint32_t m_mark = 0;
   std::size_t m_left = 0;
   std::vector<char> m_alive;
-  std::priority_queue<Candidate> m_queue;
+  CostQueue<Candidate> m_queue;
 };
 
 }  // namespace
 
 void simplify(Surface& surface, const Simplification& how) {
   Collapser collapser(surface, how);
-  for (const double part : {0.35, 0.6, 0.85}) collapser.mergeNear(part * how.smallestEdge, how.triangles);
   collapser.run(how.triangles);
 }
 

@@ -8,7 +8,6 @@ namespace samples {
 
 struct Simplification {
   std::size_t triangles = 20000;  ///< how many are to be left, about
-  double smallestEdge = 0;        ///< centimetres; edges shorter than this go first, whatever they show
   double evenness = 1e-4;         ///< how much triangles are kept of one size, flat parts or not
   /// How much more a change at a place counts; null counts all alike.
   std::function<double(const Vec3&)> weight;

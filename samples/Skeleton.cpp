@@ -32,11 +32,12 @@ void Skeleton::poseTrunk() {
   const Vec3 offset = m_pose.pelvisOffset * legs;
   const double height = ankleHeight() + legs * m_pose.pelvisHeight + offset.z;
   m_pelvis = Frame::rotated(m_pose.pelvis, {offset.x, offset.y, height});
-  m_spine = joint(m_pelvis, restSpine() - restPelvis(), m_pose.spine);
-  m_chest = joint(m_spine, restChest() - restSpine(), m_pose.chest);
+  const double stoop = m_proportions.stoop;
+  m_spine = joint(m_pelvis, restSpine() - restPelvis(), m_pose.spine + Vec3{5, 0, 0} * stoop);
+  m_chest = joint(m_spine, restChest() - restSpine(), m_pose.chest + Vec3{9, 0, 0} * stoop);
   const double neckBack = 0.012 * stature();
-  m_neck = joint(m_chest, restNeck() - restChest(), m_pose.neck, neckBack);
-  m_head = joint(m_neck, restHead() - restNeck(), m_pose.head, -0.007 * stature());
+  m_neck = joint(m_chest, restNeck() - restChest(), m_pose.neck + Vec3{12, 0, 0} * stoop, neckBack);
+  m_head = joint(m_neck, restHead() - restNeck(), m_pose.head - Vec3{19, 0, 0} * stoop, -0.007 * stature());
 }
 
 void Skeleton::poseLeg(Side side) {
@@ -72,7 +73,7 @@ void Skeleton::poseArm(Side side) {
   limb.upperLength = 0.170 * stature();
   limb.lowerLength = 0.146 * stature();
 
-  const double halfWidth = m_proportions.between(0.096, 0.086) * stature();
+  const double halfWidth = m_proportions.between(0.096, 0.086) * m_proportions.shoulders * stature();
   const Vec3 shoulder = m_chest.point({s * halfWidth, 0.012 * stature(), 0.808 * stature() - restChest()});
   // Down along the bone is Z of a limb, so the hanging arm is the trunk turned half about Y of the body, X mirrored.
   const Frame hanging{{-1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {}};

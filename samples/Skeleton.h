@@ -34,7 +34,8 @@ class Skeleton {
 
   const Proportions& proportions() const { return m_proportions; }
   const Pose& pose() const { return m_pose; }
-  double stature() const { return m_proportions.stature; }
+  /// What the parts of the body are measured by: the stature, of a child less than that.
+  double stature() const { return m_proportions.bodyStature(); }
 
   /// Axes as the whole body's (Z up, facing -Y), origin at the joint.
   const Frame& pelvis() const { return m_pelvis; }
@@ -54,7 +55,7 @@ class Skeleton {
   double restSpine() const { return 0.60 * stature(); }
   double restChest() const { return 0.67 * stature(); }
   double restNeck() const { return stature() * 0.828; }
-  double restHead() const { return stature() - 0.80 * m_proportions.headHeight(); }
+  double restHead() const { return m_proportions.stature - 0.80 * m_proportions.headHeight(); }
   double ankleHeight() const { return 0.044 * stature(); }
   double handLength() const { return 0.104 * stature(); }
   double footLength() const { return 0.150 * stature(); }

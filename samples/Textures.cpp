@@ -151,6 +151,29 @@ QImage Textures::tweed(const QColor& base, const QColor& fleck) const {
   });
 }
 
+QImage Textures::quilt(const QColor& base) const {
+  const TileNoise creases(m_seed + 15, 48);
+  return paint([&](double u, double v) {
+    const double a = std::abs(std::sin(kPi * (u + v) * 3)), b = std::abs(std::sin(kPi * (u - v) * 3));
+    const double puff = std::sqrt(std::min(a, b));
+    return Tone(base).shaded(0.72 + 0.32 * puff + 0.05 * creases.at(u, v));
+  });
+}
+
+QImage Textures::felt() const {
+  const TileNoise patches(m_seed + 16, 20);
+  const TileNoise fibres(m_seed + 17, 128);
+  return paint(
+      [&](double u, double v) { return Tone().shaded(0.93 + 0.03 * patches.at(u, v) + 0.05 * fibres.at(u, v)); });
+}
+
+QImage Textures::bands(const std::vector<QColor>& colors) const {
+  return paint([&](double u, double v) {
+    const auto index = static_cast<std::size_t>(v * static_cast<double>(colors.size()));
+    return Tone(colors[std::min(index, colors.size() - 1)]).shaded(threads(u, v, 64));
+  });
+}
+
 QImage Textures::flowers(const QColor& base, const QColor& petal, const QColor& heart) const {
   struct Flower {
     double x;
@@ -258,6 +281,31 @@ Tone paintMouth(Tone tone, const FacePlace& p, const Textures::Face& face) {
   return tone.towards({0.30, 0.12, 0.12}, 0.7 * (1 - smoothStep(0.4, 1.2, seam)) * std::sqrt(open));
 }
 
+// Jaw, chin and upper lip; a thick beard has a clearer edge.
+Tone paintBeard(Tone tone, const FacePlace& p, double around, const Textures::Face& face) {
+  const double soft = mix(0.14, 0.05, face.beard);
+  const double cheek = 1 - smoothStep(0.24, 0.24 + soft, p.z - 0.42 * std::max(std::abs(p.x) - 0.10, 0.0));
+  const double ends = smoothStep(-0.05, 0.06, p.z) * (1 - smoothStep(0.19, 0.24, around));
+  const double strands = 0.85 + 0.15 * std::sin(260 * p.x + 30 * p.z);
+  return tone.towards(Tone(face.brows).shaded(strands), std::min(face.beard * 0.95, 0.92) * cheek * ends);
+}
+
+Tone paintAge(Tone tone, const FacePlace& p, const Textures::Face& face) {
+  const Tone crease = Tone(face.skin).shaded(0.72);
+  const auto line = [&](double distance, double thick) {
+    return 1 - smoothStep(0.3 * thick, thick, std::abs(distance));
+  };
+  const double x = std::abs(p.x);
+  const double fold = line(x - 0.075 - 0.22 * std::max(0.33 - p.z, 0.0), 0.008) * smoothStep(0.18, 0.22, p.z) *
+                      (1 - smoothStep(0.30, 0.34, p.z));
+  const double bag =
+      line(p.z - 0.452 + 0.5 * std::pow(x - 0.134, 2) * 8, 0.006) * (1 - smoothStep(0.05, 0.07, std::abs(x - 0.134)));
+  double brow = 0;
+  for (const double z : {0.640, 0.668, 0.694}) brow = std::max(brow, line(p.z - z - 0.006 * std::cos(14 * p.x), 0.006));
+  brow *= 1 - smoothStep(0.10, 0.18, x);
+  return tone.towards(crease, face.age * std::max({0.55 * fold, 0.45 * bag, 0.40 * brow}));
+}
+
 Tone paintFace(Tone tone, double u, double v, const Textures::Face& face) {
   const double height = (v - 0.5) / 0.5 * 1.2 - 0.1;
   // Around the head the face's surface is about 0.36 of a head's height away from the axis.
@@ -268,13 +316,17 @@ Tone paintFace(Tone tone, double u, double v, const Textures::Face& face) {
     const double cheek = ellipse(p, side * 0.19, 0.35, 0.10, 0.08);
     tone = tone.towards(blush, (face.lashes ? 0.45 : 0.25) * (1 - smoothStep(0.2, 1.2, cheek)));
   }
-  if (face.stubble) {
-    const double jaw = (1 - smoothStep(0.20, 0.34, p.z - 0.18 * std::abs(p.x))) * smoothStep(-0.05, 0.06, p.z) *
-                       (1 - smoothStep(0.16, 0.24, std::abs(u - 0.5)));
-    tone = tone.towards(Tone(face.brows), 0.13 * jaw);
-  }
+  if (face.age > 0) tone = paintAge(tone, p, face);
+  if (face.beard > 0) tone = paintBeard(tone, p, std::abs(u - 0.5), face);
   for (const double side : {-1.0, 1.0}) tone = paintBrow(paintEye(tone, p, side, face), p, side, face);
   return paintMouth(tone, p, face);
+}
+
+// Across nose and cheeks.
+double freckleAt(const TileNoise& spots, double u, double v) {
+  const double z = (v - 0.5) / 0.5 * 1.2 - 0.1;
+  const double across = 1 - smoothStep(0.05, 0.13, std::abs(z - 0.37));
+  return across * (1 - smoothStep(0.14, 0.20, std::abs(u - 0.5))) * smoothStep(0.45, 0.75, spots.at(u, v));
 }
 
 }  // namespace
@@ -282,11 +334,13 @@ Tone paintFace(Tone tone, double u, double v, const Textures::Face& face) {
 QImage Textures::skin(const Face& face) const {
   const TileNoise patches(m_seed + 13, 12);
   const TileNoise pores(m_seed + 14, 160);
+  const TileNoise spots(m_seed + 18, 110);
   const int size = m_size;
   Textures large(m_seed, size * 2);
   return large.paint([&](double u, double v) {
     Tone tone = Tone(face.skin).shaded(1 + 0.018 * patches.at(u, v) + 0.015 * pores.at(u, v));
     tone = tone.towards({0.80, 0.42, 0.36}, 0.03 + 0.03 * patches.at(u + 0.37, v));
+    if (v > 0.5 && face.freckles > 0) tone = tone.shaded(1 - 0.16 * face.freckles * freckleAt(spots, u, v));
     return v > 0.5 ? paintFace(tone, u, v, face) : tone;
   });
 }

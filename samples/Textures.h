@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QImage>
 #include <cstdint>
+#include <vector>
 
 namespace samples {
 
@@ -21,6 +22,11 @@ class Textures {
   QImage check(const QColor& base, const QColor& line, const QColor& second, int count) const;
   QImage dots(const QColor& base, const QColor& dot, int count, double radius) const;
   QImage tweed(const QColor& base, const QColor& fleck) const;
+  /// Puffed lozenges with a seam between them.
+  QImage quilt(const QColor& base) const;
+  QImage felt() const;
+  /// Upright bands of equal width; the tile repeats after the last.
+  QImage bands(const std::vector<QColor>& colors) const;
   QImage flowers(const QColor& base, const QColor& petal, const QColor& heart) const;
   QImage wood(const QColor& base) const;
   QImage straw(const QColor& base) const;
@@ -31,7 +37,9 @@ class Textures {
     QColor brows;
     QColor iris;
     bool lashes = false;
-    bool stubble = false;
+    double beard = 0;     ///< 0.1 a shadow, 1 a full beard in the colour of the brows
+    double freckles = 0;  ///< 0 none, 1 many
+    double age = 0;       ///< 1 lines around eyes and mouth
   };
   /// Upper half the head from ear to ear around, chin at a twelfth and crown at eleven twelfths; lower half the body.
   QImage skin(const Face& face) const;

@@ -42,10 +42,10 @@ Wrapped wrapLimb(const Limb& limb, Side side, const Vec3& p, double girth) {
 
 class Appender {
  public:
-  Appender(host::Mesh& mesh, const Surface& surface, const Field& field, const Unwrap& unwrap)
+  Appender(host::Mesh& mesh, const Surface& surface, const Field& field, double blur, const Unwrap& unwrap)
       : m_mesh(mesh), m_surface(surface), m_unwrap(unwrap) {
     m_normals.reserve(surface.positions.size());
-    for (const Vec3& position : surface.positions) m_normals.push_back(field.normal(position));
+    for (const Vec3& position : surface.positions) m_normals.push_back(field.slope(position, blur).normal);
   }
 
   void run(std::uint16_t materialId) {
@@ -173,9 +173,9 @@ Wrapped BoxUnwrap::wrap(int panel, const Vec3& p) const {
   }
 }
 
-void appendSurface(host::Mesh& mesh, const Surface& surface, const Field& field, const Unwrap& unwrap,
+void appendSurface(host::Mesh& mesh, const Surface& surface, const Field& field, double blur, const Unwrap& unwrap,
                    std::uint16_t materialId) {
-  Appender(mesh, surface, field, unwrap).run(materialId);
+  Appender(mesh, surface, field, blur, unwrap).run(materialId);
 }
 
 }  // namespace samples

@@ -61,8 +61,9 @@ class BoxUnwrap : public Unwrap {
   Wrapped wrap(int panel, const Vec3& place) const override;
 };
 
-/// Appends the surface with the field's smooth normals; vertices are doubled along seams only.
-void appendSurface(host::Mesh& mesh, const Surface& surface, const Field& field, const Unwrap& unwrap,
+/// Appends the surface with the field's smooth normals, to which shapes smaller than `blur` centimetres do not matter;
+/// vertices are doubled along seams only.
+void appendSurface(host::Mesh& mesh, const Surface& surface, const Field& field, double blur, const Unwrap& unwrap,
                    std::uint16_t materialId);
 
 }  // namespace samples

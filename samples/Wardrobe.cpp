@@ -13,38 +13,42 @@ Piece cloth(const BodyPtr& body, FieldPtr field, Kind kind, std::uint16_t materi
   detail.cell = 0.5;
   detail.triangles = triangles;
   const Vec3 collar = body->skeleton().neck().origin;
-  detail.weight = [collar](const Vec3& p) { return length(p - collar) < 15 ? 6.0 : 1.0; };
+  detail.weight = [collar](const Vec3& p) { return length(p - collar) < 15 ? 8.0 : 1.0; };
   return {std::move(field), std::make_shared<ClothUnwrap>(body, kind), materialId, detail};
 }
 
-std::vector<Piece> summerDress(const BodyPtr& body) {
-  TopCut top;
-  top.ease = 0.75;
-  top.sleeve = 0.36;
-  top.sleeveEase = 0.9;
-  top.hem = 0.60;
-  top.hemEase = 0;
-  top.collar = 0.812;
-  top.neckSlope = 0.30;
-  top.neckWidth = 4.5;
-  return {cloth(body, Garment(*body).dress(top, SkirtCut()), Kind::Dress, 0, 14000)};
+Piece upper(const BodyPtr& body, FieldPtr field, std::uint16_t materialId, std::size_t triangles = 4000) {
+  return cloth(body, std::move(field), Kind::Dress, materialId, triangles);
 }
 
-std::vector<Piece> casual(const BodyPtr& body) {
-  const Garment garment(*body);
-  TopCut top;
-  top.sleeve = 1.72;
-  top.collar = 0.822;
-  top.neckSlope = 0.35;
-  top.neckWidth = 2.2;
-  TrouserCut trousers;
-  trousers.hemRadius = 0.034;
-  return {cloth(body, garment.top(top), Kind::Top, 0, 9000),
-          cloth(body, garment.trousers(trousers), Kind::Trousers, 1, 8000)};
+Piece legs(const BodyPtr& body, const TrouserCut& cut, std::uint16_t materialId) {
+  return cloth(body, Garment(*body).trousers(cut), Kind::Trousers, materialId, 2900);
 }
 
-std::vector<Piece> suit(const BodyPtr& body) {
-  const Garment garment(*body);
+Piece trimming(FieldPtr field, std::uint16_t materialId, std::size_t triangles) {
+  MeshDetail detail;
+  detail.cell = 0.28;
+  detail.triangles = triangles;
+  return {std::move(field), std::make_shared<BoxUnwrap>(), materialId, detail};
+}
+
+TrouserCut slim() {
+  TrouserCut cut;
+  cut.hemRadius = 0.035;
+  return cut;
+}
+
+TrouserCut leggings() {
+  TrouserCut cut;
+  cut.ease = 0.35;
+  cut.thigh = -0.6;
+  cut.waist = 0.60;
+  cut.hemRadius = 0.020;
+  cut.hemAbove = 0.02;
+  return cut;
+}
+
+TopCut shirtCut() {
   TopCut shirt;
   shirt.ease = 0.6;
   shirt.sleeveEase = 0.7;
@@ -53,58 +57,224 @@ std::vector<Piece> suit(const BodyPtr& body) {
   shirt.hemEase = 0;
   shirt.collar = 0.856;
   shirt.neckWidth = 2.0;
+  return shirt;
+}
+
+TopCut jacketCut(double femininity) {
   TopCut jacket;
   jacket.ease = 1.5;
   jacket.sleeveEase = 1.5;
   jacket.sleeve = 1.87;
-  jacket.hem = 0.475;
+  jacket.hem = mix(0.475, 0.505, femininity);
   jacket.hemEase = 1.0;
-  jacket.openFrom = 0.655;
+  jacket.openFrom = mix(0.655, 0.640, femininity);
   jacket.lapel = 4.5;
+  jacket.overlap = 1.6;
   jacket.collar = 0.842;
   jacket.neckEase = 1.3;
   jacket.neckWidth = 3.0;
-  Piece coat = cloth(body, garment.top(jacket), Kind::Top, 0, 13000);
-  return {coat, cloth(body, garment.trousers(TrouserCut()), Kind::Trousers, 0, 7000),
-          cloth(body, garment.top(shirt), Kind::Top, 1, 6000),
-          cloth(body, garment.tie(shirt, 0.62), Kind::Top, 2, 900)};
+  return jacket;
+}
+
+std::vector<Piece> summerDress(const BodyPtr& body) {
+  TopCut top;
+  top.ease = 0.75;
+  top.sleeve = 0.36;
+  top.sleeveEase = 0.9;
+  top.sleeveFlare = 0.5;
+  top.hem = 0.60;
+  top.hemEase = 0;
+  top.collar = 0.812;
+  top.neckSlope = 0.30;
+  top.neckWidth = 4.5;
+  return {upper(body, Garment(*body).dress(top, SkirtCut()), 0, 6000)};
+}
+
+std::vector<Piece> casual(const BodyPtr& body) {
+  TopCut top;
+  top.ease = 1.1;
+  top.sleeveEase = 1.1;
+  top.sleeve = 1.80;
+  top.collar = 0.822;
+  top.neckSlope = 0.35;
+  top.neckWidth = 2.2;
+  top.rib = 4;
+  return {upper(body, Garment(*body).top(top), 0), legs(body, slim(), 1)};
+}
+
+std::vector<Piece> suit(const BodyPtr& body) {
+  const Garment garment(*body);
+  const TopCut shirt = shirtCut();
+  TopCut jacket = jacketCut(0);
+  return {upper(body, garment.top(jacket), 0, 5600), legs(body, TrouserCut(), 0),
+          upper(body, garment.top(shirt), 1, 1700), cloth(body, garment.tie(shirt, 0.62), Kind::Top, 2, 500),
+          trimming(garment.buttons(jacket, 0.2, 0.575, 0.635, 2, 0.85), 3, 200)};
+}
+
+std::vector<Piece> business(const BodyPtr& body) {
+  const Garment garment(*body);
+  TopCut blouse = shirtCut();
+  blouse.collar = 0.826;
+  blouse.neckSlope = 0.45;
+  blouse.neckWidth = 2.6;
+  blouse.sleeve = 1.9;
+  TopCut blazer = jacketCut(1);
+  blazer.ease = 1.2;
+  blazer.sleeveEase = 1.1;
+  blazer.lapel = 3.4;
+  SkirtCut skirt;
+  skirt.ease = 0.8;
+  skirt.flare = 1.0;
+  skirt.folds = 0;
+  skirt.length = 0.97;
+  return {upper(body, garment.top(blazer), 0, 5200), upper(body, garment.skirt(skirt), 0, 3200),
+          upper(body, garment.top(blouse), 1, 1700),
+          trimming(garment.buttons(blazer, 0.2, 0.585, 0.625, 2, 0.8), 2, 200)};
+}
+
+std::vector<Piece> blouseAndSkirt(const BodyPtr& body) {
+  const Garment garment(*body);
+  TopCut blouse;
+  blouse.ease = 0.9;
+  blouse.sleeve = 0.62;
+  blouse.sleeveEase = 1.1;
+  blouse.sleeveFlare = 0.6;
+  blouse.hem = 0.575;
+  blouse.hemEase = 0;
+  blouse.collar = 0.820;
+  blouse.neckSlope = 0.5;
+  blouse.neckWidth = 2.8;
+  SkirtCut skirt;
+  skirt.ease = 1.5;
+  skirt.waist = 0.618;
+  skirt.length = 1.04;
+  skirt.flare = 9;
+  skirt.folds = 1.0;
+  return {upper(body, garment.top(blouse), 0, 4200), upper(body, garment.skirt(skirt), 1, 5200)};
 }
 
 std::vector<Piece> hoodie(const BodyPtr& body) {
-  const Garment garment(*body);
   TopCut top;
   top.hood = true;
-  top.collar = 0.845;
+  top.collar = 0.842;
   top.neckSlope = 0.30;
   top.neckWidth = 3.0;
   top.neckEase = 1.2;
-  top.ease = 1.6;
+  top.ease = 1.7;
   top.sleeveEase = 1.5;
   top.sleeve = 1.92;
-  top.hemEase = 0.3;
+  top.hemEase = 0.5;
+  top.rib = 5;
   TrouserCut trousers;
   trousers.hemRadius = 0.041;
-  return {cloth(body, garment.top(top), Kind::Top, 0, 10000),
-          cloth(body, garment.trousers(trousers), Kind::Trousers, 1, 8000)};
+  return {upper(body, Garment(*body).top(top), 0, 5200), legs(body, trousers, 1)};
 }
 
 std::vector<Piece> coat(const BodyPtr& body) {
   const Garment garment(*body);
+  const double f = body->skeleton().proportions().femininity;
   TopCut top;
-  top.ease = 1.9;
-  top.sleeveEase = 1.7;
-  top.sleeve = 1.9;
+  top.ease = 2.2;
+  top.sleeveEase = 1.9;
+  top.sleeve = 1.93;
   top.hem = 0.60;
   top.hemEase = 0;
-  top.collar = 0.862;
-  top.neckEase = 1.8;
-  top.neckWidth = 3.5;
+  top.collar = 0.848;
+  top.neckEase = 1.9;
+  top.neckWidth = 3.2;
+  top.neckSlope = 0.5;
+  top.lapel = 5.0;
+  top.lapelThickness = 0.7;
+  top.overlap = 4.2;
   SkirtCut skirt;
-  skirt.ease = 1.9;
-  skirt.length = 1.12;
-  skirt.flare = 5;
+  skirt.ease = 2.2;
+  skirt.length = mix(0.98, 1.12, f);
+  skirt.flare = mix(3.5, 5.5, f);
   skirt.folds = 0;
-  return {cloth(body, garment.dress(top, skirt), Kind::Dress, 0, 14000)};
+  skirt.overlap = 4.2;
+  return {upper(body, garment.dress(top, skirt), 0, 6800), legs(body, f > 0.5 ? leggings() : TrouserCut(), 1),
+          trimming(garment.buttons(top, 2.4, 0.545, 0.735, 4, 1.15), 2, 400)};
+}
+
+std::vector<Piece> parka(const BodyPtr& body) {
+  const Garment garment(*body);
+  TopCut top;
+  top.ease = 2.5;
+  top.sleeveEase = 2.2;
+  top.sleeve = 1.95;
+  top.hem = 0.485;
+  top.hemEase = 0.6;
+  top.collar = 0.846;
+  top.neckSlope = 0.25;
+  top.neckEase = 2.0;
+  top.neckWidth = 3.2;
+  top.hood = true;
+  top.rib = 3;
+  return {upper(body, garment.top(top), 0, 5600), legs(body, slim(), 1), trimming(garment.zip(top, 0.50), 2, 700)};
+}
+
+std::vector<Piece> shirt(const BodyPtr& body) {
+  const Garment garment(*body);
+  TopCut top = shirtCut();
+  top.ease = 0.7;
+  top.hem = 0.55;
+  top.collar = 0.846;
+  top.openFrom = 0.775;
+  top.openSlope = 0.45;
+  top.lapel = 2.8;
+  top.lapelThickness = 0.45;
+  TrouserCut trousers = slim();
+  trousers.ease = 1.1;
+  trousers.hemRadius = 0.040;
+  return {upper(body, garment.top(top), 0), legs(body, trousers, 1), trimming(garment.belt(trousers), 2, 1200),
+          trimming(garment.buttons(top, 0, 0.625, 0.765, 5, 0.5), 2, 250)};
+}
+
+std::vector<Piece> tee(const BodyPtr& body, const TrouserCut& trousers, double ease, double sleeve) {
+  TopCut top;
+  top.ease = ease;
+  top.sleeve = sleeve;
+  top.sleeveEase = ease + 0.1;
+  top.sleeveFlare = ease > 0.6 ? 0.9 : 0.0;
+  top.hem = 0.515;
+  top.hemEase = ease > 0.6 ? 0.8 : 0.3;
+  top.collar = 0.826;
+  top.neckSlope = 0.38;
+  top.neckWidth = 1.8;
+  top.rib = 1.6;
+  return {upper(body, Garment(*body).top(top), 0, 4600), legs(body, trousers, 1)};
+}
+
+std::vector<Piece> teeAndShorts(const BodyPtr& body) {
+  TrouserCut shorts;
+  shorts.length = 0.82;
+  shorts.ease = 0.9;
+  shorts.thigh = 2.2;
+  shorts.hemRadius = 0.052;
+  shorts.hemAbove = 0;
+  return tee(body, shorts, 1.0, 0.66);
+}
+
+std::vector<Piece> cardigan(const BodyPtr& body) {
+  const Garment garment(*body);
+  TopCut top;
+  top.ease = 1.5;
+  top.sleeveEase = 1.4;
+  top.sleeve = 1.9;
+  top.hem = 0.50;
+  top.hemEase = 0.6;
+  top.collar = 0.838;
+  top.neckEase = 1.2;
+  top.neckWidth = 3.0;
+  top.openFrom = 0.69;
+  top.openSlope = 0.30;
+  top.lapel = 1.6;
+  top.lapelThickness = 0.3;
+  top.overlap = 1.2;
+  top.rib = 3.5;
+  TopCut below = shirtCut();
+  return {upper(body, garment.top(top), 0, 5000), legs(body, TrouserCut(), 1), upper(body, garment.top(below), 2, 1700),
+          trimming(garment.buttons(top, 0, 0.53, 0.675, 4, 0.75), 3, 320)};
 }
 
 }  // namespace
@@ -112,7 +282,8 @@ std::vector<Piece> coat(const BodyPtr& body) {
 std::vector<Piece> bodyPieces(const BodyPtr& body) {
   MeshDetail skin;
   skin.cell = 0.45;
-  skin.triangles = 21000;
+  skin.hollow = false;
+  skin.triangles = 14000;
   const Vec3 face = body->headShape().place(0, 0, 0.45);
   const Vec3 left = body->skeleton().arm(Side::Left).end.origin;
   const Vec3 right = body->skeleton().arm(Side::Right).end.origin;
@@ -122,7 +293,7 @@ std::vector<Piece> bodyPieces(const BodyPtr& body) {
   };
   MeshDetail hair;
   hair.cell = 0.45;
-  hair.triangles = 4000;
+  hair.triangles = 2600;
   return {{body, std::make_shared<SkinUnwrap>(body), 0, skin},
           {body->headShape().hair(), std::make_shared<SkinUnwrap>(body), 1, hair}};
 }
@@ -139,45 +310,24 @@ std::vector<Piece> outfitPieces(const BodyPtr& body, Outfit outfit) {
       return hoodie(body);
     case Outfit::Coat:
       return coat(body);
+    case Outfit::Business:
+      return business(body);
+    case Outfit::BlouseAndSkirt:
+      return blouseAndSkirt(body);
+    case Outfit::Shirt:
+      return shirt(body);
+    case Outfit::TeeAndTrousers:
+      return tee(body, slim(), 0.9, 0.62);
+    case Outfit::TeeAndShorts:
+      return teeAndShorts(body);
+    case Outfit::Sports:
+      return tee(body, leggings(), 0.5, 0.45);
+    case Outfit::Cardigan:
+      return cardigan(body);
+    case Outfit::Parka:
+      return parka(body);
   }
   return {};
-}
-
-std::vector<Piece> shoePieces(const BodyPtr& body, Footwear shoes) {
-  const Skeleton& skeleton = body->skeleton();
-  const double ankle = skeleton.ankleHeight();
-  std::vector<Piece> pieces;
-  for (const Side side : {Side::Left, Side::Right}) {
-    const Frame foot = skeleton.leg(side).end;
-    const Frame toes = skeleton.leg(side).toes;
-    const double ball = -skeleton.ballForward();
-    const auto overSole = [=](const Vec3& p) {
-      const Vec3 local = foot.local(p);
-      return mix(toes.local(p).z, local.z + ankle, smoothStep(ball - 2, ball + 2, local.y));
-    };
-    const FieldPtr grown = makeFoot(skeleton, side, shoes == Footwear::Ballerinas ? 0.35 : 0.55);
-    const FieldPtr sole = makeFoot(skeleton, side, shoes == Footwear::Ballerinas ? 0.45 : 0.95);
-    const double soleHeight = shoes == Footwear::Sneakers ? 2.2 : 1.1;
-    const auto upper = [=](const Vec3& p) {
-      const Vec3 local = foot.local(p);
-      // A low shoe is open over the instep, a laced one around the ankle.
-      const double top = shoes == Footwear::Ballerinas
-                             ? local.z + ankle - 4.6 + 0.22 * std::abs(local.y + 5)
-                             : local.z + 0.20 * local.y - (shoes == Footwear::Sneakers ? 1.2 : 0.2);
-      const double outside = std::max(smoothMax(grown->distance(p), top, 0.4), 0.35 - overSole(p));
-      return smoothMax(outside, -std::max({grown->distance(p) + 0.9, -top - 2.5, 0.9 - overSole(p)}), 0.2);
-    };
-    const auto bottom = [=](const Vec3& p) { return smoothMax(sole->distance(p), overSole(p) - soleHeight, 0.3); };
-    const auto unwrap = std::make_shared<BoxUnwrap>();
-    MeshDetail detail;
-    detail.cell = 0.45;
-    detail.triangles = 1800;
-    detail.evenness = 5e-4;
-    pieces.push_back({makeField(upper, grown->bounds()), unwrap, 0, detail});
-    detail.triangles = 700;
-    pieces.push_back({makeField(bottom, sole->bounds()), unwrap, 1, detail});
-  }
-  return pieces;
 }
 
 }  // namespace samples

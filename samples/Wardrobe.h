@@ -8,16 +8,26 @@
 
 namespace samples {
 
-enum class Outfit { SummerDress, Casual, Suit, Hoodie, Coat };
-enum class Footwear { Sneakers, Ballerinas, Oxfords };
+/// What can be worn, with its materials in the order of their ids.
+enum class Outfit {
+  SummerDress,     ///< dress
+  Casual,          ///< jumper, trousers
+  Suit,            ///< cloth, shirt, tie, buttons
+  Hoodie,          ///< hoodie, trousers
+  Coat,            ///< coat, trousers, buttons
+  Business,        ///< blazer and skirt, blouse, buttons
+  BlouseAndSkirt,  ///< blouse, skirt
+  Shirt,           ///< shirt, trousers, belt and buttons
+  TeeAndTrousers,  ///< T-shirt, trousers
+  TeeAndShorts,    ///< T-shirt, shorts
+  Sports,          ///< shirt, leggings
+  Cardigan,        ///< cardigan, trousers, shirt, buttons
+  Parka            ///< jacket, trousers, zip
+};
 
 /// Skin with material id 0, hair with 1.
 std::vector<Piece> bodyPieces(const std::shared_ptr<const ImplicitBody>& body);
 
-/// The dress has one material; casual clothes upper part and trousers; a suit cloth, shirt and tie.
 std::vector<Piece> outfitPieces(const std::shared_ptr<const ImplicitBody>& body, Outfit outfit);
-
-/// Both shoes: upper with material id 0, sole with 1.
-std::vector<Piece> shoePieces(const std::shared_ptr<const ImplicitBody>& body, Footwear shoes);
 
 }  // namespace samples

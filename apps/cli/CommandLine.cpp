@@ -44,6 +44,16 @@ Command addList(CLI::App& app) {
   return {command, [options] { return runList(options->repository, options->json); }};
 }
 
+void addCamera(CLI::App& command, CreateOptions& options) {
+  const auto add = [&](const char* name, std::optional<std::array<float, 3>>& place, const char* text) {
+    return command.add_option(name, place, text)->delimiter(',')->option_text("X,Y,Z");
+  };
+  CLI::Option* eye = add("--eye", options.eye, "From where the picture is taken, in scene units");
+  CLI::Option* target = add("--target", options.target, "What it looks at; everything is in the picture without both");
+  eye->needs(target);
+  target->needs(eye);
+}
+
 Command addCreate(CLI::App& app) {
   const auto options = std::make_shared<CreateOptions>();
   options->unit = UNITS_CENTIMETERS;
@@ -59,9 +69,12 @@ Command addCreate(CLI::App& app) {
       ->type_size(1)
       ->allow_extra_args(false);
   command->add_flag("--bare", options->bare, "No assets besides those given: not those that belong to the clothing");
-  command->add_option("--unit", options->unit, "System unit of the scene (centimeters unless given)")
-      ->transform(CLI::CheckedTransformer(UNITS, CLI::ignore_case))
-      ->option_text("UNIT");
+  CLI::Option* unit =
+      command->add_option("--unit", options->unit, "System unit of the scene (centimeters unless given)")
+          ->transform(CLI::CheckedTransformer(UNITS, CLI::ignore_case))
+          ->option_text("UNIT");
+  command->add_option("--into", options->into, "Build into this scene, a file that --json or the stage has written")
+      ->excludes(unit);
   command->add_option("--at", options->at, "Where the character stands, in scene units")
       ->delimiter(',')
       ->option_text("X,Y,Z");
@@ -69,6 +82,7 @@ Command addCreate(CLI::App& app) {
   command->add_option("--picture", options->picture, "Write a picture of the scene (PNG)");
   command->add_option("--width", options->width, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
   command->add_option("--height", options->height, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
+  addCamera(*command, *options);
   command->add_option("--gltf", options->gltf, "Write the scene as glTF binary (GLB)");
   command->add_option("--json", options->json, "Write the scene as JSON");
   return {command, [options] { return runCreate(*options); }};
@@ -78,7 +92,13 @@ Command addSample(CLI::App& app) {
   const auto options = std::make_shared<SampleCommandOptions>();
   CLI::App* command = app.add_subcommand("sample", "Write a sample repository that uses every feature");
   command->add_option("DIR", options->folder, "Folder to write; must be empty or not exist")->required();
+  command->add_option("--characters", options->characters, "How many people; after six they come again, varied")
+      ->check(CLI::Range(1, 1000))
+      ->option_text("N");
   command->add_option("--seed", options->seed, "Varies colours and patterns; the same seed writes the same files");
+  command
+      ->add_option("--contact-sheets", options->contactSheets, "Folder for one picture of all outfits and poses each")
+      ->option_text("FOLDER");
   command->add_flag("--force", options->force, "Write into a folder that is not empty");
   return {command, [options] { return runSample(*options); }};
 }

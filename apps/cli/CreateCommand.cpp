@@ -15,6 +15,7 @@
 #include "host/application/Listener.h"
 #include "host/application/Units.h"
 #include "host/export/GltfWriter.h"
+#include "host/export/SceneFile.h"
 #include "host/export/SceneJson.h"
 #include "host/files/Paths.h"
 #include "host/scene/Scene.h"
@@ -66,6 +67,13 @@ bool written(const std::filesystem::path& file, const std::string& error) {
   return error.empty();
 }
 
+Point3 pointOf(const std::array<float, 3>& numbers) { return {numbers[0], numbers[1], numbers[2]}; }
+
+host::Camera cameraFor(const CreateOptions& options, const Box3& bounds) {
+  if (options.eye && options.target) return {pointOf(*options.eye), pointOf(*options.target)};
+  return host::Camera::framing(bounds, static_cast<float>(options.width) / static_cast<float>(options.height));
+}
+
 std::string writePicture(const CreateOptions& options, std::vector<host::ViewItem> items) {
   host::RayScene rays;
   rays.setItems(std::move(items));
@@ -74,9 +82,7 @@ std::string writePicture(const CreateOptions& options, std::vector<host::ViewIte
   render.width = options.width;
   render.height = options.height;
   render.progress = [&progress](float done) { progress.report(done); };
-  const auto aspect = static_cast<float>(options.width) / static_cast<float>(options.height);
-  const host::Camera camera = host::Camera::framing(rays.bounds(), aspect);
-  return host::writePicture(host::render(rays, camera, render), options.picture);
+  return host::writePicture(host::render(rays, cameraFor(options, rays.bounds()), render), options.picture);
 }
 
 /// False when one of them could not be written.
@@ -92,19 +98,33 @@ bool writeFiles(const CreateOptions& options, std::vector<host::ViewItem> items)
   return good;
 }
 
-int build(const CreateOptions& options, Findings& findings) {
+/// False when the scene to build into cannot be read.
+bool prepareScene(const CreateOptions& options) {
   host::Application& application = host::Application::instance();
   application.reset();
   application.listener().clear();
-  application.units().set(options.unit, 1.0F);
   ZORVEL::LogStore::Clear();
+  if (options.into.empty()) {
+    application.units().set(options.unit, 1.0F);
+    return true;
+  }
+  const std::string error = host::openScene(options.into);
+  if (!error.empty()) complain(error);
+  return error.empty();
+}
+
+int build(const CreateOptions& options, Findings& findings) {
+  if (!prepareScene(options)) return EXIT_UNREADABLE;
+  host::Application& application = host::Application::instance();
+  const std::size_t nodesBefore = application.scene().nodes().size();
   INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter();
   if (parent == nullptr) {
     complain("nothing was built.");
     return EXIT_FINDINGS;
   }
-  placeByClicks(*parent, {options.at[0], options.at[1], options.at[2]}, options.turn);
-  std::cout << "Built " << host::toUtf8(parent->GetName()) << ", " << application.scene().nodes().size() << " nodes\n";
+  placeByClicks(*parent, pointOf(options.at), options.turn);
+  std::cout << "Built " << host::toUtf8(parent->GetName()) << ", " << application.scene().nodes().size() - nodesBefore
+            << " nodes\n";
   reportPieces(reportOf(ZORVEL::LogStore::Entries()), findings);
   // Reads every mesh and texture, so that those which cannot be read are named even when no file is asked for.
   std::vector<host::ViewItem> items = host::viewItems(application.scene());

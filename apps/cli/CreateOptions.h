@@ -20,8 +20,10 @@ struct CreateOptions {
   std::vector<std::string> assets;
   /// Leaves out what the clothing selects and required categories ask for.
   bool bare = false;
-  /// One of the UNITS_ constants.
+  /// One of the UNITS_ constants; of a new scene.
   int unit;
+  /// A scene file to build into; empty for a new scene.
+  std::filesystem::path into;
   /// Where it stands, in scene units, and how far it is turned about Z, in degrees.
   std::array<float, 3> at = {0.0F, 0.0F, 0.0F};
   float turn = 0.0F;
@@ -32,6 +34,9 @@ struct CreateOptions {
   /// Of the picture, in pixels.
   int width = 960;
   int height = 600;
+  /// From where to where the picture looks, in scene units; both or neither. Otherwise everything is in it.
+  std::optional<std::array<float, 3>> eye;
+  std::optional<std::array<float, 3>> target;
 };
 
 }  // namespace cli

@@ -4,6 +4,7 @@
 
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/Progress.h"
+#include "samples/Plaza.h"
 #include "samples/SampleRepository.h"
 
 namespace cli {
@@ -25,9 +26,12 @@ int runSample(const SampleCommandOptions& options) {
   }
   Progress progress("Writing the sample repository");
   samples::SampleOptions sample;
+  sample.characters = options.characters;
   sample.seed = options.seed;
-  const std::string error =
+  sample.contactSheets = options.contactSheets;
+  std::string error =
       samples::writeSampleRepository(options.folder, sample, [&progress](double done) { progress.report(done); });
+  if (error.empty()) error = samples::writePlaza(options.folder / "plaza.json");
   if (!error.empty()) {
     std::cerr << "zorvel sample: " << error << '\n';
     return EXIT_FINDINGS;

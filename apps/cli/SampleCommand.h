@@ -7,7 +7,9 @@ namespace cli {
 
 struct SampleCommandOptions {
   std::filesystem::path folder;
+  int characters = 6;
   std::uint64_t seed = 1;
+  std::filesystem::path contactSheets;
   bool force = false;
 };
 

@@ -8,6 +8,8 @@ int main(int argc, char** argv) {
   // Qt talks about run-time folders that nothing here uses; what matters to a person is reported by the commands
   // themselves.
   qputenv("QT_LOGGING_RULES", "default.warning=false");
-  const QGuiApplication application(argc, argv);
+  // The window system takes options out of what it is given, --style among them, which is ours.
+  int count = 1;
+  const QGuiApplication application(count, argv);
   return cli::run(argc, argv);
 }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+#include "samples/Piece.h"
+
+namespace samples {
+
+// Things that stand on the ground, the origin below their middle.
+
+/// The height of the handle's bar, which is 9 centimetres behind the middle.
+constexpr double kSuitcaseHandle = 94;
+/// The radius of the post between knees and head.
+constexpr double kLampPostRadius = 5;
+
+/// `height` is that of the seat.
+std::vector<Piece> stoolPieces(double height);
+std::vector<Piece> suitcasePieces();
+std::vector<Piece> benchPieces();
+std::vector<Piece> bicyclePieces();
+std::vector<Piece> lampPostPieces();
+
+}  // namespace samples
