@@ -175,6 +175,36 @@ TEST_F(CommandLine, PlacesTheGroupWhereItIsTold) {
   EXPECT_EQ(run({"create", root(), "--at", "1,2"}).status, cli::EXIT_USAGE);
 }
 
+TEST_F(CommandLine, BuildsIntoASceneThatIsThereAndTakesThePictureFromWhereItIsTold) {
+  writeTextures();
+  ASSERT_EQ(run({"create", root(), "--unit", "meters", "--json", file("one.json")}).status, cli::EXIT_CLEAN);
+  const Outcome outcome =
+      run({"create", root(), "--into", file("one.json"), "--at", "2,0,0", "--json", file("two.json"), "--picture",
+           file("near.png"), "--width", "32", "--height", "32", "--eye", "0,-9,1", "--target", "0,0,1"});
+  EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("Built ZORVEL Character Anna, 5 nodes"));
+  const Json scene = json("two.json");
+  EXPECT_EQ(scene["unit"]["type"], json("one.json")["unit"]["type"]);
+  ASSERT_EQ(scene["nodes"].size(), 2U);
+  EXPECT_EQ(scene["nodes"][0]["transform"][3], Json({0.0, 0.0, 0.0}));
+  EXPECT_EQ(scene["nodes"][1]["transform"][3], Json({2.0, 0.0, 0.0}));
+  run({"create", root(), "--into", file("one.json"), "--at", "2,0,0", "--picture", file("far.png"), "--width", "32",
+       "--height", "32", "--eye", "0,-90,1", "--target", "0,0,1"});
+  EXPECT_NE(out_.read("near.png"), out_.read("far.png"));
+
+  out_.write("torn.json", R"({"format": "zorvel-scene", "version": 1, "nodes": [)");
+  EXPECT_EQ(run({"create", root(), "--into", file("torn.json")}).status, cli::EXIT_UNREADABLE);
+  EXPECT_EQ(run({"create", root(), "--into", file("one.json"), "--unit", "meters"}).status, cli::EXIT_USAGE);
+  EXPECT_EQ(run({"create", root(), "--eye", "0,0,0"}).status, cli::EXIT_USAGE);
+}
+
+TEST_F(CommandLine, GivesEveryOptionToTheCommandWhenRunAsAProgram) {
+  // The toolkit knows some of them too and would take them for itself.
+  const std::string call = std::string(ZORVEL_PROGRAM) + " create '" + root() + "' --style unheard 2> '";
+  EXPECT_NE(std::system((call + file("err.txt") + "'").c_str()), 0);
+  EXPECT_THAT(out_.read("err.txt"), HasSubstr("\"unheard\""));
+}
+
 /// Decimal commas and grouped thousands, whatever locales the machine has.
 class CommaPunctuation : public std::numpunct<char> {
   char do_decimal_point() const override { return ','; }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QScrollBar>
+#include <QWheelEvent>
 #include <QtTest/QtTest>
 
 #include "tests/ui/WindowTest.h"
@@ -60,6 +61,20 @@ TEST_F(ClothingStrip, BreaksIntoRowsWhereTheWidthEnds) {
   EXPECT_EQ(places().mid(0, 3), (QList<QPoint>{{15, 15}, {140, 15}, {15, 360}}));
   EXPECT_EQ(places().back(), QPoint(15, 1050));
   EXPECT_GT(strip().verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(ClothingStrip, TheWheelScrollsWhatIsUnderThePointerWhateverHasTheKeyboard) {
+  open();
+  clickNode(node("Ben"));
+  window().SetSize(525, 500);
+  settle();
+  ASSERT_TRUE(tree().hasFocus());
+  const QPointF at = strip().viewport()->mapTo(&window(), QPoint(60, 100));
+  QWheelEvent turned(at, window().mapToGlobal(at.toPoint()), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+  QSpontaneKeyEvent::setSpontaneous(&turned);
+  qApp->notify(window().windowHandle(), &turned);
+  EXPECT_GT(strip().GetScrollPosition().y(), 0);
 }
 
 TEST_F(ClothingStrip, AClickChoosesTheClothingWhetherItIsThereOrNot) {
