@@ -33,6 +33,10 @@ void choose(guide::WindowDriver& driver) {
   driver.showTab("Accessories");
   driver.tick("Glasses : Reading");
   driver.takeWindow("multiple");
+  for (const char* page : {"In the Hand", "Bags", "Headwear", "Around"}) {
+    driver.showTab(page);
+    driver.takeWindow(QString(page).toLower().replace(' ', '-'));
+  }
 }
 
 void place(guide::WindowDriver& driver) {
