@@ -27,8 +27,9 @@ QWidget* hostWindow() {
 
 }  // namespace
 
+// A dialog floats above its parent on every desktop, other windows only on Windows.
 MaxForm::MaxForm()
-    : QWidget(hostWindow(), Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+    : QWidget(hostWindow(), Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint) {
   // Places and sizes are given for this size of text.
   QFont small = font();

@@ -17,7 +17,6 @@ int main(int argc, char** argv) try {
   // 150 % is 150 %.
   QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   QApplication application(argc, argv);
-  QApplication::setApplicationDisplayName("Zorvel Stage");
   stage::applyDarkTheme(application);
   stage::Stage run(*parsed.options);
   return run.run();
