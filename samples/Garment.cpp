@@ -4,17 +4,16 @@ namespace samples {
 namespace {
 
 constexpr std::array<Side, 2> kSides = {Side::Left, Side::Right};
-constexpr double kWall = 1.1;
+constexpr double kWall = 1.3;
 // A depth for `openAt` that leaves no hollow.
 constexpr double kSolid = -2;
 
 // Cuts the cloth where `cut` is positive, and hollows it so far from there that nobody sees the bottom.
 double openAt(double cloth, double cut, double depth) {
   const double hollow = std::max(cloth + kWall, -(cut + depth));
-  return smoothMax(smoothMax(cloth, cut, 0.5), -hollow, 0.3);
+  return smoothMax(smoothMax(cloth, cut, 1.0), -hollow, 0.4);
 }
 
-// What ends above the hips is hidden by what is worn below, so it needs no opening.
 bool tuckedIn(const TopCut& cut) { return cut.hem > 0.54; }
 
 // Positive nearer to the lower bone than to the upper one: what ends on the upper half leaves a bent limb's lower half
@@ -27,12 +26,14 @@ double onLowerHalf(const Limb& limb, const Vec3& p) {
 }
 
 // A thicker band of that height where the cloth ends.
-double ribAt(double cut, double height) { return height > 0 ? 0.22 * smoothStep(-height, -height + 0.5, cut) : 0.0; }
+double ribAt(double cut, double height) {
+  return height > 0 ? 0.25 * smoothStep(-height - 0.3, -height + 1.0, cut) : 0.0;
+}
 
 // The right front lies over the left one and fades towards the side.
 double overlapAt(const Vec3& straight, double overlap) {
   if (overlap < 0 || straight.y > 0) return 0;
-  return 0.38 * smoothStep(-16, -4, straight.x) * (1 - smoothStep(overlap - 0.25, overlap + 0.25, straight.x));
+  return 0.38 * smoothStep(-16, -4, straight.x) * (1 - smoothStep(overlap - 0.4, overlap + 0.4, straight.x));
 }
 
 }  // namespace
@@ -61,7 +62,8 @@ Garment::Distance Garment::trunkCloth(const TopCut& cut) const {
     if (d > 30) return d;
     const Vec3 straight = lap->straight(p);
     const double loose = cut.hemEase * (1 - smoothStep(cut.hem * s, 0.66 * s, straight.z));
-    if (!tuckedIn(cut) || cut.hem >= 0.60) d = smoothMin(d, lap->hull(p, cut.ease, 0, 0), 3.5);
+    const double lift = body->skeleton().pose().seated ? 1.6 : 0.0;
+    if (!tuckedIn(cut) || cut.hem >= 0.60) d = smoothMin(d, lap->hull(p, cut.ease + lift, 0, 0), 3.5);
     d -= loose + overlapAt(straight, cut.overlap);
     return smoothMin(d, body->neckDistance(p) - cut.neckEase, 2.0);
   };
@@ -128,24 +130,27 @@ FieldPtr Garment::top(const TopCut& cut) const {
   const auto right = sleeves(cut, Side::Right);
   const auto roll = hood(cut);
   const auto away = hands(cut.sleeve <= 1.2);
-  return make([body = m_body, lap = m_lap, cut, trunk, neckline, left, right, roll, away](const Vec3& p) {
-    const double s = body->skeleton().stature();
-    double d = trunk(p);
-    if (d < 25) {
-      const double opening = neckline(p);
-      const double hem = (cut.hem * s - lap->straight(p).z) / lap->stretch();
-      if (cut.lapel > 0) d -= cut.lapelThickness * smoothStep(-cut.lapel, -cut.lapel + 0.8, opening);
-      d -= std::max(ribAt(opening, 0.6 * cut.rib), ribAt(hem, cut.rib));
-      d = smoothMax(openAt(d, hem, tuckedIn(cut) ? kSolid : 3.0), away(p), 0.8);
-    }
-    if (cut.sleeve > 0) {
-      d = body->joinArm(d, left(p), Side::Left, p);
-      d = body->joinArm(d, right(p), Side::Right, p);
-    }
-    if (d > 20) return d;
-    d = smoothMax(d, neckline(p), 0.4);
-    return roll ? smoothMin(d, roll(p), 1.2) : d;
-  });
+  // What ends above the hips is hidden by what is worn below, and a lap closes what lies on it.
+  const bool isFilled = tuckedIn(cut) || m_body->skeleton().pose().seated;
+  return make(
+      [body = m_body, cut, isFilled, trunk, neckline, below = hem(cut), left, right, roll, away](const Vec3& p) {
+        double d = trunk(p);
+        const bool onTrunk = d < 25;
+        const double opening = onTrunk ? neckline(p) : 0;
+        if (onTrunk) {
+          const double hem = below(p);
+          if (cut.lapel > 0) d -= cut.lapelThickness * smoothStep(-cut.lapel, -cut.lapel + 0.8, opening);
+          d -= std::max(ribAt(opening, 0.6 * cut.rib), ribAt(hem, cut.rib));
+          d = smoothMax(openAt(d, hem, isFilled ? kSolid : 3.0), away(p), 0.8);
+        }
+        if (cut.sleeve > 0) {
+          d = body->joinArm(d, left(p), Side::Left, p);
+          d = body->joinArm(d, right(p), Side::Right, p);
+        }
+        if (d > 20) return d;
+        d = smoothMax(d, onTrunk ? opening : neckline(p), cut.lapel > 0 ? 0.4 : 1.4);
+        return roll ? smoothMin(d, roll(p), 1.2) : d;
+      });
 }
 
 FieldPtr Garment::trousers(const TrouserCut& cut) const {
@@ -156,7 +161,7 @@ FieldPtr Garment::trousers(const TrouserCut& cut) const {
     auto blob = std::make_shared<BlobField>();
     const double knee = mix(0.036, cut.hemRadius, cut.length < 2 ? 1.0 : 0.4) * s;
     blob->addCone(leg.upper.point({0, 0, 0.02 * s}), 0.050 * s + cut.thigh, leg.lower.origin, knee, 0);
-    blob->addCone(leg.lower.origin, knee, leg.lower.point({0, 0, leg.lowerLength + 4}), cut.hemRadius * s, 0.02 * s);
+    blob->addCone(leg.lower.origin, knee, leg.lower.point({0, 0, leg.lowerLength + 4}), cut.hemRadius * s, 0.006 * s);
     legs[static_cast<std::size_t>(side)] = blob;
   }
   return make([body = m_body, cut, legs, away = hands(true)](const Vec3& p) {
@@ -195,15 +200,20 @@ Garment::Distance Garment::skirtCloth(const SkirtCut& cut) const {
   };
 }
 
-Garment::Distance Garment::skirtHem(const SkirtCut& cut) const {
+Garment::Distance Garment::hem(const TopCut& cut) const {
+  const double height = cut.hem * m_body->skeleton().stature();
+  return [lap = m_lap, height](const Vec3& p) { return (height - lap->straight(p).z) / lap->stretch(); };
+}
+
+Garment::Distance Garment::hem(const SkirtCut& cut) const {
   // Beyond the knees a seated lap has nothing to lie on.
   const double length = m_body->skeleton().pose().seated ? std::min(cut.length, 1.0) : cut.length;
   return [lap = m_lap, length](const Vec3& p) { return lap->beyond(p, length); };
 }
 
 FieldPtr Garment::skirt(const SkirtCut& cut) const {
-  return make([cloth = skirtCloth(cut), hem = skirtHem(cut), away = hands(true)](const Vec3& p) {
-    const double d = openAt(cloth(p), hem(p), 5.0);
+  return make([cloth = skirtCloth(cut), below = hem(cut), away = hands(true)](const Vec3& p) {
+    const double d = openAt(cloth(p), below(p), 5.0);
     return d > 3 ? d : smoothMax(d, away(p), 0.8);
   });
 }
@@ -233,9 +243,9 @@ FieldPtr Garment::tie(const TopCut& shirt, double until) const {
 FieldPtr Garment::belt(const TrouserCut& trousers) const {
   return make([body = m_body, trousers](const Vec3& p) {
     const double s = body->skeleton().stature();
-    const double height = std::abs(body->skeleton().toRest(p).z - (trousers.waist - 0.011) * s) - 0.010 * s;
+    const double height = std::abs(body->skeleton().toRest(p).z - (trousers.waist - 0.006) * s) - 0.010 * s;
     const double d = body->trunkDistance(p) - trousers.ease;
-    return smoothMax(smoothMax(d - 0.3, height, 0.3), -d - 1.2, 0.3);
+    return smoothMax(smoothMax(d - 0.35, height, 0.6), -d - 1.2, 0.3);
   });
 }
 

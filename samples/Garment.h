@@ -51,6 +51,8 @@ struct SkirtCut {
 /// openings as far as one can look in; it gives way to bare arms and hands.
 class Garment {
  public:
+  using Distance = std::function<double(const Vec3&)>;
+
   explicit Garment(const ImplicitBody& body);
 
   FieldPtr top(const TopCut& cut) const;
@@ -63,18 +65,18 @@ class Garment {
   FieldPtr belt(const TrouserCut& trousers) const;
   /// A row of buttons down the front of the top, `aside` centimetres from its middle, between two heights.
   FieldPtr buttons(const TopCut& cut, double aside, double from, double to, int count, double radius) const;
+  /// How far below the hem a place lies; less than 0 above it.
+  Distance hem(const TopCut& cut) const;
+  Distance hem(const SkirtCut& cut) const;
   /// A zip fastener down to the height `until`.
   FieldPtr zip(const TopCut& cut, double until) const;
 
  private:
-  using Distance = std::function<double(const Vec3&)>;
-
   Distance trunkCloth(const TopCut& cut) const;
   Distance sleeves(const TopCut& cut, Side side) const;
   Distance necklineCut(const TopCut& cut) const;
   Distance hood(const TopCut& cut) const;
   Distance skirtCloth(const SkirtCut& cut) const;
-  Distance skirtHem(const SkirtCut& cut) const;
   /// Positive near hands, and near forearms when they are bare.
   Distance hands(bool bareArms) const;
   FieldPtr make(Distance distance) const;

@@ -9,8 +9,8 @@ Lap::Lap(const Skeleton& skeleton) : m_skeleton(skeleton), m_frame(skeleton.lap(
   const Limb& right = skeleton.leg(Side::Right);
   m_knees = m_frame.local((left.lower.origin + right.lower.origin) * 0.5).z;
   m_hips = skeleton.restPelvis() - 0.018 * skeleton.stature();
-  const double bent = std::acos(std::clamp(-dot(m_frame.z, skeleton.pelvis().z), -1.0, 1.0));
-  m_crease = 2 * std::tan(0.5 * bent);
+  const Vec3& up = skeleton.pelvis().z;
+  m_crease = Vec3{dot(m_frame.x, up), dot(m_frame.y, up), 0} * (-2 / (1 - dot(m_frame.z, up)));
   const Proportions& body = skeleton.proportions();
   m_thick = 0.97 + 0.06 * body.muscle + 0.05 * body.fullness;
 }
@@ -21,7 +21,7 @@ Vec3 Lap::straight(const Vec3& p) const {
   const double hangs = smoothStep(-6, 6, local.z - above);
   const Vec3 rest = m_skeleton.toRest(p);
   if (hangs <= 0) return rest;
-  return mix(rest, Vec3{-local.x, local.y, m_hips - local.z - m_crease * local.y}, hangs);
+  return mix(rest, Vec3{-local.x, local.y, m_hips - local.z - dot(m_crease, local)}, hangs);
 }
 
 double Lap::hull(const Vec3& p, double ease, double flare, double folds) const {

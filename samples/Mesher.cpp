@@ -10,6 +10,9 @@
 namespace samples {
 namespace {
 
+// How near a cut may come to a sample, in parts of the way to the next.
+constexpr double kLeast = 0.03;
+
 // Joins the places where the surface cuts the lines between neighbouring samples.
 class Cutter {
  public:
@@ -96,7 +99,8 @@ class Cutter {
     return {a, b, found->second};
   }
 
-  // One more sample brings the place much nearer to the surface than straight interpolation does.
+  // One more sample brings the place much nearer to the surface than straight interpolation does. It keeps away from
+  // the samples, where the cuts of several lines would make triangles too small for a file's precision.
   Vec3 crossing(std::uint32_t a, std::uint32_t b) const {
     double from = 0, to = 1;
     double valueFrom = static_cast<double>(m_tree.value(a)), valueTo = static_cast<double>(m_tree.value(b));
@@ -106,7 +110,7 @@ class Cutter {
     const bool isFar = (value < 0) == (valueFrom < 0);
     (isFar ? from : to) = t;
     (isFar ? valueFrom : valueTo) = value;
-    return mix(m_tree.centre(a), m_tree.centre(b), guess());
+    return mix(m_tree.centre(a), m_tree.centre(b), std::clamp(guess(), kLeast, 1 - kLeast));
   }
 
   const Field& m_field;

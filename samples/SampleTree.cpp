@@ -93,7 +93,8 @@ bool SampleTree::isStraight(std::uint32_t index, double size) const {
   const double yz = (v[0] + v[1] - v[2] - v[3] - v[4] - v[5] + v[6] + v[7]) / 8;
   const double bend =
       std::max({std::abs(mean - static_cast<double>(cube.value)), std::abs(xy), std::abs(xz), std::abs(yz)});
-  if (bend * (m_sizes.weight ? m_sizes.weight(cube.centre) : 1.0) > m_sizes.flatness) return false;
+  if (bend > m_sizes.flatness) return false;
+  if (m_sizes.weight && bend * m_sizes.weight(cube.centre) > m_sizes.flatness) return false;
   const Vec3 slope{v[1] + v[3] + v[5] + v[7] - v[0] - v[2] - v[4] - v[6],
                    v[2] + v[3] + v[6] + v[7] - v[0] - v[1] - v[4] - v[5],
                    v[4] + v[5] + v[6] + v[7] - v[0] - v[1] - v[2] - v[3]};

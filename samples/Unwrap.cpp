@@ -13,23 +13,15 @@ constexpr int kRightArm = 3;
 constexpr int kLeftLeg = 4;
 constexpr int kRightLeg = 5;
 
+// On both sides of the plane that halves a bent joint the cloth is drawn together outside and apart inside, so that the
+// lengths along both bones meet there.
 Vec3 alongLimb(const Limb& limb, const Vec3& p) {
-  const Vec3 upper = limb.upper.local(p);
-  const Vec3 lower = limb.lower.local(p);
-  return mix(upper, lower + Vec3{0, 0, limb.upperLength}, smoothStep(-5, 5, lower.z));
-}
-
-// The trunk down to the skirt's hem, bent straight. The crease between belly and thighs halves their angle; the lengths
-// on both its sides are such that they meet there.
-Vec3 alongSkirt(const Skeleton& skeleton, const Vec3& p) {
-  const Frame lap = skeleton.lap();
-  const Vec3 local = lap.local(p);
-  const double bent = std::acos(std::clamp(-dot(lap.z, skeleton.pelvis().z), -1.0, 1.0));
-  const double hips = skeleton.restPelvis() - 0.018 * skeleton.stature();
-  const double shift = 2 * local.y * std::tan(0.5 * bent);
-  const Vec3 hanging{-local.x, local.y, hips - local.z - shift};
-  const double above = skeleton.pelvis().local(p).z + 0.018 * skeleton.stature();
-  return mix(skeleton.toRest(p), hanging, smoothStep(-6, 6, local.z - above));
+  const Vec3 fromJoint = p - limb.joint();
+  const double beyond = dot(fromJoint, normalized(limb.upper.z + limb.lower.z));
+  const double drawn = 0.5 * dot(fromJoint, limb.upper.z - limb.lower.z) * (1 - smoothStep(0, 12, std::abs(beyond)));
+  const Vec3 upper = limb.upper.local(p) - Vec3{0, 0, drawn};
+  const Vec3 lower = limb.lower.local(p) + Vec3{0, 0, limb.upperLength + drawn};
+  return mix(upper, lower, smoothStep(-3, 3, beyond));
 }
 
 Wrapped around(double x, double y, double along, double girth) { return {std::atan2(x, y) / (2 * kPi), along, girth}; }
@@ -95,6 +87,9 @@ host::TexCoord Unwrap::coordinates(int, const Wrapped& wrapped) const {
   return {static_cast<float>(across / kTile), static_cast<float>(wrapped.length / kTile)};
 }
 
+ClothUnwrap::ClothUnwrap(std::shared_ptr<const ImplicitBody> body, Kind kind)
+    : m_body(std::move(body)), m_lap(m_body->skeleton()), m_kind(kind) {}
+
 int ClothUnwrap::panel(const Vec3& place, const Vec3&) const {
   if (m_kind == Kind::Trousers) {
     const Skeleton& skeleton = m_body->skeleton();
@@ -126,7 +121,7 @@ Wrapped ClothUnwrap::wrap(int panel, const Vec3& p) const {
     default:
       break;
   }
-  const Vec3 rest = m_kind == Kind::Dress ? alongSkirt(skeleton, p) : skeleton.toRest(p);
+  const Vec3 rest = m_kind == Kind::Dress ? m_lap.straight(p) : skeleton.toRest(p);
   return around(rest.x, -rest.y, rest.z, 100);
 }
 

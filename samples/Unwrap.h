@@ -3,6 +3,7 @@
 #include "host/meshes/Mesh.h"
 #include "samples/Field.h"
 #include "samples/ImplicitBody.h"
+#include "samples/Lap.h"
 #include "samples/Surface.h"
 
 namespace samples {
@@ -32,12 +33,13 @@ class Unwrap {
 class ClothUnwrap : public Unwrap {
  public:
   enum class Kind { Top, Trousers, Dress };
-  ClothUnwrap(std::shared_ptr<const ImplicitBody> body, Kind kind) : m_body(std::move(body)), m_kind(kind) {}
+  ClothUnwrap(std::shared_ptr<const ImplicitBody> body, Kind kind);
   int panel(const Vec3& place, const Vec3& normal) const override;
   Wrapped wrap(int panel, const Vec3& place) const override;
 
  private:
   std::shared_ptr<const ImplicitBody> m_body;
+  Lap m_lap;
   Kind m_kind;
 };
 

@@ -8,17 +8,40 @@ namespace {
 using BodyPtr = std::shared_ptr<const ImplicitBody>;
 using Kind = ClothUnwrap::Kind;
 
-Piece cloth(const BodyPtr& body, FieldPtr field, Kind kind, std::uint16_t materialId, std::size_t triangles) {
+Piece cloth(const BodyPtr& body, FieldPtr field, Kind kind, std::uint16_t materialId, std::size_t triangles,
+            const Garment::Distance& hem = {}) {
   MeshDetail detail;
   detail.cell = 0.5;
   detail.triangles = triangles;
   const Vec3 collar = body->skeleton().neck().origin;
-  detail.weight = [collar](const Vec3& p) { return length(p - collar) < 15 ? 8.0 : 1.0; };
+  // Collars and hems are looked at, and end with an edge.
+  detail.weight = [collar, hem](const Vec3& p) {
+    if (length(p - collar) < 15) return 8.0;
+    return hem && std::abs(hem(p)) < 1.5 ? 4.0 : 1.0;
+  };
   return {std::move(field), std::make_shared<ClothUnwrap>(body, kind), materialId, detail};
 }
 
-Piece upper(const BodyPtr& body, FieldPtr field, std::uint16_t materialId, std::size_t triangles = 4000) {
-  return cloth(body, std::move(field), Kind::Dress, materialId, triangles);
+Piece topPiece(const BodyPtr& body, const TopCut& cut, std::uint16_t materialId, std::size_t triangles = 4600) {
+  const Garment garment(*body);
+  return cloth(body, garment.top(cut), Kind::Dress, materialId, triangles, garment.hem(cut));
+}
+
+Piece skirtPiece(const BodyPtr& body, const SkirtCut& cut, std::uint16_t materialId, std::size_t triangles) {
+  const Garment garment(*body);
+  return cloth(body, garment.skirt(cut), Kind::Dress, materialId, triangles, garment.hem(cut));
+}
+
+Piece dressPiece(const BodyPtr& body, const TopCut& upper, const SkirtCut& lower, std::size_t triangles) {
+  const Garment garment(*body);
+  return cloth(body, garment.dress(upper, lower), Kind::Dress, 0, triangles, garment.hem(lower));
+}
+
+// What shows only at the neck and the cuffs.
+Piece underTop(const BodyPtr& body, TopCut cut, std::uint16_t materialId) {
+  cut.sleeveEase = 0.4;
+  cut.sleeveFlare = 0.3;
+  return cloth(body, Garment(*body).top(cut), Kind::Dress, materialId, 1700);
 }
 
 Piece legs(const BodyPtr& body, const TrouserCut& cut, std::uint16_t materialId) {
@@ -40,7 +63,7 @@ TrouserCut slim() {
 
 TrouserCut leggings() {
   TrouserCut cut;
-  cut.ease = 0.35;
+  cut.ease = 0.5;
   cut.thigh = -0.6;
   cut.waist = 0.60;
   cut.hemRadius = 0.020;
@@ -87,7 +110,7 @@ std::vector<Piece> summerDress(const BodyPtr& body) {
   top.collar = 0.812;
   top.neckSlope = 0.30;
   top.neckWidth = 4.5;
-  return {upper(body, Garment(*body).dress(top, SkirtCut()), 0, 6000)};
+  return {dressPiece(body, top, SkirtCut(), 6800)};
 }
 
 std::vector<Piece> casual(const BodyPtr& body) {
@@ -99,15 +122,15 @@ std::vector<Piece> casual(const BodyPtr& body) {
   top.neckSlope = 0.35;
   top.neckWidth = 2.2;
   top.rib = 4;
-  return {upper(body, Garment(*body).top(top), 0), legs(body, slim(), 1)};
+  return {topPiece(body, top, 0), legs(body, slim(), 1)};
 }
 
 std::vector<Piece> suit(const BodyPtr& body) {
   const Garment garment(*body);
   const TopCut shirt = shirtCut();
   TopCut jacket = jacketCut(0);
-  return {upper(body, garment.top(jacket), 0, 5600), legs(body, TrouserCut(), 0),
-          upper(body, garment.top(shirt), 1, 1700), cloth(body, garment.tie(shirt, 0.62), Kind::Top, 2, 500),
+  return {topPiece(body, jacket, 0, 6400), legs(body, TrouserCut(), 0), underTop(body, shirt, 1),
+          cloth(body, garment.tie(shirt, 0.62), Kind::Top, 2, 500),
           trimming(garment.buttons(jacket, 0.2, 0.575, 0.635, 2, 0.85), 3, 200)};
 }
 
@@ -127,8 +150,7 @@ std::vector<Piece> business(const BodyPtr& body) {
   skirt.flare = 1.0;
   skirt.folds = 0;
   skirt.length = 0.97;
-  return {upper(body, garment.top(blazer), 0, 5200), upper(body, garment.skirt(skirt), 0, 3200),
-          upper(body, garment.top(blouse), 1, 1700),
+  return {topPiece(body, blazer, 0, 6000), skirtPiece(body, skirt, 0, 3600), underTop(body, blouse, 1),
           trimming(garment.buttons(blazer, 0.2, 0.585, 0.625, 2, 0.8), 2, 200)};
 }
 
@@ -150,7 +172,7 @@ std::vector<Piece> blouseAndSkirt(const BodyPtr& body) {
   skirt.length = 1.04;
   skirt.flare = 9;
   skirt.folds = 1.0;
-  return {upper(body, garment.top(blouse), 0, 4200), upper(body, garment.skirt(skirt), 1, 5200)};
+  return {topPiece(body, blouse, 0, 4800), skirtPiece(body, skirt, 1, 5800)};
 }
 
 std::vector<Piece> hoodie(const BodyPtr& body) {
@@ -167,7 +189,7 @@ std::vector<Piece> hoodie(const BodyPtr& body) {
   top.rib = 5;
   TrouserCut trousers;
   trousers.hemRadius = 0.041;
-  return {upper(body, Garment(*body).top(top), 0, 5200), legs(body, trousers, 1)};
+  return {topPiece(body, top, 0, 6000), legs(body, trousers, 1)};
 }
 
 std::vector<Piece> coat(const BodyPtr& body) {
@@ -192,7 +214,7 @@ std::vector<Piece> coat(const BodyPtr& body) {
   skirt.flare = mix(3.5, 5.5, f);
   skirt.folds = 0;
   skirt.overlap = 4.2;
-  return {upper(body, garment.dress(top, skirt), 0, 6800), legs(body, f > 0.5 ? leggings() : TrouserCut(), 1),
+  return {dressPiece(body, top, skirt, 7800), legs(body, f > 0.5 ? leggings() : TrouserCut(), 1),
           trimming(garment.buttons(top, 2.4, 0.545, 0.735, 4, 1.15), 2, 400)};
 }
 
@@ -210,7 +232,7 @@ std::vector<Piece> parka(const BodyPtr& body) {
   top.neckWidth = 3.2;
   top.hood = true;
   top.rib = 3;
-  return {upper(body, garment.top(top), 0, 5600), legs(body, slim(), 1), trimming(garment.zip(top, 0.50), 2, 700)};
+  return {topPiece(body, top, 0, 6400), legs(body, slim(), 1), trimming(garment.zip(top, 0.50), 2, 700)};
 }
 
 std::vector<Piece> shirt(const BodyPtr& body) {
@@ -226,7 +248,7 @@ std::vector<Piece> shirt(const BodyPtr& body) {
   TrouserCut trousers = slim();
   trousers.ease = 1.1;
   trousers.hemRadius = 0.040;
-  return {upper(body, garment.top(top), 0), legs(body, trousers, 1), trimming(garment.belt(trousers), 2, 1200),
+  return {topPiece(body, top, 0), legs(body, trousers, 1), trimming(garment.belt(trousers), 2, 1400),
           trimming(garment.buttons(top, 0, 0.625, 0.765, 5, 0.5), 2, 250)};
 }
 
@@ -237,12 +259,12 @@ std::vector<Piece> tee(const BodyPtr& body, const TrouserCut& trousers, double e
   top.sleeveEase = ease + 0.1;
   top.sleeveFlare = ease > 0.6 ? 0.9 : 0.0;
   top.hem = 0.515;
-  top.hemEase = ease > 0.6 ? 0.8 : 0.3;
+  top.hemEase = ease > 0.6 ? 0.8 : 0.6;
   top.collar = 0.826;
   top.neckSlope = 0.38;
   top.neckWidth = 1.8;
   top.rib = 1.6;
-  return {upper(body, Garment(*body).top(top), 0, 4600), legs(body, trousers, 1)};
+  return {topPiece(body, top, 0, 5200), legs(body, trousers, 1)};
 }
 
 std::vector<Piece> teeAndShorts(const BodyPtr& body) {
@@ -273,7 +295,7 @@ std::vector<Piece> cardigan(const BodyPtr& body) {
   top.overlap = 1.2;
   top.rib = 3.5;
   TopCut below = shirtCut();
-  return {upper(body, garment.top(top), 0, 5000), legs(body, TrouserCut(), 1), upper(body, garment.top(below), 2, 1700),
+  return {topPiece(body, top, 0, 5800), legs(body, TrouserCut(), 1), underTop(body, below, 2),
           trimming(garment.buttons(top, 0, 0.53, 0.675, 4, 0.75), 3, 320)};
 }
 
@@ -321,7 +343,7 @@ std::vector<Piece> outfitPieces(const BodyPtr& body, Outfit outfit) {
     case Outfit::TeeAndShorts:
       return teeAndShorts(body);
     case Outfit::Sports:
-      return tee(body, leggings(), 0.5, 0.45);
+      return tee(body, leggings(), 0.6, 0.45);
     case Outfit::Cardigan:
       return cardigan(body);
     case Outfit::Parka:

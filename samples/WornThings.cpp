@@ -3,6 +3,7 @@
 #include "samples/BlobField.h"
 #include "samples/Lap.h"
 #include "samples/PropShapes.h"
+#include "samples/Strap.h"
 
 namespace samples {
 namespace {
@@ -85,8 +86,25 @@ std::vector<Piece> shoePieces(const BodyPtr& body, Worn shoes) {
 double clothedDistance(const ImplicitBody& body, const Lap& lap, const Vec3& p) {
   double d = smoothMin(body.trunkDistance(p), body.neckDistance(p), 3.0);
   d = smoothMin(d, lap.hull(p, 0, 0, 0), 4.0);
-  for (const Side side : {Side::Left, Side::Right}) d = body.joinArm(d, body.armDistance(side, p), side, p);
+  for (const Side side : {Side::Left, Side::Right}) {
+    // Of an arm no more than the shoulder.
+    const double away = length(p - body.skeleton().arm(side).upper.origin) / body.skeleton().stature();
+    d = body.joinArm(d, body.armDistance(side, p) + 12 * smoothStep(0.035, 0.10, away), side, p);
+  }
   return d;
+}
+
+// Places of the upright body, in parts of the stature, where the pose has moved them.
+std::vector<Vec3> posed(const Skeleton& skeleton, const std::vector<Vec3>& path, double side = 1) {
+  const double s = skeleton.stature();
+  std::vector<Vec3> places;
+  for (const Vec3& place : path) {
+    const Vec3 rest = Vec3{side * place.x, place.y, place.z} * s;
+    const Vec3 high = skeleton.chest().point(rest - Vec3{0, 0, skeleton.restChest()});
+    const Vec3 low = skeleton.pelvis().point(rest - Vec3{0, 0, skeleton.restPelvis()});
+    places.push_back(mix(low, high, smoothStep(0.56, 0.67, place.z)));
+  }
+  return places;
 }
 
 std::vector<Piece> backpack(const BodyPtr& body) {
@@ -102,23 +120,33 @@ std::vector<Piece> backpack(const BodyPtr& body) {
     const double seam = 0.25 * std::exp(-6 * std::pow(std::abs(q.y - 1.5) - 0.3, 2));
     return (smoothMin(main, pocket, 0.3) + seam) * size;
   };
-  const auto lap = std::make_shared<Lap>(skeleton);
-  const auto straps = [=](const Vec3& p) {
-    const Vec3 rest = skeleton.toRest(p);
-    const double d = clothedDistance(*body, *lap, p);
-    // From the bag over the shoulders and back under the arms.
-    const double low = (1 - smoothStep(0.655, 0.745, rest.z / s)) * (rest.y < 0.02 * s ? 1 : 0);
-    const double band = (std::abs(std::abs(rest.x) - mix(0.062, 0.115, low) * s) - mix(1.9, 2.6, low) * size) * 0.8;
-    const double end = rest.y < 0.045 * s ? 0.662 * s - rest.z : 0.74 * s - rest.z;
-    const double strap = smoothMax(std::max(d - 2.7, 0.4 - d), band, 0.3);
+  const Lap lap(skeleton);
+  const FieldPtr onBody = makeField([=](const Vec3& p) { return clothedDistance(*body, lap, p); }, body->bounds());
+  std::vector<Strap> straps;
+  for (const double side : {-1.0, 1.0}) {
+    // From the bag over the shoulder and back under the arm.
+    straps.emplace_back(posed(skeleton,
+                              {{0.045, 0.080, 0.790},
+                               {0.056, 0.035, 0.835},
+                               {0.060, -0.015, 0.830},
+                               {0.064, -0.060, 0.780},
+                               {0.074, -0.070, 0.730},
+                               {0.092, -0.055, 0.690},
+                               {0.108, -0.010, 0.665},
+                               {0.098, 0.035, 0.650},
+                               {0.060, 0.085, 0.640}},
+                              side),
+                        *onBody, Strap::Size{1.9 * size, 0.55, 2.6});
+  }
+  const auto bands = [=](const Vec3& p) {
     const double handle = torusDistance(bag.local(p) * (1 / size) - Vec3{0, -2, 18.5}, 3.2, 0.8) * size;
-    return std::min(smoothMax(strap, end, 0.3), handle);
+    return std::min({straps[0].distance(p), straps[1].distance(p), handle});
   };
   Box box;
   box.add(bag.origin, 28 * size);
   Box trunk;
   trunk.add(skeleton.chest().origin, 0.24 * s);
-  return {solid(makeField(sack, box), 0, 0.6, 2200), solid(makeField(straps, trunk), 1, 0.45, 2000)};
+  return {solid(makeField(sack, box), 0, 0.6, 2200), solid(makeField(bands, trunk), 1, 0.4, 2000)};
 }
 
 std::vector<Piece> shoulderBag(const BodyPtr& body) {
@@ -135,22 +163,25 @@ std::vector<Piece> shoulderBag(const BodyPtr& body) {
     const double flap = boxDistance(q - Vec3{0, -0.6, 3.0}, {11.7, 4.0, 6.2}, 2.2);
     return smoothMin(main, flap, 0.15) * size;
   };
-  const auto lap = std::make_shared<Lap>(skeleton);
-  const Vec3 shoulder = Vec3{-0.058, 0, 0.815} * s;
-  const Vec3 hip = Vec3{0.098, 0, 0.555 + lift} * s;
-  const Vec3 along = normalized(hip - shoulder);
-  const Vec3 across = {along.z, 0, -along.x};
-  const auto strap = [=](const Vec3& p) {
-    const Vec3 rest = skeleton.toRest(p);
-    const double d = clothedDistance(*body, *lap, p);
-    const double band = std::abs(dot(rest - shoulder, across)) - 1.5 * size;
-    const double ring = smoothMax(std::max(d - 3.0, 0.4 - d), band, 0.3);
-    return std::max(ring, 1.0 - body->neckDistance(p));
-  };
+  const Lap lap(skeleton);
+  const FieldPtr onBody = makeField([=](const Vec3& p) { return clothedDistance(*body, lap, p); }, body->bounds());
+  // From the bag up to the other shoulder in front, and back down behind.
+  const Strap strap(posed(skeleton, {{0.112, 0.060, 0.540 + lift},
+                                     {0.112, 0.005, 0.550 + lift},
+                                     {0.070, -0.070, 0.605 + lift},
+                                     {0.017, -0.080, 0.690},
+                                     {-0.032, -0.070, 0.770},
+                                     {-0.060, -0.020, 0.830},
+                                     {-0.058, 0.030, 0.832},
+                                     {-0.032, 0.070, 0.770},
+                                     {0.017, 0.065, 0.690},
+                                     {0.065, 0.065, 0.610 + lift},
+                                     {0.095, 0.080, 0.550 + lift}}),
+                    *onBody, {1.6 * size, 0.5, 2.5});
   Box box;
   box.add(bag.origin, 18 * size);
-  Box trunk = body->bounds();
-  return {solid(makeField(sack, box), 0, 0.5, 1600), solid(makeField(strap, trunk), 1, 0.45, 1500)};
+  return {solid(makeField(sack, box), 0, 0.5, 1600),
+          solid(makeField([strap](const Vec3& p) { return strap.distance(p); }, strap.bounds()), 1, 0.4, 1500)};
 }
 
 std::vector<Piece> scarf(const BodyPtr& body) {

@@ -65,7 +65,7 @@ double shareOfSkinThrough(const std::shared_ptr<const ImplicitBody>& body, Outfi
     for (const Piece& piece : pieces) nearest = std::min(nearest, piece.field->distance(p));
     if (nearest > 0.05) ++through;
   }
-  EXPECT_GT(covered, 100);
+  EXPECT_GT(covered, 60);
   return covered > 0 ? static_cast<double>(through) / covered : 1.0;
 }
 

@@ -26,7 +26,7 @@ samples::SampleOptions rough(std::uint64_t seed, int characters) {
   samples::SampleOptions options;
   options.characters = characters;
   options.seed = seed;
-  options.coarseness = 4;
+  options.coarseness = 5;
   options.previewSamples = 1;
   return options;
 }
@@ -34,7 +34,9 @@ samples::SampleOptions rough(std::uint64_t seed, int characters) {
 const std::filesystem::path& roughRepository() {
   static const TemporaryFolder folder;
   static const std::filesystem::path root = [] {
-    const std::string error = samples::writeSampleRepository(folder.path() / "people", rough(1));
+    samples::SampleOptions options = rough(1);
+    options.threads = 2;
+    const std::string error = samples::writeSampleRepository(folder.path() / "people", options);
     if (!error.empty()) throw std::runtime_error(error);
     return folder.path() / "people";
   }();

@@ -12,7 +12,8 @@ namespace support {
 /// Coarse and quick; the same otherwise as what people get.
 samples::SampleOptions rough(std::uint64_t seed, int characters = 6);
 
-/// The whole default repository, rough: written when it is first asked for, and removed when the program ends.
+/// The whole default repository, rough: written by two threads when it is first asked for, and removed when the program
+/// ends.
 const std::filesystem::path& roughRepository();
 
 /// An element of a description.
