@@ -45,9 +45,11 @@ FieldPtr ImplicitBody::makeChestAndSeat() const {
   };
   auto field = std::make_shared<BlobField>();
   for (const double side : {-1.0, 1.0}) {
-    const Frame breast = m_skeleton.chest().child(Frame::rotated({0, 0, side * 16}));
-    field->addEllipsoid(breast.at(chest(side * mix(0.045, 0.044, f), mix(-0.047, -0.050, f), mix(0.738, 0.728, f))),
-                        Vec3{mix(0.046, 0.038, f), mix(0.026, 0.041, f), mix(0.032, 0.037, f)} * s, 0.010 * s);
+    if (body.childhood() < 0.5) {
+      const Frame breast = m_skeleton.chest().child(Frame::rotated({0, 0, side * 16}));
+      field->addEllipsoid(breast.at(chest(side * mix(0.045, 0.044, f), mix(-0.047, -0.050, f), mix(0.738, 0.728, f))),
+                          Vec3{mix(0.046, 0.038, f), mix(0.026, 0.041, f), mix(0.032, 0.037, f)} * s, 0.010 * s);
+    }
     field->addEllipsoid(m_skeleton.pelvis().at(seat(side * 0.046, mix(0.036, 0.040, f), 0.497)),
                         Vec3{0.046, mix(0.038, 0.040, f), 0.048} * s, 0.012 * s);
     const Vec3 shoulder = m_skeleton.arm(side > 0 ? Side::Left : Side::Right).upper.origin;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 namespace samples {
 
 /// What makes one body differ from another. Lengths are parts of the stature unless they say centimetres.
@@ -16,6 +18,8 @@ struct Proportions {
   double headHeight() const { return stature / heads; }
   /// The stature of the same body with a head of usual size, which a child's body is built from.
   double bodyStature() const { return (stature - 1.29 * headHeight()) / 0.828; }
+  /// 0 grown up, 1 a child, whose chest is flat and whose waist is straight.
+  double childhood() const { return std::clamp(7.0 - heads, 0.0, 1.0); }
   double between(double man, double woman) const { return man + (woman - man) * femininity; }
 };
 

@@ -40,9 +40,11 @@ Trunk::Trunk(const Skeleton& skeleton) : m_skeleton(skeleton) {
     const double waist = std::exp(-std::pow((part(0) / s - 0.60) / 0.06, 2)) * body.fullness;
     const double chest = std::exp(-std::pow((part(0) / s - 0.75) / 0.06, 2)) * (body.muscle - 0.5);
     const double belly = std::exp(-std::pow((part(0) / s - 0.585) / 0.045, 2)) * body.belly;
+    const double straight = std::exp(-std::pow((part(0) / s - 0.635) / 0.05, 2)) * body.childhood() * 0.007 * s;
     const double wide = mix(1.0, body.shoulders, smoothStep(0.64, 0.76, part(0) / s));
-    m_sections.push_back({part(0), (part(1) + 2.2 * waist + 1.2 * chest) * wide + 0.8 * belly,
-                          part(2) + 3.2 * waist + 1.0 * chest + 5.0 * belly, part(3) + 0.8 * waist + 0.8 * chest});
+    m_sections.push_back({part(0), (part(1) + 2.2 * waist + 1.2 * chest + straight) * wide + 0.8 * belly,
+                          part(2) + straight / 2 + 3.2 * waist + 1.0 * chest + 5.0 * belly,
+                          part(3) + 0.8 * waist + 0.8 * chest});
   }
   for (const Frame* frame : {&skeleton.pelvis(), &skeleton.spine(), &skeleton.chest(), &skeleton.neck()}) {
     m_bounds.add(frame->origin, 0.13 * s);
