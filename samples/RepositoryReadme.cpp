@@ -53,7 +53,8 @@ std::string repositoryReadme(const std::vector<CharacterDesign>& people, const s
          "library.\n"
          "- `global_assets` holds what all characters share.\n"
          "- `maps` holds the textures. The libraries name other folders, as libraries do that come from another "
-         "machine.\n";
+         "machine.\n"
+         "- `plaza.json`, no part of the repository, is a scene to put people into: `zorvel create --into`.\n";
 }
 
 }  // namespace samples
