@@ -21,6 +21,10 @@ constexpr float TREAD = 42;
 constexpr int STEPS = 4;
 constexpr float FRONT = 60;  ///< where the lowest step begins
 constexpr float TERRACE = 260;
+constexpr float TOP = RISE * STEPS;
+constexpr float BACK = FRONT + TREAD * (STEPS - 1) + TERRACE;
+constexpr float PLANTER_Y = BACK - 80;
+constexpr float PLANTER_HEIGHT = 46;
 
 MeshPtr steps() {
   host::SolidMesh mesh;
@@ -36,21 +40,19 @@ MeshPtr steps() {
 /// Along both sides of the steps, a hand higher than the terrace.
 MeshPtr walls() {
   host::SolidMesh mesh;
-  constexpr float top = RISE * STEPS + 10;
-  constexpr float back = FRONT + TREAD * (STEPS - 1) + TERRACE;
   for (const float side : {-1.0F, 1.0F}) {
     const float inner = side * WIDTH / 2;
     const float outer = inner + side * 46;
-    mesh.addBox({std::min(inner, outer), FRONT - 40, 0}, {std::max(inner, outer), back, top});
+    mesh.addBox({std::min(inner, outer), FRONT - 40, 0}, {std::max(inner, outer), BACK, TOP + 10});
   }
   return mesh.finish();
 }
 
 MeshPtr planters() {
   host::SolidMesh mesh;
-  constexpr float base = RISE * STEPS;
-  constexpr float y = FRONT + TREAD * (STEPS - 1) + TERRACE - 80;
-  for (const float x : {-220.0F, 220.0F}) mesh.addBox({x - 62, y - 30, base}, {x + 62, y + 30, base + 46});
+  for (const float x : {-220.0F, 220.0F}) {
+    mesh.addBox({x - 62, PLANTER_Y - 30, TOP}, {x + 62, PLANTER_Y + 30, TOP + PLANTER_HEIGHT});
+  }
   return mesh.finish();
 }
 
@@ -84,10 +86,9 @@ void addBush(host::Mesh& mesh, const Point3& centre, float radius, Random& rando
 MeshPtr bushes() {
   host::Mesh mesh;
   Random random(7);
-  constexpr float base = RISE * STEPS + 46;
-  constexpr float y = FRONT + TREAD * (STEPS - 1) + TERRACE - 80;
+  constexpr float height = TOP + PLANTER_HEIGHT + 14;
   for (const float x : {-220.0F, 220.0F}) {
-    for (const float along : {-36.0F, 2.0F, 38.0F}) addBush(mesh, {x + along, y, base + 14}, 34, random);
+    for (const float along : {-36.0F, 2.0F, 38.0F}) addBush(mesh, {x + along, PLANTER_Y, height}, 34, random);
   }
   host::completeMesh(mesh);
   return std::make_shared<const host::Mesh>(std::move(mesh));

@@ -58,7 +58,6 @@ class Skeleton {
   double restHead() const { return m_proportions.stature - 0.80 * m_proportions.headHeight(); }
   double ankleHeight() const { return 0.044 * stature(); }
   double handLength() const { return 0.104 * stature(); }
-  double footLength() const { return 0.150 * stature(); }
   double heelBack() const { return 0.034 * stature(); }
   double ballForward() const { return 0.072 * stature(); }
 

@@ -11,8 +11,6 @@ namespace samples {
 /// What follows the body so closely that each pose needs its own mesh.
 enum class Worn { Sneakers, Ballerinas, Oxfords, Boots, Backpack, ShoulderBag, Scarf };
 
-constexpr bool isFootwear(Worn worn) { return worn <= Worn::Boots; }
-
 /// The larger part with material id 0, sole, straps and metal with 1.
 std::vector<Piece> wornPieces(const std::shared_ptr<const ImplicitBody>& body, Worn worn);
 

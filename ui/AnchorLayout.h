@@ -20,7 +20,6 @@ class AnchorLayout {
   void Remove(const QWidget* control);
 
   void SetSize(const QSize& client);
-  QSize GetSize() const { return m_size; }
 
  private:
   struct Item {

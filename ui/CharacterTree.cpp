@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "ui/ScrollPanel.h"
+#include "ui/DarkPalette.h"
 #include "ui/Texts.h"
 
 namespace ZORVEL {

@@ -1,7 +1,6 @@
 #include "ui/MainWindow.h"
 
-#include <memory>
-#include <new>
+#include <exception>
 
 #include "core/Debug.h"
 #include "ui/Log.h"
@@ -17,7 +16,7 @@ MainWindowClass* makeWindow() {
   if (!MaxForm::CanBeMade()) return nullptr;
   try {
     return new MainWindowClass;
-  } catch (const std::bad_alloc&) {
+  } catch (const std::exception&) {
     return nullptr;
   }
 }

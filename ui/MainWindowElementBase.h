@@ -49,8 +49,6 @@ class MainWindowElementBase {
  protected:
   MainWindowElementBase() = default;
 
-  WrappingCheckBox* m_checkBox = nullptr;
-
  private:
   virtual QSize GetPictureSize() const = 0;
   virtual QSize GetCheckBoxSize() const = 0;
@@ -64,6 +62,7 @@ class MainWindowElementBase {
 
   Content m_content;
   bool m_selected = false;
+  WrappingCheckBox* m_checkBox = nullptr;
   PictureBox* m_logo = nullptr;
   MainWindowGeneralPage* m_host = nullptr;
 };

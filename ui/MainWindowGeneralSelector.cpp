@@ -4,7 +4,6 @@
 
 #include "model/CharacterData.h"
 #include "model/Data2.h"
-#include "model/Fields.h"
 #include "model/Selection2.h"
 #include "ui/DestroyTogether.h"
 #include "ui/Log.h"
@@ -111,9 +110,9 @@ void MainWindowGeneralSelector::BuildAssetPage(const CharacterData& character, c
   std::vector<DataContainer*> assets;
   character.GetAssetsForCategory(assets, category);
   if (assets.empty()) return;
-  const bool multiple = Fields::Equals(category, L"selection", L"multiple");
+  const bool multiple = CharacterData::IsMultiple(category);
   if (multiple) LogInfo(L"set multiple true...");
-  const bool required = Fields::Equals(category, L"required", L"true");
+  const bool required = CharacterData::IsRequired(category);
   if (required) LogInfo(L"set required true...");
   auto* page = AddPage<MainWindowGenericTab>(150, 150, Texts::Field(category, L"name"), width);
   page->SetCategoryInfo(multiple, required);

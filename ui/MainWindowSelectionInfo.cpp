@@ -3,8 +3,8 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "ui/DarkPalette.h"
 #include "ui/Log.h"
-#include "ui/ScrollPanel.h"
 #include "ui/Texts.h"
 
 namespace ZORVEL {
@@ -13,18 +13,10 @@ namespace {
 
 std::wstring Quoted(const std::wstring& name) { return L"\"" + name + L"\""; }
 
-/// More of a name could not be seen, and the label would measure all of it whenever it is painted.
-const std::size_t LONGEST_NAME = 256;
-
-std::wstring NameOf(const DataContainer* record) {
-  const std::wstring name = Texts::Field(record, L"name");
-  return name.size() <= LONGEST_NAME ? name : name.substr(0, LONGEST_NAME) + L"\u2026";
-}
-
 /// `title: "name"`, or nothing without a record.
 std::wstring Labelled(const std::wstring& before, const wchar_t* title, const DataContainer* record) {
   if (record == nullptr) return std::wstring();
-  return before + (title != nullptr ? title : L"") + L": " + Quoted(NameOf(record));
+  return before + (title != nullptr ? title : L"") + L": " + Quoted(Texts::Name(record));
 }
 
 }  // namespace
@@ -51,9 +43,10 @@ void MainWindowSelectionInfo::UpdateInfo() {
 }
 
 std::wstring MainWindowSelectionInfo::Describe(const CharacterData& character) {
-  std::wstring text = L"Character: " + Quoted(NameOf(&character));
+  std::wstring text = L"Character: " + Quoted(Texts::Name(&character));
   const wchar_t* clothId = Selection2::GetCloth();
-  if (const DataContainer* cloth = character.GetCloth(clothId)) text += L", Outfit: " + Quoted(NameOf(cloth)) + L"\n";
+  if (const DataContainer* cloth = character.GetCloth(clothId))
+    text += L", Outfit: " + Quoted(Texts::Name(cloth)) + L"\n";
   text += Labelled(L"", character.GetContainerName(POSES), character.GetPose(Selection2::GetPose()));
   text += Labelled(L", ", character.GetContainerName(SKINS), character.GetSkin(Selection2::GetSkin()));
   text += Labelled(L", ", character.GetContainerName(CLOTH), character.GetStyle(clothId, Selection2::GetStyle()));
@@ -71,7 +64,8 @@ std::wstring MainWindowSelectionInfo::DescribeAssets(const CharacterData& charac
     }
     if (asset == nullptr) continue;
     if (text.empty()) text = L"\n";
-    text += Quoted(material != nullptr ? NameOf(asset) + L":" + NameOf(material) : NameOf(asset)) + L", ";
+    text +=
+        Quoted(material != nullptr ? Texts::Name(asset) + L":" + Texts::Name(material) : Texts::Name(asset)) + L", ";
   }
   return text;
 }

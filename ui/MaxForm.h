@@ -40,7 +40,7 @@ class MaxForm : public QWidget {
   void MoveControl(QWidget* control, const QRect& place);
   /// Gone at once for the user, destroyed once the control's own events are through. Null does nothing.
   void RemoveControl(QWidget* control);
-  /// Controls that are added from now on are anchored in a form of this size; a second call goes back to the real one.
+  /// Until EndLayout, controls are added to a form of this size; then all are fitted to the size that it really has.
   void BeginLayoutAt(int width, int height);
   void EndLayout();
 

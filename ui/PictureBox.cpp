@@ -23,12 +23,6 @@ void PictureBox::SetSource(const PictureSource& source) {
   update();
 }
 
-void PictureBox::SetPixmap(const QPixmap& pixmap) {
-  m_picture.pixmap = pixmap;
-  m_loaded = true;
-  update();
-}
-
 void PictureBox::load() {
   m_loaded = true;
   m_picture = PictureCache::Instance().Get(m_source);

@@ -15,8 +15,6 @@ class PictureBox : public QAbstractButton {
   explicit PictureBox(QWidget* parent = nullptr);
 
   void SetSource(const PictureSource& source);
-  const PictureSource& GetSource() const { return m_source; }
-  void SetPixmap(const QPixmap& pixmap);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

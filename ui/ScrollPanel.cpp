@@ -3,15 +3,9 @@
 #include <QEvent>
 #include <QScrollBar>
 
-namespace ZORVEL {
+#include "ui/DarkPalette.h"
 
-QPalette DarkPalette(const QPalette& base) {
-  const QColor background(68, 68, 68);
-  QPalette palette = base;
-  for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Base}) palette.setColor(role, background);
-  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text}) palette.setColor(role, Qt::white);
-  return palette;
-}
+namespace ZORVEL {
 
 ScrollPanel::ScrollPanel(QWidget* parent) : QScrollArea(parent) {
   QPalette frame = DarkPalette(palette());

@@ -32,7 +32,4 @@ class ScrollPanel : public QScrollArea {
   void addContent();
 };
 
-/// Background of the lists and pages, and white text on it.
-QPalette DarkPalette(const QPalette& base);
-
 }  // namespace ZORVEL

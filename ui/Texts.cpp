@@ -24,6 +24,10 @@ std::wstring Texts::Field(const DataContainer* record, const wchar_t* field) {
 
 QString Texts::FromWide(const wchar_t* text) { return text != nullptr ? QString::fromWCharArray(text) : QString(); }
 
+std::wstring Texts::Name(const DataContainer* record) {
+  return Cut(FromWide(Fields::OptionalText(record, L"name")), LONGEST_LINE).toStdWString();
+}
+
 QString Texts::OneLine(const QString& text) { return Cut(text.left(4 * LONGEST_LINE).simplified(), LONGEST_LINE); }
 
 QString Texts::Caption(const QString& text) { return OneLine(text).replace('&', "&&"); }

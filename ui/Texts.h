@@ -15,6 +15,8 @@ class Texts {
   static QString FromWide(const wchar_t* text);
   static QString FromWide(const std::wstring& text) { return QString::fromStdWString(text); }
 
+  /// A name with all its line breaks, no longer than a control could show.
+  static std::wstring Name(const DataContainer* record);
   /// In one line and no longer than a control could show.
   static QString OneLine(const QString& text);
   /// One line whose ampersands stand for themselves where a control takes them for mnemonics.
