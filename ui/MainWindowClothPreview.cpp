@@ -11,7 +11,7 @@
 namespace ZORVEL {
 
 bool MainWindowClothPreview::Create(QWidget* panel, int x, const DataContainer* clothElement,
-                                    const CharacterData* character) {
+                                    const CharacterData* character, FileStamps& files) {
   if (panel == nullptr || clothElement == nullptr || character == nullptr) return false;
   m_charUnique = Data2::GetUnique(character);
   m_clothUnique = Data2::GetUnique(clothElement);
@@ -20,7 +20,7 @@ bool MainWindowClothPreview::Create(QWidget* panel, int x, const DataContainer* 
   PictureSource source;
   source.path =
       Texts::Field(character, L"folder") + L"\\previews\\preview_" + Texts::Field(clothElement, L"id") + L".png";
-  source.stamp = FileStamp::Of(source.path);
+  source.stamp = files.Get(source.path);
   if (!source.stamp.exists) {
     LogInfo(L"preview image not found");
     return false;
@@ -28,7 +28,7 @@ bool MainWindowClothPreview::Create(QWidget* panel, int x, const DataContainer* 
   source.box = QSize(110, 330);
   if (!m_available) {
     source.overlay = Settings::GetPath() + std::wstring(L"\\overlay110x330.png");
-    source.overlayStamp = FileStamp::Of(source.overlay);
+    source.overlayStamp = files.Get(source.overlay);
   }
   m_preview = new PictureBox(panel);
   m_preview->setGeometry(QRect(QPoint(x + 10, 70), source.box));

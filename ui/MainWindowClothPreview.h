@@ -18,7 +18,8 @@ class MainWindowClothPreview {
 
   /// Makes the picture, hidden, as a child of the panel, which destroys it. False when there is no file to show, or an
   /// argument is null. The preview must live as long as the picture does.
-  bool Create(QWidget* panel, int x, const DataContainer* clothElement, const CharacterData* character);
+  bool Create(QWidget* panel, int x, const DataContainer* clothElement, const CharacterData* character,
+              FileStamps& files);
   void Place(int x, int y);
   bool isAvailable() const { return m_available; }
   const PictureBox* GetPicture() const { return m_preview; }

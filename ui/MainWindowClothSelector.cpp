@@ -46,11 +46,12 @@ void MainWindowClothSelector::DisplayCloth(int width) {
 void MainWindowClothSelector::AddPreviews() {
   const CharacterData* character = Data2::GetCharacter(Selection2::GetCharacter());
   if (character == nullptr) return;
+  FileStamps files;
   int x = 2;
   for (int i = 0; i < character->GetCount(CLOTH); ++i) {
     const DataContainer* cloth = character->GetContainerElement(CLOTH, i);
     auto preview = std::make_unique<MainWindowClothPreview>();
-    if (cloth == nullptr || !preview->Create(m_panel->GetContent(), x, cloth, character)) continue;
+    if (cloth == nullptr || !preview->Create(m_panel->GetContent(), x, cloth, character, files)) continue;
     x += 112;
     Insert(std::move(preview));
   }
