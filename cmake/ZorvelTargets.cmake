@@ -19,40 +19,45 @@ if(ZORVEL_SANITIZE)
   target_link_options(zorvel_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# What plug-in code may include: its own folders, headers named as in the 3ds Max SDK, headers named as in Windows. The
-# folders are reached through links, so that nothing else of the tree can be included by accident.
-set(ZORVEL_PLUGIN_INCLUDES ${PROJECT_BINARY_DIR}/plugin-includes)
-file(MAKE_DIRECTORY ${ZORVEL_PLUGIN_INCLUDES})
-foreach(folder core model repository scene ui)
-  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${ZORVEL_PLUGIN_INCLUDES}/${folder} SYMBOLIC)
-endforeach()
-add_library(zorvel_plugin_interface INTERFACE)
-target_include_directories(zorvel_plugin_interface INTERFACE ${ZORVEL_PLUGIN_INCLUDES})
-target_include_directories(zorvel_plugin_interface SYSTEM INTERFACE ${PROJECT_SOURCE_DIR}/host/sdk
-                                                                    ${PROJECT_SOURCE_DIR}/host/winapi)
-target_compile_definitions(zorvel_plugin_interface INTERFACE UNICODE _UNICODE)
+# Headers named as in the 3ds Max SDK and as in Windows: the contract between the plug-in and either host.
+add_library(zorvel_sdk INTERFACE)
+target_include_directories(zorvel_sdk SYSTEM INTERFACE ${PROJECT_SOURCE_DIR}/sdk)
+add_library(zorvel_winapi INTERFACE)
+target_include_directories(zorvel_winapi SYSTEM INTERFACE ${PROJECT_SOURCE_DIR}/winapi)
+target_compile_definitions(zorvel_winapi INTERFACE UNICODE _UNICODE)
+target_link_libraries(zorvel_sdk INTERFACE zorvel_winapi)
 
-# zorvel_plugin_folder(NAME SOURCE...): the sources of one plug-in folder, compiled as C++14 for both log sinks.
+# zorvel_plugin_folder(NAME SOURCE... SEES FOLDER... LIBRARIES LIBRARY...): the sources of one plug-in folder, compiled as C++14 for both
+# log sinks. SEES names the plug-in folders that it may include: they are reached through links, so that nothing else of the tree
+# can be included by accident. LIBRARIES: zorvel_sdk or zorvel_winapi, and what comes from outside.
 function(zorvel_plugin_folder name)
-  add_library(zorvel_${name} OBJECT ${ARGN})
-  target_link_libraries(zorvel_${name} PRIVATE zorvel_options PUBLIC zorvel_plugin_interface)
-  set_target_properties(zorvel_${name} PROPERTIES CXX_STANDARD 14 UNITY_BUILD ${ZORVEL_UNITY})
+  cmake_parse_arguments(FOLDER "" "" "SEES;LIBRARIES" ${ARGN})
+  set(includes ${PROJECT_BINARY_DIR}/plugin-includes/${name})
+  file(REMOVE_RECURSE ${includes})
+  file(MAKE_DIRECTORY ${includes})
+  foreach(folder ${name} ${FOLDER_SEES})
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${includes}/${folder} SYMBOLIC)
+  endforeach()
+  add_library(zorvel_${name}_objects OBJECT ${FOLDER_UNPARSED_ARGUMENTS})
+  target_include_directories(zorvel_${name}_objects PRIVATE ${includes})
+  target_link_libraries(zorvel_${name}_objects PRIVATE zorvel_options ${FOLDER_LIBRARIES})
+  set_target_properties(zorvel_${name}_objects PROPERTIES CXX_STANDARD 14 UNITY_BUILD ${ZORVEL_UNITY})
 endfunction()
 
 # zorvel_assemble_plugin(): the plug-in's code with the log sink that ships and with the one that records. The sinks are two
 # sources with the same function, so the choice is made when linking.
 function(zorvel_assemble_plugin)
   set(objects)
-  foreach(folder core model repository scene ui)
-    list(APPEND objects $<TARGET_OBJECTS:zorvel_${folder}>)
+  foreach(folder core model repository scene ui plugin)
+    list(APPEND objects $<TARGET_OBJECTS:zorvel_${folder}_objects>)
   endforeach()
   foreach(variant "zorvel_plugin|Debug.cpp" "zorvel_plugin_diagnostic|DebugRecording.cpp")
     string(REPLACE "|" ";" parts ${variant})
     list(GET parts 0 target)
     list(GET parts 1 sink)
-    add_library(${target} STATIC ${objects} ${PROJECT_SOURCE_DIR}/core/${sink})
-    target_link_libraries(${target} PRIVATE zorvel_options PUBLIC zorvel_plugin_interface zorvel_host Qt5::Widgets
-                                                            LibXml2::LibXml2)
+    add_library(${target} STATIC ${objects} ${PROJECT_SOURCE_DIR}/plugin/${sink})
+    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${target} PRIVATE zorvel_options PUBLIC zorvel_sdk zorvel_host Qt5::Widgets LibXml2::LibXml2)
     set_target_properties(${target} PROPERTIES CXX_STANDARD 14)
   endforeach()
 endfunction()
@@ -60,15 +65,15 @@ endfunction()
 # zorvel_plugin_module(TARGET FILE LIBRARY SOURCE...): the loadable module FILE.gup with one of the two log sinks. The text of its resource
 # script goes in as it stands: the host reads the string table from it, as Windows reads the compiled one.
 function(zorvel_plugin_module target file library)
-  file(READ ${PROJECT_SOURCE_DIR}/core/zorvel.rc script)
+  file(READ ${PROJECT_SOURCE_DIR}/plugin/zorvel.rc script)
   file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/generated/ModuleResourceScript.cpp
        CONTENT "extern \"C\" const char* ModuleResourceScript() { return R\"rc(@script@)rc\"; }\n" @ONLY)
-  set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/zorvel.rc)
+  set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/plugin/zorvel.rc)
   add_library(${target} MODULE ${PROJECT_BINARY_DIR}/generated/ModuleResourceScript.cpp ${ARGN})
   target_link_libraries(${target} PRIVATE zorvel_options -Wl,--whole-archive ${library} -Wl,--no-whole-archive)
   set_target_properties(${target} PROPERTIES PREFIX "" OUTPUT_NAME ${file} SUFFIX .gup CXX_STANDARD 14
                                              LIBRARY_OUTPUT_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-  file(COPY ${PROJECT_SOURCE_DIR}/core/icons DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  file(COPY ${PROJECT_SOURCE_DIR}/plugin/icons DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 endfunction()
 
 # zorvel_test(NAME SOURCE... [OWN_MAIN] LIBRARIES LIBRARY...): one GoogleTest program, run as one test. LIBRARIES is what it links

@@ -10,7 +10,7 @@
 #include "model/CharacterData.h"
 #include "model/Fields.h"
 #include "model/UniqueRegistry.h"
-#include "repository/RepositoryValidation.h"
+#include "model/RepositoryValidation.h"
 
 namespace ZORVEL {
 

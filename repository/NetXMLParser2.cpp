@@ -7,7 +7,7 @@
 #include "core/Disk.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
-#include "repository/RepositoryFormat.h"
+#include "model/RepositoryFormat.h"
 #include "repository/XmlDocument.h"
 
 namespace ZORVEL {

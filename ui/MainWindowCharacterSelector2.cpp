@@ -1,6 +1,6 @@
 #include "ui/MainWindowCharacterSelector2.h"
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "ui/Log.h"

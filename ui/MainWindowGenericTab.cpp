@@ -1,6 +1,6 @@
 #include "ui/MainWindowGenericTab.h"
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "core/Settings.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"

@@ -2,7 +2,7 @@
 
 #include <QShortcut>
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "ui/WebAddress.h"
 
 namespace ZORVEL {

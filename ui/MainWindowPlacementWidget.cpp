@@ -1,6 +1,6 @@
 #include "ui/MainWindowPlacementWidget.h"
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "model/Selection2.h"
 
 namespace ZORVEL {

@@ -1,6 +1,6 @@
 #include "ui/MainWindowPosesTab.h"
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "ui/ClothInPose.h"

@@ -4,7 +4,7 @@
 
 #include "apps/cli/ModelText.h"
 #include "apps/cli/NearestIds.h"
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
 

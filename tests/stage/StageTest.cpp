@@ -3,7 +3,7 @@
 #include <QtTest/QtTest>
 #include <cmath>
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "host/application/Application.h"
 #include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"

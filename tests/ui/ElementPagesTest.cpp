@@ -2,7 +2,7 @@
 
 #include <QtTest/QtTest>
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "tests/ui/OpenedAddresses.h"

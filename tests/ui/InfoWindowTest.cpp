@@ -6,8 +6,8 @@
 #include <memory>
 #include <thread>
 
-#include "core/DebugWindow.h"
-#include "core/DebugWindowClass.h"
+#include "plugin/DebugWindow.h"
+#include "plugin/DebugWindowClass.h"
 #include "tests/support/LogStoreTest.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include <memory>
 #include <optional>
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "core/LogStore.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"

@@ -3,7 +3,7 @@
 #include <QScrollArea>
 #include <QtTest/QtTest>
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
 #include "host/application/FileDialog.h"

@@ -1,8 +1,8 @@
-#include "core/zorvel.h"
+#include "plugin/zorvel.h"
 
 #include <maxscript/maxscript.h>
 
-#include "core/ActionTable.h"
+#include "plugin/ActionTable.h"
 #include "core/Debug.h"
 #include "core/LogStore.h"
 #include "core/Settings.h"

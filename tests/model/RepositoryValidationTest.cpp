@@ -1,4 +1,4 @@
-#include "repository/RepositoryValidation.h"
+#include "model/RepositoryValidation.h"
 
 #include "tests/repository/RepositoryTest.h"
 

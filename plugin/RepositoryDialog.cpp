@@ -1,4 +1,4 @@
-#include "core/RepositoryDialog.h"
+#include "plugin/RepositoryDialog.h"
 
 #include <commdlg.h>
 #include <stdlib.h>
@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "core/Module.h"
+#include "plugin/Module.h"
 
 namespace ZORVEL {
 

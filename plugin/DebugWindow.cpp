@@ -1,6 +1,6 @@
-#include "core/DebugWindow.h"
+#include "plugin/DebugWindow.h"
 
-#include "core/DebugWindowClass.h"
+#include "plugin/DebugWindowClass.h"
 
 namespace ZORVEL {
 

@@ -2,9 +2,9 @@
 
 #include <new>
 
-#include "core/ActionTable.h"
-#include "core/Module.h"
-#include "core/zorvel.h"
+#include "plugin/ActionTable.h"
+#include "plugin/Module.h"
+#include "plugin/zorvel.h"
 
 namespace ZORVEL {
 

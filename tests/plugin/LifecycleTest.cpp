@@ -2,7 +2,7 @@
 #include <max.h>
 
 #include "core/Settings.h"
-#include "core/zorvel.h"
+#include "plugin/zorvel.h"
 #include "host/application/Application.h"
 #include "host/application/Notifications.h"
 #include "host/scripting/ScriptRunner.h"

@@ -3,8 +3,8 @@
 #include <exception>
 
 #include "core/Debug.h"
-#include "core/DebugWindow.h"
-#include "core/DebugWindowClass.h"
+#include "plugin/DebugWindow.h"
+#include "plugin/DebugWindowClass.h"
 #include "core/LogStore.h"
 
 namespace ZORVEL {

@@ -1,11 +1,11 @@
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 
 #include <maxscript/maxscript.h>
 
 #include <string>
 
 #include "core/Debug.h"
-#include "core/RepositoryDialog.h"
+#include "plugin/RepositoryDialog.h"
 #include "core/Settings.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"

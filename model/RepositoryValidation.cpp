@@ -1,4 +1,4 @@
-#include "repository/RepositoryValidation.h"
+#include "model/RepositoryValidation.h"
 
 #include <string>
 
@@ -8,7 +8,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
-#include "repository/RepositoryFormat.h"
+#include "model/RepositoryFormat.h"
 
 namespace ZORVEL {
 

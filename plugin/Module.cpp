@@ -1,4 +1,4 @@
-#include "core/Module.h"
+#include "plugin/Module.h"
 
 namespace ZORVEL {
 

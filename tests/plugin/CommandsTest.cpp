@@ -1,4 +1,4 @@
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "core/DebugWindowClass.h"
+#include "plugin/DebugWindowClass.h"
 
 #include <QPlainTextEdit>
 #include <QScrollBar>

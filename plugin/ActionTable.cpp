@@ -1,10 +1,10 @@
-#include "core/ActionTable.h"
+#include "plugin/ActionTable.h"
 
 #include <maxapi.h>
 
-#include "core/Commands.h"
+#include "plugin/Commands.h"
 #include "core/Debug.h"
-#include "core/Module.h"
+#include "plugin/Module.h"
 
 namespace ZORVEL {
 
