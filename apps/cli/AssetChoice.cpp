@@ -4,9 +4,9 @@
 
 #include "apps/cli/ModelText.h"
 #include "apps/cli/NearestIds.h"
-#include "plugin/Commands.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "plugin/Commands.h"
 
 namespace cli {
 
