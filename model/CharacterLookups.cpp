@@ -93,7 +93,9 @@ ListedAsset CharacterData::ListAsset(DataContainer* asset, const DataContainer* 
   if (NeedsMatrixRow(asset, globalAsset) && !FindAssetMatrixElement(Selection2::GetPose(), id)) {
     Debug::AddDebugMessage(DEBUG_INFO, L"CharacterData::GetAssetsForCategory found no matrix for ");
     listed.refusal = {WhyNot::NoMatrixRow, PoseAndAsset(Selection2::GetPose(), id)};
-  } else if (IsAssetExcludedByCloth(cloth, asset)) {
+  }
+  // The stronger reason of the two: no other pose would help.
+  if (IsAssetExcludedByCloth(cloth, asset)) {
     listed.refusal = {WhyNot::Excluded, Fields::TextOrEmpty(asset, FIELD_ID)};
   }
   return listed;
