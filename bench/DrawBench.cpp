@@ -9,8 +9,8 @@
 #include "host/application/Application.h"
 #include "host/modes/CommandModes.h"
 #include "host/modes/MouseFeed.h"
+#include "host/rays/RayLevel.h"
 #include "host/view/PixelTracer.h"
-#include "host/view/RayLevel.h"
 #include "host/view/Renderer.h"
 #include "host/view/SamplePattern.h"
 

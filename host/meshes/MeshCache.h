@@ -1,7 +1,7 @@
 #pragma once
 
+#include "host/files/SharedFiles.h"
 #include "host/meshes/MeshFile.h"
-#include "host/meshes/SharedFiles.h"
 
 namespace host {
 

@@ -1,14 +1,12 @@
 #include "host/view/Renderer.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
 #include <thread>
 #include <vector>
 
-#include "host/files/WholeFile.h"
-#include "host/scene/Geometry.h"
+#include "host/geometry/Bounds.h"
 #include "host/view/ColorCurves.h"
 #include "host/view/PixelTracer.h"
 
@@ -127,14 +125,6 @@ QImage render(const RayScene& scene, const Camera& camera, const RenderOptions& 
   drawLabels(image, scene, camera);
   if (options.progress) options.progress(1.0F);
   return image;
-}
-
-std::string writePicture(const QImage& picture, const std::filesystem::path& file) {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  if (!picture.save(&buffer, "PNG")) return "the picture cannot be written as PNG";
-  return writeWholeFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 }  // namespace host

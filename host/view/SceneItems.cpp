@@ -2,10 +2,10 @@
 
 #include <map>
 
-#include "host/materials/Surfaces.h"
 #include "host/scene/ProxyObject.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
+#include "host/view/Surfaces.h"
 
 namespace host {
 

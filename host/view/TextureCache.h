@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/meshes/SharedFiles.h"
+#include "host/files/SharedFiles.h"
 #include "host/view/Texture.h"
 
 namespace host {

@@ -8,7 +8,7 @@
 #include "host/actions/IconFolders.h"
 #include "host/actions/QuickAccessBar.h"
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
+#include "host/services/Listener.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {

@@ -7,8 +7,8 @@
 
 #include "host/application/Application.h"
 #include "host/application/HostInterface.h"
-#include "host/application/Prompts.h"
 #include "host/modes/MouseFeed.h"
+#include "host/services/Prompts.h"
 
 namespace {
 

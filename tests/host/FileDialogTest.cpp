@@ -1,4 +1,4 @@
-#include "host/application/FileDialog.h"
+#include "host/services/FileDialog.h"
 
 #include <commdlg.h>
 #include <gmock/gmock.h>
@@ -6,7 +6,7 @@
 
 #include "host/application/Application.h"
 #include "host/files/Paths.h"
-#include "host/winapi/ActivationContexts.h"
+#include "host/services/ActivationContexts.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {

@@ -1,11 +1,11 @@
-#include "host/materials/MaterialLibraryFile.h"
+#include "host/formats/MaterialLibraryFile.h"
 
 #include <gtest/gtest.h>
 #include <max.h>
 
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
 #include "host/materials/MaterialLibrary.h"
+#include "host/services/Listener.h"
 #include "tests/support/SmallRepository.h"
 
 namespace {

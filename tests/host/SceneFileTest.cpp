@@ -1,4 +1,4 @@
-#include "host/export/SceneFile.h"
+#include "host/application/SceneFile.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,18 +9,18 @@
 
 #include "host/application/Application.h"
 #include "host/application/HostInterface.h"
-#include "host/application/Listener.h"
-#include "host/application/Units.h"
-#include "host/export/SceneJson.h"
+#include "host/formats/SceneJson.h"
 #include "host/materials/BitmapTexture.h"
 #include "host/materials/MaterialClasses.h"
+#include "host/meshes/PlaceholderMesh.h"
 #include "host/scene/CircleShape.h"
 #include "host/scene/LampHelper.h"
 #include "host/scene/ProxyObject.h"
 #include "host/scene/Scene.h"
-#include "host/scene/StandInMesh.h"
 #include "host/scene/SurroundingsObject.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Listener.h"
+#include "host/services/UndoStack.h"
+#include "host/services/Units.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -82,7 +82,7 @@ void buildScene(host::Scene& scene) {
   circle->SetUserPropString(L"zeta", L"first");
   circle->SetUserPropString(L"alpha", L"a \"b\" \\ \n \u00E9 \U0001F600");
   Node* inner = scene.group({second, circle}, L"inner");
-  Node* floor = scene.create(new host::SurroundingsObject(host::standInMesh()));
+  Node* floor = scene.create(new host::SurroundingsObject(host::placeholderMesh()));
   scene.group({inner, floor}, L"outer");
   scene.create(new host::LampHelper)->SetName(L"");
   scene.select(*circle, true);
@@ -143,7 +143,7 @@ TEST_F(SceneFile, LeavesTheSceneAloneWhenAnyPartOfTheFileIsNotReadable) {
   theHold.Begin();
   scene().find(L"unsaved")->SetName(L"mine");
   theHold.Accept(L"Rename");
-  const std::string before = host::sceneJson(scene());
+  const std::string before = host::sceneJson(scene(), Application::instance().units());
   const auto replaced = [&good](const std::string& what, const std::string& by) {
     const std::size_t at = good.find(what);
     EXPECT_NE(at, std::string::npos) << what;
@@ -182,7 +182,7 @@ TEST_F(SceneFile, LeavesTheSceneAloneWhenAnyPartOfTheFileIsNotReadable) {
     EXPECT_THAT(line, HasSubstr(one.second));
     EXPECT_THAT(Application::instance().listener().lines(), ElementsAre(line));
     EXPECT_THAT(codes_, ElementsAre(NOTIFY_FILE_OPEN_FAILED));
-    EXPECT_EQ(host::sceneJson(scene()), before) << one.second;
+    EXPECT_EQ(host::sceneJson(scene(), Application::instance().units()), before) << one.second;
   }
   EXPECT_THAT(host::openScene(file("absent.json")), HasSubstr("absent.json could not be opened"));
   EXPECT_THAT(host::openScene(folder_.path()), HasSubstr("could not be opened"));
@@ -200,7 +200,7 @@ TEST_F(SceneFile, ShowsABoxForSurroundingsThatCannotBeRead) {
   ASSERT_EQ(host::openScene(file()), "");
   auto* object = dynamic_cast<host::SurroundingsObject*>(scene().nodes()[0]->GetObjectRef());
   ASSERT_NE(object, nullptr);
-  EXPECT_EQ(object->mesh(), host::standInMesh());
+  EXPECT_EQ(object->mesh(), host::placeholderMesh());
   EXPECT_EQ(object->fileName(), L"Q:\\gone\\street.glb");
   EXPECT_EQ(Application::instance().listener().lines().size(), 1U);
 }

@@ -5,7 +5,7 @@
 #include "host/materials/MaterialClasses.h"
 #include "host/scene/CircleShape.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/UndoStack.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "host/actions/ActionManager.h"
 #include "host/actions/QuickAccessBar.h"
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
 #include "host/scripting/ScriptRunner.h"
+#include "host/services/Listener.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -34,7 +34,7 @@ class ModuleLoader : public testing::Test {
   }
 
   std::size_t first_;
-  host::ModuleLoader loader_;
+  host::ModuleLoader loader_{actions(), Application::instance().modes(), Application::instance().undo()};
 };
 
 TEST_F(ModuleLoader, StartsAModuleInOrderAndTakesItDownInReverse) {

@@ -11,15 +11,15 @@
 #include <memory>
 #include <optional>
 
-#include "plugin/Commands.h"
 #include "core/LogStore.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
-#include "host/application/FileDialog.h"
 #include "host/application/HostInterface.h"
+#include "host/services/FileDialog.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "plugin/Commands.h"
 #include "tests/ui/OpenedAddresses.h"
 #include "tests/ui/WindowTest.h"
 

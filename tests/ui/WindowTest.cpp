@@ -3,14 +3,14 @@
 #include <QScrollArea>
 #include <QtTest/QtTest>
 
-#include "plugin/Commands.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
-#include "host/application/FileDialog.h"
 #include "host/modes/CommandModes.h"
+#include "host/services/FileDialog.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "plugin/Commands.h"
 #include "ui/PictureCache.h"
 
 namespace support {

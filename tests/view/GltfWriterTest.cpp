@@ -1,17 +1,18 @@
-#include "host/export/GltfWriter.h"
+#include "host/formats/GltfWriter.h"
 
 #include <gtest/gtest.h>
 #include <imtl.h>
 
+#include <QImage>
 #include <cstring>
 #include <nlohmann/json.hpp>
 
 #include "host/application/Application.h"
-#include "host/materials/MaterialLibraryFile.h"
+#include "host/files/PictureFile.h"
+#include "host/formats/MaterialLibraryFile.h"
 #include "host/meshes/MeshFile.h"
 #include "host/scene/Geometry.h"
 #include "host/scene/Scene.h"
-#include "host/view/Renderer.h"
 #include "tests/meshes/Shapes.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -1,17 +1,19 @@
 #include <gmock/gmock.h>
+
 #include <gtest/gtest.h>
 #include <max.h>
 
+#include <QRectF>
 #include <cmath>
 
 #include "host/application/Application.h"
+#include "host/meshes/PlaceholderMesh.h"
 #include "host/modes/CommandModes.h"
 #include "host/modes/MouseFeed.h"
 #include "host/scene/LampHelper.h"
 #include "host/scene/Scene.h"
-#include "host/scene/StandInMesh.h"
 #include "host/scene/SurroundingsObject.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/UndoStack.h"
 #include "host/view/SceneView.h"
 #include "host/view/Viewports.h"
 
@@ -42,7 +44,7 @@ class Picking : public testing::Test {
   }
   /// A box of 50 by 50 by 170 on its place.
   static Node* addBox(const wchar_t* name, const Point3& place) {
-    return add(new host::SurroundingsObject(host::standInMesh()), name, place);
+    return add(new host::SurroundingsObject(host::placeholderMesh()), name, place);
   }
   static void move(Node* node, const Point3& place) {
     Matrix3 tm(TRUE);
@@ -153,7 +155,7 @@ TEST_F(Picking, SelectsByClicksInTheStandardMode) {
 }
 
 TEST_F(Picking, MeasuresSurroundingsAlongTheRayAsGivenInObjectSpace) {
-  host::SurroundingsObject box(host::standInMesh());
+  host::SurroundingsObject box(host::placeholderMesh());
   Ray ray;
   ray.p = Point3(0, 0, 270);
   ray.dir = Point3(0, 0, -10);

@@ -1,10 +1,10 @@
-#include "host/view/RayScene.h"
+#include "host/rays/RayScene.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "host/view/RayMesh.h"
+#include "host/rays/RayMesh.h"
 #include "tests/meshes/Shapes.h"
 
 using host::RayScene;
