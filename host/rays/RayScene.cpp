@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "host/geometry/Bounds.h"
+#include "host/rays/InstanceScene.h"
 #include "host/rays/RayDevice.h"
-#include "host/rays/RayLevel.h"
 
 namespace host {
 
@@ -79,7 +79,7 @@ struct RayScene::Passing {
   const Accept* accept;
   float opacity;
   /// The one that the ray is in.
-  const RayLevel* level;
+  const InstanceScene* level;
 
   static const Passing& of(const RTCFilterFunctionNArguments* arguments) {
     return *reinterpret_cast<const Passing*>(arguments->context);
@@ -87,7 +87,7 @@ struct RayScene::Passing {
   unsigned item(const RTCHit& hit) const { return level->numberOf(hit); }
 };
 
-RayScene::RayScene() : resting_(std::make_unique<RayLevel>()), moving_(std::make_unique<RayLevel>()) {}
+RayScene::RayScene() : resting_(std::make_unique<InstanceScene>()), moving_(std::make_unique<InstanceScene>()) {}
 
 RayScene::~RayScene() = default;
 
@@ -108,8 +108,8 @@ Box3 RayScene::bounds() const {
 void RayScene::setItems(std::vector<ViewItem> items) {
   items_ = std::move(items);
   translucent_ = std::any_of(items_.begin(), items_.end(), isTranslucent);
-  resting_ = std::make_unique<RayLevel>();
-  moving_ = std::make_unique<RayLevel>();
+  resting_ = std::make_unique<InstanceScene>();
+  moving_ = std::make_unique<InstanceScene>();
   reach_.Init();
   for (std::size_t i = 0; i < items_.size(); ++i) {
     const ViewItem& item = items_[i];
@@ -165,7 +165,7 @@ std::optional<SceneHit> RayScene::intersect(const Ray& ray, const Accept& accept
   if (accept) passing.context.filter = lookThroughRefused;
   RTCRayHit query = queryFrom(*caster);
   std::optional<unsigned> item;
-  for (const RayLevel* level : {resting_.get(), moving_.get()}) {
+  for (const InstanceScene* level : {resting_.get(), moving_.get()}) {
     if (level->empty()) continue;
     // A hit of the second level is nearer than that of the first, or it is none.
     const RTCHit before = query.hit;

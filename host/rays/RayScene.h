@@ -15,7 +15,7 @@ struct RTCFilterFunctionNArguments;
 
 namespace host {
 
-class RayLevel;
+class InstanceScene;
 
 /// Where a ray meets the scene, in the world.
 struct SceneHit {
@@ -80,8 +80,8 @@ class RayScene {
   SceneHit describe(std::size_t item, std::uint32_t triangle, float second, float third) const;
 
   std::vector<ViewItem> items_;
-  std::unique_ptr<RayLevel> resting_;
-  std::unique_ptr<RayLevel> moving_;
+  std::unique_ptr<InstanceScene> resting_;
+  std::unique_ptr<InstanceScene> moving_;
   /// Around everything that is or was here; most rays of a picture miss it and need no more than that.
   Box3 reach_;
   bool translucent_ = false;

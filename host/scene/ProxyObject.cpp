@@ -5,15 +5,11 @@
 #include "host/meshes/PlaceholderMesh.h"
 #include "host/rays/RayMesh.h"
 #include "host/services/Listener.h"
-#include "host/services/LookChanges.h"
 
 namespace host {
 
 ProxyObject::ProxyObject() : loaded_(std::make_shared<Loaded>()) {
-  const auto forget = [loaded = loaded_] {
-    *loaded = Loaded();
-    LookChanges::instance().tell();
-  };
+  const auto forget = [loaded = loaded_] { *loaded = Loaded(); };
   block_ = Ref<ParameterBlock>(
       new ParameterBlock(0, {{FILE_NAME, TYPE_FILENAME, std::wstring()}, {SCALE, TYPE_FLOAT, 1.0F}}, forget));
 }
@@ -42,7 +38,7 @@ std::wstring ProxyObject::fileName() const { return std::get<std::wstring>(block
 
 void ProxyObject::load() const {
   if (loaded_->mesh != nullptr) return;
-  const MeshReading reading = MeshCache::instance().get(resolvePath(fileName()).string());
+  const MeshResult reading = sharedMeshes().get(resolvePath(fileName()).string());
   loaded_->mesh = reading.mesh != nullptr ? reading.mesh : placeholderMesh();
   loaded_->problem = reading.error;
   if (!reading.error.empty()) {

@@ -9,7 +9,7 @@
 namespace host {
 
 SurroundingsObject::SurroundingsObject(const std::wstring& file) : file_(file) {
-  MeshReading reading = MeshCache::instance().get(resolvePath(file));
+  MeshResult reading = sharedMeshes().get(resolvePath(file));
   mesh_ = reading.mesh != nullptr ? std::move(reading.mesh) : placeholderMesh();
   problem_ = reading.error;
   if (!problem_.empty()) Listener::instance().report("Mesh " + toUtf8(file) + ": " + problem_);

@@ -29,7 +29,7 @@ void readParameter(Mtl& material, ParamID id, T& value) {
 
 std::shared_ptr<const Texture> readTexture(BitmapTex& bitmap) {
   const std::wstring file = bitmap.GetMapName();
-  const Texture::Reading reading = TextureCache::instance().get(resolvePath(file));
+  const Texture::Result reading = sharedTextures().get(resolvePath(file));
   if (!reading.error.empty()) {
     Listener::instance().report("Texture " + toUtf8(file) + ": " + reading.error);
   }

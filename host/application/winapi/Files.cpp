@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr std::int64_t SECONDS_FROM_1601_TO_1970 = 11'644'473'600;
+
 std::string openMode(const wchar_t* mode) {
   std::string narrow;
   for (; mode && *mode && *mode != L','; ++mode) {
@@ -33,7 +35,6 @@ DWORD attributesOf(const struct stat& status) {
 }
 
 FILETIME fileTime(const std::timespec& time) {
-  constexpr std::int64_t SECONDS_FROM_1601_TO_1970 = 11'644'473'600;
   const std::int64_t steps = (time.tv_sec + SECONDS_FROM_1601_TO_1970) * 10'000'000 + time.tv_nsec / 100;
   // Nothing older can be said.
   const auto shown = static_cast<std::uint64_t>(std::max<std::int64_t>(steps, 0));

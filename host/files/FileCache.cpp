@@ -1,4 +1,4 @@
-#include "host/files/SharedFiles.h"
+#include "host/files/FileCache.h"
 
 namespace host {
 

@@ -1,17 +1,17 @@
-#include "host/rays/RayLevel.h"
+#include "host/rays/InstanceScene.h"
 
 #include "host/rays/RayDevice.h"
 
 namespace host {
 
-RayLevel::RayLevel() : scene_(rtcNewScene(rayDevice())) {
+InstanceScene::InstanceScene() : scene_(rtcNewScene(rayDevice())) {
   rtcSetSceneFlags(scene_, RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_CONTEXT_FILTER_FUNCTION);
   rtcCommitScene(scene_);
 }
 
-RayLevel::~RayLevel() { rtcReleaseScene(scene_); }
+InstanceScene::~InstanceScene() { rtcReleaseScene(scene_); }
 
-void RayLevel::place(unsigned number, const std::shared_ptr<const RayMesh>& mesh, const Matrix3& toWorld) {
+void InstanceScene::place(unsigned number, const std::shared_ptr<const RayMesh>& mesh, const Matrix3& toWorld) {
   Instance& instance = instances_[number];
   if (!instance.mesh) {
     instance = {mesh, rtcNewGeometry(rayDevice(), RTC_GEOMETRY_TYPE_INSTANCE), 0};
@@ -30,13 +30,13 @@ void RayLevel::place(unsigned number, const std::shared_ptr<const RayMesh>& mesh
   rtcCommitGeometry(instance.geometry);
 }
 
-void RayLevel::remove(unsigned number) {
+void InstanceScene::remove(unsigned number) {
   const auto instance = instances_.find(number);
   if (instance == instances_.end()) return;
   rtcDetachGeometry(scene_, instance->second.id);
   instances_.erase(instance);
 }
 
-void RayLevel::commit() { rtcCommitScene(scene_); }
+void InstanceScene::commit() { rtcCommitScene(scene_); }
 
 }  // namespace host

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "host/rays/RayMesh.h"
-#include "tests/meshes/Shapes.h"
+#include "tests/host/meshes/Shapes.h"
 
 using host::RayScene;
 using host::SceneHit;

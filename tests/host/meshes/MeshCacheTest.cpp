@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "host/meshes/MeshFileWriter.h"
-#include "tests/meshes/Shapes.h"
+#include "tests/host/meshes/Shapes.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -13,7 +13,7 @@ constexpr char triangle[] = "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n";
 TEST(MeshCache, SharesAMeshAndLetsItDieWithItsLastUser) {
   const support::TemporaryFolder folder;
   const auto file = folder.write("one.vrmesh", triangle);
-  host::MeshCache cache;
+  host::MeshCache cache(host::readMeshFile);
   auto first = cache.get(file).mesh;
   ASSERT_TRUE(first);
   EXPECT_EQ(cache.get(file).mesh, first);
@@ -26,7 +26,7 @@ TEST(MeshCache, SharesAMeshAndLetsItDieWithItsLastUser) {
 TEST(MeshCache, ReadsAFileAnewOnceItChanged) {
   const support::TemporaryFolder folder;
   const auto file = folder.write("one.vrmesh", triangle);
-  host::MeshCache cache;
+  host::MeshCache cache(host::readMeshFile);
   const auto first = cache.get(file).mesh;
   EXPECT_EQ(host::writeMeshFile(shapes::square(), file), "");
   const auto second = cache.get(file).mesh;
@@ -37,7 +37,7 @@ TEST(MeshCache, ReadsAFileAnewOnceItChanged) {
 
 TEST(MeshCache, SaysWhyAFileCannotBeReadUntilItIsMended) {
   const support::TemporaryFolder folder;
-  host::MeshCache cache;
+  host::MeshCache cache(host::readMeshFile);
   EXPECT_EQ(cache.get(folder.path() / "one.vrmesh").error, "the file was not found");
   const auto file = folder.write("one.vrmesh", "a real proxy of another program");
   EXPECT_NE(cache.get(file).error.find("not a mesh"), std::string::npos);

@@ -137,7 +137,7 @@ TEST_F(Picking, SelectsByClicksInTheStandardMode) {
   };
   click(0, {200, 150});
   EXPECT_NE(box->Selected(), 0);
-  const IPoint2 onRight(200 + static_cast<int>(150 * 150 / (1000 * std::tan(host::Viewport::verticalAngle / 2))), 150);
+  const IPoint2 onRight(200 + static_cast<int>(150 * 150 / (1000 * std::tan(host::Viewport::VERTICAL_ANGLE / 2))), 150);
   click(MOUSE_CTRL, onRight);
   EXPECT_EQ(GetCOREInterface()->GetSelNodeCount(), 2);
   click(MOUSE_CTRL, {5, 5});

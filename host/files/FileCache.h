@@ -14,18 +14,17 @@ namespace host {
 std::string fileStamp(const std::filesystem::path& file);
 
 /// What was made from files, each read once while anybody uses it: nothing is kept alive here. A file that was changed
-/// is read anew; one that could not be read is not tried again before it changes. May be used from several threads.
-template <class Value>
-class SharedFiles {
+/// is read anew; one that could not be read is not tried again before it changes. `Result` is made of a shared pointer
+/// to a constant Value, and of one line that says why there is none. May be used from several threads.
+template <class Value, class Result>
+class FileCache {
  public:
-  /// The value, or one line that says why there is none.
-  struct Reading {
-    std::shared_ptr<const Value> value;
-    std::string error;
-  };
+  using Read = Result (*)(const std::filesystem::path&);
 
-  template <class Read>
-  Reading get(const std::filesystem::path& file, Read read) {
+  explicit FileCache(Read read) : read_(read) {}
+
+  /// `file` is a path on this machine.
+  Result get(const std::filesystem::path& file) {
     const std::lock_guard<std::mutex> lock(mutex_);
     std::string stamp = fileStamp(file);
     const auto known = entries_.find(file);
@@ -34,9 +33,10 @@ class SharedFiles {
       if (!known->second.error.empty()) return {nullptr, known->second.error};
     }
     forgetTheDead();
-    Reading reading = read(file);
-    entries_[file] = Entry{std::move(stamp), reading.value, reading.error};
-    return reading;
+    Result result = read_(file);
+    const auto& [value, error] = result;
+    entries_[file] = Entry{std::move(stamp), value, error};
+    return result;
   }
 
  private:
@@ -53,6 +53,7 @@ class SharedFiles {
     }
   }
 
+  Read read_;
   std::mutex mutex_;
   std::map<std::filesystem::path, Entry> entries_;
 };

@@ -6,7 +6,7 @@
 #include <cstdlib>
 
 #include "host/view/Texture.h"
-#include "tests/meshes/Shapes.h"
+#include "tests/host/meshes/Shapes.h"
 #include "tests/support/TemporaryFolder.h"
 
 using host::Camera;

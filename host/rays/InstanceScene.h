@@ -12,12 +12,12 @@
 namespace host {
 
 /// A top-level scene of the ray caster: instances of prepared meshes, each under a number of the caller's.
-class RayLevel {
+class InstanceScene {
  public:
-  RayLevel();
-  ~RayLevel();
-  RayLevel(const RayLevel&) = delete;
-  RayLevel& operator=(const RayLevel&) = delete;
+  InstanceScene();
+  ~InstanceScene();
+  InstanceScene(const InstanceScene&) = delete;
+  InstanceScene& operator=(const InstanceScene&) = delete;
 
   RTCScene scene() const { return scene_; }
   bool empty() const { return instances_.empty(); }

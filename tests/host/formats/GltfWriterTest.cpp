@@ -13,7 +13,7 @@
 #include "host/meshes/MeshFile.h"
 #include "host/scene/Geometry.h"
 #include "host/scene/Scene.h"
-#include "tests/meshes/Shapes.h"
+#include "tests/host/meshes/Shapes.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -76,7 +76,7 @@ TEST_F(GltfWriter, PlacesEveryNodeInMetresWhateverTheSceneUnit) {
   Node& child = add(L"child", {10, 20, 30});
   parent.AttachChild(&child);
   write(0.0254);
-  const host::MeshReading reading = host::readMeshFile(file());
+  const host::MeshResult reading = host::readMeshFile(file());
   ASSERT_TRUE(reading.mesh) << reading.error;
   // Read back in centimetres: two squares of side 2 around x = 10 inches, the second at (20, 30) inches.
   const Box3& box = reading.mesh->bounds;

@@ -4,10 +4,10 @@
 #include <locale>
 
 #include "host/meshes/MeshFile.h"
-#include "tests/meshes/Shapes.h"
+#include "tests/host/meshes/Shapes.h"
 
 using host::Mesh;
-using host::MeshReading;
+using host::MeshResult;
 using host::readMesh;
 using shapes::expectNear;
 
@@ -22,7 +22,7 @@ float area(const Mesh& mesh) {
 }
 
 TEST(ObjMesh, ReadsPositionsTexCoordsAndNormalsAsWritten) {
-  const MeshReading reading = readMesh(
+  const MeshResult reading = readMesh(
       "# made by hand\r\no thing\r\nv 1.5 +2 -3e0 0.1 0.2 0.3\r\nv 2.5 2 -3\r\nv 2.5 3 -3\r\n"
       "vt 0.25 0.75\r\nvt 1 0 0\r\nvn 0 0 2\r\nf 1/1/1 2/2/1 3//1 # corner three has no texture\r\n");
   ASSERT_TRUE(reading.mesh) << reading.error;
@@ -38,22 +38,21 @@ TEST(ObjMesh, ReadsPositionsTexCoordsAndNormalsAsWritten) {
 }
 
 TEST(ObjMesh, TextureCoordinatesWithoutNormalsFollowTheirCorner) {
-  const MeshReading reading =
-      readMesh("v 0 0 0\nv 1 0 0\nv 0 1 0\nvt 0.5 0.1\nvt 0.6 0.2\nvt 0.7 0.3\nf 1/3 2/1 3/2\n");
+  const MeshResult reading = readMesh("v 0 0 0\nv 1 0 0\nv 0 1 0\nvt 0.5 0.1\nvt 0.6 0.2\nvt 0.7 0.3\nf 1/3 2/1 3/2\n");
   ASSERT_TRUE(reading.mesh);
   EXPECT_FLOAT_EQ(reading.mesh->texCoords[0].u, 0.7F);
   EXPECT_FLOAT_EQ(reading.mesh->texCoords[1].u, 0.5F);
 }
 
 TEST(ObjMesh, CountsNegativeIndicesBackFromTheLastVertexSoFar) {
-  const MeshReading reading = readMesh("v 9 9 9\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf -3 -2 -1\nv 5 5 5\n");
+  const MeshResult reading = readMesh("v 9 9 9\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf -3 -2 -1\nv 5 5 5\n");
   ASSERT_TRUE(reading.mesh);
   expectNear(reading.mesh->bounds.pmax, {1, 1, 0});
 }
 
 TEST(ObjMesh, CutsAConcavePolygonWithoutLeavingIt) {
   // An L of area 3; a fan from its first corner would cover part of the notch twice.
-  const MeshReading reading = readMesh("v 2 0 0\nv 2 1 0\nv 1 1 0\nv 1 2 0\nv 0 2 0\nv 0 0 0\nf 1 2 3 4 5 6\n");
+  const MeshResult reading = readMesh("v 2 0 0\nv 2 1 0\nv 1 1 0\nv 1 2 0\nv 0 2 0\nv 0 0 0\nf 1 2 3 4 5 6\n");
   ASSERT_TRUE(reading.mesh);
   EXPECT_EQ(reading.mesh->triangles.size(), 4U);
   for (const auto& corners : reading.mesh->triangles) {
@@ -65,7 +64,7 @@ TEST(ObjMesh, CutsAConcavePolygonWithoutLeavingIt) {
 }
 
 TEST(ObjMesh, NumbersMaterialsInTheOrderInWhichTheyAppear) {
-  const MeshReading reading = readMesh(
+  const MeshResult reading = readMesh(
       "v 0 0 0\nv 1 0 0\nv 0 1 0\nusemtl skin\nf 1 2 3\nusemtl cloth\nf 1 2 3\nusemtl skin\nf 1 2 3\nusemtl hair\nf 1 "
       "2 3\n");
   ASSERT_TRUE(reading.mesh);
@@ -74,7 +73,7 @@ TEST(ObjMesh, NumbersMaterialsInTheOrderInWhichTheyAppear) {
 
 TEST(ObjMesh, SmoothsAcrossASeamOfTheTextureWhenNormalsAreMissing) {
   // A roof whose ridge has two sets of texture coordinates: both copies of the ridge share one normal, straight up.
-  const MeshReading reading = readMesh(
+  const MeshResult reading = readMesh(
       "v -1 0 0\nv 0 0 1\nv 0 2 1\nv -1 2 0\nv 1 0 0\nv 1 2 0\nvt 0 0\nvt 1 1\n"
       "f 1/1 2/1 3/1 4/1\nf 2/2 5/2 6/2 3/2\n");
   ASSERT_TRUE(reading.mesh);
@@ -96,7 +95,7 @@ TEST(ObjMesh, ReadsADecimalPointUnderALocaleWithACommaAsWell) {
   for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE"}) {
     if (std::setlocale(LC_NUMERIC, name) != nullptr) break;
   }
-  const MeshReading reading = readMesh("v 0.5 0 0\nv 1.25 0 0\nv 0 1 0\nf 1 2 3\n");
+  const MeshResult reading = readMesh("v 0.5 0 0\nv 1.25 0 0\nv 0 1 0\nf 1 2 3\n");
   std::setlocale(LC_NUMERIC, "C");
   std::locale::global(before);
   ASSERT_TRUE(reading.mesh) << reading.error;
@@ -126,7 +125,7 @@ TEST(ObjMesh, RefusesWhatIsBrokenWithOneLine) {
       {"too few corners", vertices + "f 1 2\n", "no triangles"},
   };
   for (const auto& one : cases) {
-    const MeshReading reading = readMesh(one.text);
+    const MeshResult reading = readMesh(one.text);
     EXPECT_FALSE(reading.mesh) << one.reason;
     EXPECT_NE(reading.error.find(one.error), std::string::npos) << one.reason << ": " << reading.error;
     EXPECT_EQ(reading.error.find('\n'), std::string::npos) << one.reason;

@@ -8,10 +8,10 @@
 
 #include "host/meshes/MeshFile.h"
 #include "host/meshes/MeshFileWriter.h"
-#include "tests/meshes/Shapes.h"
+#include "tests/host/meshes/Shapes.h"
 
 using host::Mesh;
-using host::MeshReading;
+using host::MeshResult;
 using host::readMesh;
 using nlohmann::json;
 using shapes::expectNear;
@@ -50,7 +50,7 @@ struct Strip {
     binary.append(reinterpret_cast<const char*>(indices.data()), indices.size() * sizeof(std::uint16_t));
     return glb(document.dump(), binary);
   }
-  MeshReading read() const { return readMesh(bytes()); }
+  MeshResult read() const { return readMesh(bytes()); }
 };
 
 TEST(GltfMesh, WritingAndReadingKeepsEverythingAMeshHas) {
@@ -58,7 +58,7 @@ TEST(GltfMesh, WritingAndReadingKeepsEverythingAMeshHas) {
   mesh.positions[2] = {1, 1, 0.5F};
   mesh.materialIds = {3, 1};
   completeMesh(mesh);
-  const MeshReading reading = readMesh(host::glbBytes(mesh));
+  const MeshResult reading = readMesh(host::glbBytes(mesh));
   ASSERT_TRUE(reading.mesh) << reading.error;
   // Each primitive brings its own vertices back, so corners are compared, in the order of the material ids.
   EXPECT_EQ(reading.mesh->materialIds, (std::vector<std::uint16_t>{1, 3}));
@@ -81,7 +81,7 @@ TEST(GltfMesh, WritingCompactlyKeepsShapeAndMaterialsInALittleMoreThanHalfTheRoo
   for (std::size_t i = 0; i < 2 * half; ++i) mesh.materialIds.push_back(i < half ? 4 : 0);
   const std::string bytes = host::glbBytes(mesh, host::VertexPrecision::Compact);
   EXPECT_LT(bytes.size(), host::glbBytes(mesh).size() * 6 / 10);
-  const MeshReading reading = readMesh(bytes);
+  const MeshResult reading = readMesh(bytes);
   ASSERT_TRUE(reading.mesh) << reading.error;
   ASSERT_EQ(reading.mesh->triangles.size(), mesh.triangles.size());
   for (std::size_t i = 0; i < 2 * half; ++i) {
@@ -98,7 +98,7 @@ TEST(GltfMesh, WritingCompactlyKeepsShapeAndMaterialsInALittleMoreThanHalfTheRoo
     }
   }
   mesh.texCoords.front() = {7.5F, -3};
-  const MeshReading tiled = readMesh(host::glbBytes(mesh, host::VertexPrecision::Compact));
+  const MeshResult tiled = readMesh(host::glbBytes(mesh, host::VertexPrecision::Compact));
   ASSERT_TRUE(tiled.mesh) << tiled.error;
   const auto isTiled = [](const host::TexCoord& coord) { return coord.u == 7.5F && coord.v == -3.0F; };
   EXPECT_TRUE(std::any_of(tiled.mesh->texCoords.begin(), tiled.mesh->texCoords.end(), isTiled));
@@ -112,7 +112,7 @@ TEST(GltfMesh, ReadsSignedWholeNumbersOnlyWhereTheFileSaysSo) {
   strip.document["bufferViews"][0]["byteStride"] = 8;
   EXPECT_NE(strip.read().error.find("not floats"), std::string::npos);
   strip.document["extensionsRequired"] = {"KHR_mesh_quantization"};
-  MeshReading reading = strip.read();
+  MeshResult reading = strip.read();
   ASSERT_TRUE(reading.mesh) << reading.error;
   expectNear(reading.mesh->positions[3], {200, 0, -200});
   strip.document["accessors"][0]["normalized"] = true;
@@ -141,7 +141,7 @@ TEST(GltfMesh, WritesMetresWithYUpAndVDownward) {
 }
 
 TEST(GltfMesh, ReadsStripsAndTurnsMetresYUpIntoCentimetresZUp) {
-  const MeshReading reading = Strip().read();
+  const MeshResult reading = Strip().read();
   ASSERT_TRUE(reading.mesh) << reading.error;
   ASSERT_EQ(reading.mesh->triangles.size(), 2U);
   expectNear(reading.mesh->bounds.pmax, {100, 0, 100});
@@ -153,7 +153,7 @@ TEST(GltfMesh, AppliesTransformsOfAllNodesAboveAndKeepsMirroredFacesOutward) {
   strip.document["scenes"][0]["nodes"] = {1};
   strip.document["nodes"] = json::parse(
       R"([{"mesh": 0, "scale": [-2, 1, 1]}, {"children": [0], "matrix": [1,0,0,0, 0,1,0,0, 0,0,1,0, 10,0,0,1]}])");
-  const MeshReading reading = strip.read();
+  const MeshResult reading = strip.read();
   ASSERT_TRUE(reading.mesh) << reading.error;
   expectNear(reading.mesh->bounds.pmin, {800, 0, 0});
   expectNear(reading.mesh->bounds.pmax, {1000, 0, 100});
@@ -165,7 +165,7 @@ TEST(GltfMesh, ReadsOnlyTheDefaultScene) {
   strip.document["nodes"] = json::parse(R"([{"mesh": 0}, {"mesh": 0, "translation": [5, 0, 0]}])");
   strip.document["scenes"] = json::parse(R"([{"nodes": [0]}, {"nodes": [1]}])");
   strip.document["scene"] = 1;
-  const MeshReading reading = strip.read();
+  const MeshResult reading = strip.read();
   ASSERT_TRUE(reading.mesh) << reading.error;
   expectNear(reading.mesh->bounds.pmin, {500, 0, 0});
 }
@@ -210,7 +210,7 @@ TEST(GltfMesh, RefusesWhatIsBrokenWithOneLine) {
   for (const auto& one : cases) {
     Strip strip;
     strip.document[json::json_pointer(one.pointer)] = one.value;
-    const MeshReading reading = strip.read();
+    const MeshResult reading = strip.read();
     EXPECT_FALSE(reading.mesh) << one.reason;
     EXPECT_NE(reading.error.find(one.error), std::string::npos) << one.reason << ": " << reading.error;
     EXPECT_EQ(reading.error.find('\n'), std::string::npos) << one.reason;
@@ -229,13 +229,13 @@ TEST(GltfMesh, RefusesIndicesOutOfRangeAndPositionsThatAreNoNumbers) {
 TEST(GltfMesh, SurvivesBeingCutAnywhereAndHavingAnyByteChanged) {
   const std::string whole = Strip().bytes();
   for (std::size_t length = 0; length < whole.size(); ++length) {
-    const MeshReading reading = readMesh(std::string_view(whole).substr(0, length));
+    const MeshResult reading = readMesh(std::string_view(whole).substr(0, length));
     EXPECT_NE(reading.mesh == nullptr, reading.error.empty()) << length;
   }
   for (std::size_t at = 0; at < whole.size(); ++at) {
     std::string changed = whole;
     changed[at] = static_cast<char>(changed[at] ^ 0x15);
-    const MeshReading reading = readMesh(changed);
+    const MeshResult reading = readMesh(changed);
     EXPECT_NE(reading.mesh == nullptr, reading.error.empty()) << at;
   }
   EXPECT_FALSE(readMesh(glb(std::string(1'000'000, '['), "")).mesh);
