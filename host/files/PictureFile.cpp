@@ -7,11 +7,16 @@
 
 namespace host {
 
-std::string writePicture(const QImage& picture, const std::filesystem::path& file) {
+QByteArray pngBytes(const QImage& picture) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  if (!picture.save(&buffer, "PNG")) return "the picture cannot be written as PNG";
+  return picture.save(&buffer, "PNG") ? bytes : QByteArray();
+}
+
+std::string writePicture(const QImage& picture, const std::filesystem::path& file) {
+  const QByteArray bytes = pngBytes(picture);
+  if (bytes.isEmpty()) return "the picture cannot be written as PNG";
   return writeWholeFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 

@@ -2,12 +2,12 @@
 
 #include <imtl.h>
 
-#include <QBuffer>
 #include <QFile>
 #include <QImage>
 #include <QString>
 #include <algorithm>
 
+#include "host/files/PictureFile.h"
 #include "host/meshes/GltfGeometry.h"
 #include "host/view/Surfaces.h"
 #include "host/view/Texture.h"
@@ -29,11 +29,7 @@ Picture pictureOf(const std::filesystem::path& path) {
   const QByteArray bytes = file.readAll();
   if (bytes.startsWith("\x89PNG")) return {bytes, "image/png"};
   if (bytes.startsWith("\xFF\xD8\xFF")) return {bytes, "image/jpeg"};
-  QByteArray converted;
-  QBuffer buffer(&converted);
-  buffer.open(QIODevice::WriteOnly);
-  QImage::fromData(bytes).save(&buffer, "PNG");
-  return {converted, "image/png"};
+  return {pngBytes(QImage::fromData(bytes)), "image/png"};
 }
 
 std::string nameOf(Mtl* material, std::size_t slot, std::size_t slotCount) {
