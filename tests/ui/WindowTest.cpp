@@ -5,8 +5,8 @@
 
 #include "core/Settings.h"
 #include "host/application/Application.h"
-#include "host/application/FileDialog.h"
 #include "host/modes/CommandModes.h"
+#include "host/services/FileDialog.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
