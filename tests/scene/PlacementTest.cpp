@@ -15,7 +15,6 @@
 #include "host/scene/SurroundingsObject.h"
 #include "host/undo/UndoStack.h"
 #include "host/view/Viewports.h"
-#include "scene/CharacterBuilder.h"
 #include "scene/PlacementPickMode.h"
 #include "scene/PlacementState.h"
 #include "tests/support/LoadedRepositoryTest.h"
@@ -24,7 +23,6 @@ namespace {
 
 using host::Application;
 using host::Node;
-using ZORVEL::CharacterBuilder;
 using ZORVEL::Placement::StartPlacement;
 
 constexpr int WIDTH = 800;
@@ -61,7 +59,7 @@ class PlacementByMouse : public support::LoadedRepositoryTest {
   static const std::wstring& prompt() { return Application::instance().prompts().top(); }
 
   INode* start() {
-    INode* parent = CharacterBuilder::BuildSelectedCharacter();
+    INode* parent = build();
     StartPlacement(parent);
     return parent;
   }
@@ -189,7 +187,7 @@ TEST_F(PlacementByMouse, ARightClickInEitherStepDeletesCharacterAndGroupAndUndoD
   }
   clearLog();
   Application::instance().modes().set(nullptr);
-  ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr) << "the register points at nothing that is gone";
+  ASSERT_NE(build(), nullptr) << "the register points at nothing that is gone";
   EXPECT_EQ(countLogged(L"use instance..."), 0);
 }
 
