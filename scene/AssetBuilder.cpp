@@ -6,12 +6,15 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
+#include "model/RepositoryFormat.h"
+#include "model/RepositoryPaths.h"
 #include "scene/BuildContext.h"
-#include "scene/BuildPaths.h"
-#include "scene/MaterialResolver.h"
+#include "scene/MaterialLibraries.h"
 #include "scene/PieceSteps.h"
 
 namespace ZORVEL {
+
+using namespace RepositoryFormat;
 
 namespace {
 
@@ -35,49 +38,48 @@ AssetBuilder::AssetBuilder(const BuildContext& context, ElementKind kind, const 
 }
 
 void AssetBuilder::Add() {
-  const wchar_t* folder = Fields::OptionalText(&m_asset, L"folder");
-  if (folder == nullptr) return LeaveOutWithoutFolder();
-  if (!PieceSteps::HasFields(&m_asset, {L"id", L"name"}, m_piece.element, m_report)) return;
-  if (Data2::CheckAssetGlobal(&m_asset)) return AddShared(folder);
-  if (CharacterData::IsSpecific(&m_asset)) return AddPoseSpecific(folder);
-  AddOrdinary(folder);
+  if (IsLostReference()) return LeaveOutReference();
+  if (!PieceSteps::HasFields(&m_asset, {FIELD_FOLDER, FIELD_ID, FIELD_NAME}, m_piece.element, m_report)) return;
+  if (Data2::CheckAssetGlobal(&m_asset)) return AddShared();
+  if (CharacterData::IsSpecific(&m_asset)) return AddPoseSpecific();
+  AddOrdinary();
 }
 
-void AssetBuilder::LeaveOutWithoutFolder() {
+bool AssetBuilder::IsLostReference() const {
   const bool isReference = m_piece.element.kind == ElementKind::Asset && Data2::CheckAssetGlobal(&m_asset);
-  if (!isReference) {
-    PieceSteps::HasFields(&m_asset, {L"folder"}, m_piece.element, m_report);
-    return;
-  }
-  const wchar_t* globalId = Fields::OptionalText(&m_asset, L"globalID");
-  m_report.omissions.push_back({m_piece.element, OmissionReason::NoSharedRecord, globalId != nullptr ? globalId : L""});
+  return isReference && !m_asset.CheckDatafield(FIELD_FOLDER);
 }
 
-void AssetBuilder::AddShared(const wchar_t* folder) {
-  const std::wstring base = BuildPaths::SharedFolder(m_context, folder);
-  INode* node = AddNode(BuildPaths::AssetMesh(base));
+void AssetBuilder::LeaveOutReference() {
+  const std::wstring globalId = Fields::TextOrEmpty(&m_asset, FIELD_GLOBAL_ID);
+  m_report.omissions.push_back({m_piece.element, OmissionReason::NoSharedRecord, globalId});
+}
+
+void AssetBuilder::AddShared() {
+  const std::wstring base = RepositoryPaths::GlobalAsset(m_context.repositoryPath, &m_asset);
+  INode* node = AddNode(RepositoryPaths::AssetMesh(base));
   if (node == nullptr) return;
   const DataContainer* own = m_context.character.FindLocalAssetForGlobal(&m_asset);
-  if (Place(*node, Fields::OptionalText(own, L"id"))) {
-    Finish(*node, BuildPaths::SharedLibraries(m_context, base));
+  if (Place(*node, Fields::OptionalText(own, FIELD_ID))) {
+    Finish(*node, MaterialLibraries::OfSharedAsset(m_context, base));
   } else {
     if (own == nullptr) m_piece.placing = PlacingState::NotListed;
     m_report.pieces.push_back(m_piece);
   }
 }
 
-void AssetBuilder::AddPoseSpecific(const wchar_t* folder) {
-  const std::wstring base = BuildPaths::OwnFolder(m_context, folder);
-  INode* node = AddNode(BuildPaths::PoseAssetMesh(m_context, base));
-  if (node != nullptr) Finish(*node, BuildPaths::OwnLibraries(m_context, base));
+void AssetBuilder::AddPoseSpecific() {
+  const std::wstring base = RepositoryPaths::Element(m_context.characterFolder, &m_asset);
+  INode* node = AddNode(RepositoryPaths::AssetMeshInPose(base, m_context.poseId));
+  if (node != nullptr) Finish(*node, MaterialLibraries::OfElement(m_context, base));
 }
 
-void AssetBuilder::AddOrdinary(const wchar_t* folder) {
-  const std::wstring base = BuildPaths::OwnFolder(m_context, folder);
-  INode* node = AddNode(BuildPaths::AssetMesh(base));
+void AssetBuilder::AddOrdinary() {
+  const std::wstring base = RepositoryPaths::Element(m_context.characterFolder, &m_asset);
+  INode* node = AddNode(RepositoryPaths::AssetMesh(base));
   if (node == nullptr) return;
   if (Place(*node, m_piece.element.id.c_str())) {
-    Finish(*node, BuildPaths::OwnLibraries(m_context, base));
+    Finish(*node, MaterialLibraries::OfElement(m_context, base));
   } else {
     Debug::AddDebugMessage(DEBUG_ERROR, L"could not find asset matrix...");
     m_report.pieces.push_back(m_piece);
@@ -99,8 +101,7 @@ bool AssetBuilder::Place(INode& node, const wchar_t* assetId) {
 }
 
 void AssetBuilder::Finish(INode& node, const std::vector<std::wstring>& libraries) {
-  const wchar_t* name = Fields::OptionalText(&m_materialRecord, L"material");
-  m_piece.material = MaterialResolver::Resolve({name, libraries, m_context.globalMaps}, node);
+  m_piece.material = PieceSteps::ResolveMaterial(m_materialRecord, libraries, m_context, node);
   m_report.pieces.push_back(m_piece);
 }
 

@@ -24,10 +24,12 @@ class AssetBuilder {
   void Add();
 
  private:
-  void LeaveOutWithoutFolder();
-  void AddShared(const wchar_t* folder);
-  void AddPoseSpecific(const wchar_t* folder);
-  void AddOrdinary(const wchar_t* folder);
+  /// Whether it only refers to a shared asset, which is not there.
+  bool IsLostReference() const;
+  void LeaveOutReference();
+  void AddShared();
+  void AddPoseSpecific();
+  void AddOrdinary();
   /// Marked as the asset's; null when it was left out.
   INode* AddNode(const std::wstring& meshFile);
   /// False without a row for that id of an asset, which may be null.

@@ -4,11 +4,14 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
+#include "model/RepositoryFormat.h"
+#include "model/RepositoryPaths.h"
 #include "model/Selection2.h"
-#include "scene/BuildPaths.h"
 #include "scene/BuildReport.h"
 
 namespace ZORVEL {
+
+using namespace RepositoryFormat;
 
 namespace {
 
@@ -43,27 +46,29 @@ bool Find(const CharacterData& character, SelectedElements& found, BuildReport& 
   return Require(found.skin, BuildObstacle::Skin, skinId, report);
 }
 
+/// Null when there is none, or none with a folder.
+CharacterData* FindCharacter(BuildReport& report) {
+  const wchar_t* id = Selection2::GetCharacter();
+  CharacterData* character = Data2::GetCharacter(id);
+  if (!Require(character, BuildObstacle::Character, id, report)) return nullptr;
+  CharacterData* withFolder = character->CheckDatafield(FIELD_FOLDER) ? character : nullptr;
+  Require(withFolder, BuildObstacle::CharacterFolder, id, report);
+  return withFolder;
+}
+
 }  // namespace
 
 std::unique_ptr<BuildContext> BuildContext::Prepare(INode& parent, BuildReport& report) {
   const wchar_t* root = Settings::GetPath();
-  if (root == nullptr) {
-    report.obstacle = BuildObstacle::RepositoryPath;
-    return nullptr;
-  }
-  const wchar_t* characterId = Selection2::GetCharacter();
-  CharacterData* character = Data2::GetCharacter(characterId);
-  if (!Require(character, BuildObstacle::Character, characterId, report)) return nullptr;
-  const wchar_t* folder = Fields::OptionalText(character, L"folder");
-  if (folder == nullptr) {
-    Require(nullptr, BuildObstacle::CharacterFolder, characterId, report);
-    return nullptr;
-  }
-  character->SetData(L"generalTextureFolder", BuildPaths::CharacterMaps(folder).c_str());
+  if (root == nullptr) report.obstacle = BuildObstacle::RepositoryPath;
+  CharacterData* character = root != nullptr ? FindCharacter(report) : nullptr;
+  if (character == nullptr) return nullptr;
+  const std::wstring folder = Fields::TextOrEmpty(character, FIELD_FOLDER);
+  character->SetData(FIELD_TEXTURE_FOLDER, RepositoryPaths::Textures(folder).c_str());
   SelectedElements elements;
   if (!Find(*character, elements, report)) return nullptr;
-  const std::wstring maps = BuildPaths::GlobalMaps(root);
-  character->SetData(L"globalMaps", maps.c_str());
+  const std::wstring maps = RepositoryPaths::Maps(root);
+  character->SetData(FIELD_GLOBAL_MAPS, maps.c_str());
   report.poseId = Selection2::GetPose();
   return std::unique_ptr<BuildContext>(new BuildContext{parent, *character, *elements.pose, *elements.cloth,
                                                         *elements.style, *elements.skin, report.poseId,

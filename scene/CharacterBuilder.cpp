@@ -10,6 +10,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
+#include "model/RepositoryFormat.h"
 #include "model/Selection2.h"
 #include "scene/BuildContext.h"
 #include "scene/BuildReport.h"
@@ -19,11 +20,12 @@
 
 namespace ZORVEL {
 
+using namespace RepositoryFormat;
+
 namespace {
 
 std::wstring CharacterNodeName(const DataContainer* character) {
-  const wchar_t* name = Fields::OptionalText(character, L"name");
-  return std::wstring(L"ZORVEL Character ") + (name != nullptr ? name : L"");
+  return L"ZORVEL Character " + Fields::TextOrEmpty(character, FIELD_NAME);
 }
 
 void ScaleToSceneUnits(INode& parent) {

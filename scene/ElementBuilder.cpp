@@ -6,22 +6,25 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
+#include "model/RepositoryFormat.h"
+#include "model/RepositoryPaths.h"
 #include "model/Selection2.h"
 #include "scene/AssetBuilder.h"
 #include "scene/BuildContext.h"
-#include "scene/BuildPaths.h"
 #include "scene/BuildReport.h"
-#include "scene/MaterialResolver.h"
+#include "scene/MaterialLibraries.h"
 #include "scene/PieceSteps.h"
 
 namespace ZORVEL {
+
+using namespace RepositoryFormat;
 
 namespace {
 
 const DataContainer* FindOwnAsset(const CharacterData& character, const wchar_t* id) {
   for (int i = 0; i < character.GetCount(ASSETS); ++i) {
     const DataContainer* asset = character.GetContainerElement(ASSETS, i);
-    if (Fields::Equals(asset, L"id", id)) return asset;
+    if (Fields::Equals(asset, FIELD_ID, id)) return asset;
   }
   return nullptr;
 }
@@ -33,8 +36,7 @@ Omission WhyUnresolved(const CharacterData& character, const wchar_t* id) {
   element.id = id;
   const DataContainer* reference = FindOwnAsset(character, id);
   if (reference == nullptr) return {element, OmissionReason::UnknownId, id};
-  const wchar_t* globalId = Fields::OptionalText(reference, L"globalID");
-  return {element, OmissionReason::NoSharedRecord, globalId != nullptr ? globalId : L""};
+  return {element, OmissionReason::NoSharedRecord, Fields::TextOrEmpty(reference, FIELD_GLOBAL_ID)};
 }
 
 }  // namespace
@@ -52,16 +54,13 @@ void ElementBuilder::AddAll() {
 bool ElementBuilder::AddBody() {
   BuiltPiece piece;
   piece.element = PieceSteps::Describe(ElementKind::Body, &m_context.pose, &m_context.skin);
-  if (!PieceSteps::HasFields(&m_context.pose, {L"folder", L"name"}, piece.element, m_report)) return false;
-  const wchar_t* folder = Fields::OptionalText(&m_context.pose, L"folder");
-  piece.meshFile = BuildPaths::BodyMesh(BuildPaths::OwnFolder(m_context, folder));
+  if (!PieceSteps::HasFields(&m_context.pose, {FIELD_FOLDER, FIELD_NAME}, piece.element, m_report)) return false;
+  piece.meshFile = RepositoryPaths::BodyMesh(RepositoryPaths::Element(m_context.characterFolder, &m_context.pose));
   INode* node = PieceSteps::AddNode(piece, m_context.parent, m_report);
   if (node == nullptr) return false;
-  node->SetUserPropString(L"ZORVEL_CHAR", Fields::OptionalText(&m_context.character, L"id"));
+  node->SetUserPropString(L"ZORVEL_CHAR", Fields::OptionalText(&m_context.character, FIELD_ID));
   node->SetUserPropString(L"ZORVEL_POSE", m_context.poseId.c_str());
-  const wchar_t* material = Fields::OptionalText(&m_context.skin, L"material");
-  piece.material =
-      MaterialResolver::Resolve({material, BuildPaths::SkinLibraries(m_context), m_context.globalMaps}, *node);
+  piece.material = PieceSteps::ResolveMaterial(m_context.skin, MaterialLibraries::OfSkin(m_context), m_context, *node);
   m_report.pieces.push_back(piece);
   return true;
 }
@@ -75,7 +74,7 @@ void ElementBuilder::AddMandatoryAssets() {
 
 void ElementBuilder::AddMandatoryAsset(const DataContainer* entry) {
   const BuildElement element = PieceSteps::Describe(ElementKind::MandatoryAsset, entry, nullptr);
-  if (!PieceSteps::HasFields(entry, {L"id"}, element, m_report)) return;
+  if (!PieceSteps::HasFields(entry, {FIELD_ID}, element, m_report)) return;
   const DataContainer* asset = m_context.character.ResolveAsset(entry);
   if (asset == nullptr) {
     m_report.omissions.push_back(WhyUnresolved(m_context.character, element.id.c_str()));
@@ -94,16 +93,15 @@ void ElementBuilder::LeaveOutMandatoryAssets() {
 void ElementBuilder::AddCloth() {
   BuiltPiece piece;
   piece.element = PieceSteps::Describe(ElementKind::Clothing, &m_context.cloth, &m_context.style);
-  if (!PieceSteps::HasFields(&m_context.cloth, {L"folder", L"name"}, piece.element, m_report)) return;
-  const std::wstring folder = BuildPaths::OwnFolder(m_context, Fields::OptionalText(&m_context.cloth, L"folder"));
-  piece.meshFile = BuildPaths::ClothMesh(m_context, folder);
+  if (!PieceSteps::HasFields(&m_context.cloth, {FIELD_FOLDER, FIELD_NAME}, piece.element, m_report)) return;
+  const std::wstring folder = RepositoryPaths::Element(m_context.characterFolder, &m_context.cloth);
+  piece.meshFile = RepositoryPaths::ClothMesh(folder, m_context.clothId, m_context.poseId);
   INode* node = PieceSteps::AddNode(piece, m_context.parent, m_report);
   if (node == nullptr) return;
   node->SetUserPropString(L"ZORVEL_CLOTH", m_context.clothId.c_str());
   node->SetUserPropString(L"ZORVEL_POSE", m_context.poseId.c_str());
-  const wchar_t* material = Fields::OptionalText(&m_context.style, L"material");
   piece.material =
-      MaterialResolver::Resolve({material, BuildPaths::OwnLibraries(m_context, folder), m_context.globalMaps}, *node);
+      PieceSteps::ResolveMaterial(m_context.style, MaterialLibraries::OfElement(m_context, folder), m_context, *node);
   m_report.pieces.push_back(piece);
 }
 

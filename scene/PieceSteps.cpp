@@ -1,25 +1,21 @@
 #include "scene/PieceSteps.h"
 
 #include "model/Fields.h"
+#include "model/RepositoryFormat.h"
+#include "scene/BuildContext.h"
+#include "scene/MaterialResolver.h"
 #include "scene/SceneNodes.h"
 
 namespace ZORVEL {
 
-namespace {
-
-std::wstring TextOrEmpty(const DataContainer* record, const wchar_t* field) {
-  const wchar_t* text = Fields::OptionalText(record, field);
-  return text != nullptr ? text : L"";
-}
-
-}  // namespace
+using namespace RepositoryFormat;
 
 BuildElement PieceSteps::Describe(ElementKind kind, const DataContainer* record, const DataContainer* materialRecord) {
   BuildElement element;
   element.kind = kind;
-  element.id = TextOrEmpty(record, L"id");
-  element.name = TextOrEmpty(record, L"name");
-  element.materialId = TextOrEmpty(materialRecord, L"id");
+  element.id = Fields::TextOrEmpty(record, FIELD_ID);
+  element.name = Fields::TextOrEmpty(record, FIELD_NAME);
+  element.materialId = Fields::TextOrEmpty(materialRecord, FIELD_ID);
   return element;
 }
 
@@ -38,6 +34,12 @@ INode* PieceSteps::AddNode(BuiltPiece& piece, INode& parent, BuildReport& report
   piece.mesh = added.mesh;
   if (added.node == nullptr) report.omissions.push_back({piece.element, added.problem, piece.meshFile});
   return added.node;
+}
+
+MaterialResult PieceSteps::ResolveMaterial(const DataContainer& record, const std::vector<std::wstring>& libraries,
+                                           const BuildContext& context, INode& node) {
+  const wchar_t* name = Fields::OptionalText(&record, FIELD_MATERIAL);
+  return MaterialResolver::Resolve({name, libraries, context.globalMaps}, node);
 }
 
 }  // namespace ZORVEL

@@ -8,6 +8,7 @@ class INode;
 
 namespace ZORVEL {
 
+struct BuildContext;
 class DataContainer;
 
 /// The steps that body, clothing and assets have in common. What cannot be made is told to the report.
@@ -22,6 +23,9 @@ class PieceSteps {
                         const BuildElement& element, BuildReport& report);
   /// The node of the piece's mesh file; null, and the element left out, when it cannot be made.
   static INode* AddNode(BuiltPiece& piece, INode& parent, BuildReport& report);
+  /// Gives the node the material that the record names.
+  static MaterialResult ResolveMaterial(const DataContainer& record, const std::vector<std::wstring>& libraries,
+                                        const BuildContext& context, INode& node);
 };
 
 }  // namespace ZORVEL

@@ -138,21 +138,17 @@ TEST_F(CommandLine, BuildsWithoutWhatIsMissingOrUnreadableAndSaysWhich) {
   EXPECT_TRUE(isWritten("a.json"));
 }
 
-TEST_F(CommandLine, NamesWhatIsLeftOutBuiltBareOrUnplacedAndWhyNothingIsBuilt) {
+TEST_F(CommandLine, NamesWhatIsLeftOutOrBuiltBare) {
   repository_.mend();
   repository_.edit(R"(name="Standing" )", "");
   repository_.edit(R"(material="Blue" preview)", "preview");
-  Outcome outcome = run({"create", root(), "--asset", "a1", "--bare"});
+  const Outcome outcome = run({"create", root(), "--asset", "a1", "--bare"});
   EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
   EXPECT_THAT(outcome.out, HasSubstr("bag\\asset.vrmesh  material Canvas\n"));
   EXPECT_EQ(outcome.err,
             "finding: Body (p1): left out: it has no \"name\".\n"
             "finding: Mandatory asset (a2): left out: the body that it belongs to was left out.\n"
             "finding: Clothing \"Summer\" (k1): no material: style \"k1m1\" has no \"material\".\n");
-  repository_.edit(R"(<skin id="s1")", R"(<skin sort="s1")");
-  outcome = run({"create", root()});
-  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
-  EXPECT_EQ(outcome.err, "finding: Nothing was built: no skin is chosen.\n");
 }
 
 TEST_F(CommandLine, ChoosesAssetsByTheRulesOfClothingPoseAndCategory) {

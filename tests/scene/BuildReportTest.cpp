@@ -115,6 +115,10 @@ TEST_F(BuildReports, SayWhyNothingWasBuilt) {
     EXPECT_EQ(findings(), Lines{std::string("Nothing was built: there is no ") + one.what + " with the id \"x9\"."});
     one.set(one.good);
   }
+  Data2::AddCharacter(L"Bo", L"c9", L"");
+  Selection2::SetCharacter(L"c9");
+  EXPECT_EQ(build(), nullptr);
+  EXPECT_EQ(findings(), Lines{R"(Nothing was built: character "c9" has no "folder".)"});
   ZORVEL::Settings::FreeSettings();
   EXPECT_EQ(build(), nullptr);
   EXPECT_EQ(findings(), Lines{"Nothing was built: the settings that hold the repository's path are not loaded."});
