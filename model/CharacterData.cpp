@@ -53,11 +53,11 @@ struct MatrixFields {
   FieldName zrot{L"zrot"};
 };
 
-float coordinate(const DataContainer& row, FieldName field) {
+float Coordinate(const DataContainer& row, FieldName field) {
   bool found = false;
-  const double value = numberFromText(row.GetData(field, found));
+  const double value = NumberFromText(row.GetData(field, found));
   const float largest = std::numeric_limits<float>::max();
-  if (std::fabs(value) <= static_cast<double>(largest)) return static_cast<float>(value);
+  if (!(std::fabs(value) > static_cast<double>(largest))) return static_cast<float>(value);
   return std::copysign(std::numeric_limits<float>::infinity(), value < 0 ? -1.0F : 1.0F);
 }
 
@@ -125,12 +125,12 @@ void CharacterData::AddAssetMatrixElement(const DataContainer* element) {
   if (!found) return;
   const wchar_t* assetID = element->GetData(fields.assetID, found);
   if (!found) return;
-  const float xpos = coordinate(*element, fields.xpos);
-  const float ypos = coordinate(*element, fields.ypos);
-  const float zpos = coordinate(*element, fields.zpos);
-  const float xrot = coordinate(*element, fields.xrot);
-  const float yrot = coordinate(*element, fields.yrot);
-  const float zrot = coordinate(*element, fields.zrot);
+  const float xpos = Coordinate(*element, fields.xpos);
+  const float ypos = Coordinate(*element, fields.ypos);
+  const float zpos = Coordinate(*element, fields.zpos);
+  const float xrot = Coordinate(*element, fields.xrot);
+  const float yrot = Coordinate(*element, fields.yrot);
+  const float zrot = Coordinate(*element, fields.zrot);
   AddAssetMatrixElement(poseID, assetID, xpos, ypos, zpos, xrot, yrot, zrot);
 }
 
