@@ -18,6 +18,12 @@ namespace {
 
 bool isNamed(const XmlElement& element, const wchar_t* name) { return std::wcscmp(element.name, name) == 0; }
 
+/// The document element has no namespace: "/zorvel" selects none that has one.
+bool IsDocumentElement(const XmlElement& root) {
+  const wchar_t* space = root.FindAttribute(L"xmlns");
+  return isNamed(root, ELEMENT_ZORVEL) && (!space || !*space);
+}
+
 template <class Visitor>
 void forEachChild(const XmlElement* parent, Visitor visit) {
   for (const XmlElement* child = parent->firstChild; child; child = child->nextSibling) visit(*child);
@@ -95,7 +101,7 @@ bool NetXMLParser2::ParseRepositoryXML(const wchar_t* path) {
   const auto document = XmlDocument::Load(file.c_str(), error);
   if (!holds(document != nullptr, L"ParseRepositoryXML: invalid character.xml")) return false;
   const XmlElement& root = document->GetRoot();
-  if (!holds(isNamed(root, ELEMENT_ZORVEL), L"ParseRepositoryXML: invalid XML structure (zorvel)")) return false;
+  if (!holds(IsDocumentElement(root), L"ParseRepositoryXML: invalid XML structure (zorvel)")) return false;
   forEachChild(&root, [path](const XmlElement& child) { ParseRepositoryElement(&child, path); });
   return true;
 }

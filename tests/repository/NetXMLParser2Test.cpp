@@ -33,9 +33,13 @@ TEST_F(NetXMLParser2Test, RefusesARepositoryWithoutAReadableDescription) {
   EXPECT_FALSE(parse("<zorvel><globalAssets><asset id='g' id='h'/></globalAssets></zorvel>"));
   EXPECT_EQ(countLogged(L"ParseRepositoryXML: invalid character.xml"), 3);
   EXPECT_FALSE(parse("<Zorvel><globalAssets><asset/></globalAssets></Zorvel>"));
-  EXPECT_EQ(countLogged(L"ParseRepositoryXML: invalid XML structure (zorvel)"), 1);
+  EXPECT_FALSE(parse("<zorvel xmlns='urn:x'><globalAssets><asset/></globalAssets></zorvel>"));
+  EXPECT_FALSE(parse("<z:zorvel xmlns:z='urn:x'><globalAssets><asset/></globalAssets></z:zorvel>"));
+  EXPECT_FALSE(parse("<!DOCTYPE zorvel [<!ATTLIST zorvel xmlns CDATA 'urn:x'>]><zorvel/>"));
+  EXPECT_EQ(countLogged(L"ParseRepositoryXML: invalid XML structure (zorvel)"), 4);
   EXPECT_TRUE(storeIsEmpty());
   EXPECT_TRUE(parse("<zorvel/>"));
+  EXPECT_TRUE(parse("<zorvel xmlns='' xmlns:z='urn:x'/>"));
   EXPECT_TRUE(storeIsEmpty());
 }
 
