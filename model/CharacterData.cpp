@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <limits>
 #include <new>
+#include <utility>
 
 #include "core/Debug.h"
 #include "core/Disk.h"
@@ -116,15 +117,15 @@ DataContainer* CharacterData::AddMaterialToAsset(int assetIndex) {
   return appendChild(*asset);
 }
 
-void CharacterData::AddAssetMatrixElement(const DataContainer* element) {
-  if (!element) return;
+bool CharacterData::AddAssetMatrixElement(const DataContainer* element) {
+  if (!element) return false;
   Debug::AddDebugMessage(DEBUG_INFO, L"add asset matrix element...");
   static const MatrixFields fields;
   bool found = false;
   const wchar_t* poseID = element->GetData(fields.poseID, found);
-  if (!found) return;
+  if (!found) return false;
   const wchar_t* assetID = element->GetData(fields.assetID, found);
-  if (!found) return;
+  if (!found) return false;
   const float xpos = Coordinate(*element, fields.xpos);
   const float ypos = Coordinate(*element, fields.ypos);
   const float zpos = Coordinate(*element, fields.zpos);
@@ -132,6 +133,7 @@ void CharacterData::AddAssetMatrixElement(const DataContainer* element) {
   const float yrot = Coordinate(*element, fields.yrot);
   const float zrot = Coordinate(*element, fields.zrot);
   AddAssetMatrixElement(poseID, assetID, xpos, ypos, zpos, xrot, yrot, zrot);
+  return true;
 }
 
 void CharacterData::AddAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID, float xpos, float ypos,
@@ -168,15 +170,21 @@ bool CharacterData::AddAssetElement(const wchar_t* id, const wchar_t* name, cons
       {{L"id", id}, {L"name", name}, {L"type", type}, {L"folder", folder}, {L"category", category}, {L"url", url}});
 }
 
-void CharacterData::ValidateCloths() {
+std::vector<ClothWithoutPreview> CharacterData::ValidateCloths() {
+  std::vector<ClothWithoutPreview> dropped;
   DataContainer& cloths = m_containers[CLOTH];
-  if (cloths.GetChildCount() == 0) return;
+  if (cloths.GetChildCount() == 0) return dropped;
   const std::wstring previews = std::wstring(textOrEmpty(Fields::Text(this, L"folder"))) + L"\\previews\\preview_";
   for (int i = 0; i < cloths.GetChildCount(); ++i) {
     DataContainer* cloth = cloths.GetChild(i);
-    if (cloth && !Disk::FileExists(previews + textOrEmpty(Fields::Text(cloth, L"id")) + L".png")) cloth->SetInvalid();
+    if (!cloth) continue;
+    std::wstring preview = previews + textOrEmpty(Fields::Text(cloth, L"id")) + L".png";
+    if (Disk::FileExists(preview)) continue;
+    cloth->SetInvalid();
+    dropped.push_back({i, std::move(preview)});
   }
   cloths.RemoveInvalidChildren();
+  return dropped;
 }
 
 void CharacterData::SortClothsAlphabetically() {

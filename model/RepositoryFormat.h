@@ -56,6 +56,9 @@ constexpr wchar_t FIELD_YROT[] = L"yrot";
 constexpr wchar_t FIELD_ZROT[] = L"zrot";
 /// Never in the file: set while reading, to one of the two values.
 constexpr wchar_t FIELD_AVAILABLE[] = L"available";
+/// Never in the file: set on a character while it is built.
+constexpr wchar_t FIELD_GLOBAL_MAPS[] = L"globalMaps";
+constexpr wchar_t FIELD_GENERAL_TEXTURE_FOLDER[] = L"generalTextureFolder";
 
 constexpr wchar_t VALUE_AVAILABLE[] = L"available";
 constexpr wchar_t VALUE_NOT_AVAILABLE[] = L"notavailable";
