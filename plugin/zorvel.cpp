@@ -2,11 +2,11 @@
 
 #include <maxscript/maxscript.h>
 
-#include "plugin/ActionTable.h"
 #include "core/Debug.h"
 #include "core/LogStore.h"
 #include "core/Settings.h"
 #include "model/Data2.h"
+#include "plugin/ActionTable.h"
 #include "scene/SceneNotifications.h"
 #include "ui/MaxForm.h"
 #include "ui/PictureCache.h"

@@ -8,6 +8,7 @@
 #include "model/Data2.h"
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
+#include "model/RepositoryPaths.h"
 #include "repository/ParseNotes.h"
 #include "repository/XmlDocument.h"
 
@@ -67,14 +68,9 @@ CharacterData* AddCharacter() {
   return character;
 }
 
-std::wstring TextOf(const DataContainer& record, const wchar_t* field) {
-  const wchar_t* text = Fields::Text(&record, field);
-  return text ? text : L"";
-}
-
 /// A piece of clothing without a folder is looked for in the character's own.
 void MarkAvailability(DataContainer& clothing, const CharacterData& character) {
-  const std::wstring folder = TextOf(character, FIELD_FOLDER) + SEPARATOR + TextOf(clothing, FIELD_FOLDER);
+  const std::wstring folder = RepositoryPaths::Element(Fields::TextOrEmpty(&character, FIELD_FOLDER), &clothing);
   clothing.SetData(FIELD_AVAILABLE, Disk::FolderExists(folder) ? VALUE_AVAILABLE : VALUE_NOT_AVAILABLE);
 }
 
@@ -98,18 +94,18 @@ std::wstring FindFolder(const XmlElement& character, const wchar_t* path) {
   const wchar_t* name = character.FindAttribute(FIELD_FOLDER);
   if (!name) ParseNotes::TellRefused(ParseNoteKind::CharacterWithoutFolder, character);
   if (!Holds(name != nullptr, L"ParseCharacter: invalid XML structure (folder)")) return {};
-  const std::wstring folder = std::wstring(path) + SEPARATOR + name;
+  const std::wstring folder = RepositoryPaths::Character(path, name);
   const bool complete =
-      HasFolder(character, folder + PREVIEWS_FOLDER, L"ParseCharacter: subfolder \"previews\" does not exist",
+      HasFolder(character, RepositoryPaths::Previews(folder), L"ParseCharacter: subfolder \"previews\" does not exist",
                 ParseNoteKind::CharacterWithoutPreviews) &&
-      HasFolder(character, folder + SKIN_FOLDER, L"ParseCharacter: subfolder \"skin\" does not exist",
+      HasFolder(character, RepositoryPaths::Skin(folder), L"ParseCharacter: subfolder \"skin\" does not exist",
                 ParseNoteKind::CharacterWithoutSkin);
   return complete ? folder : std::wstring();
 }
 
 /// Null when there is none that could be read.
 std::unique_ptr<XmlDocument> LoadDescription(const wchar_t* path) {
-  const std::wstring file = std::wstring(path) + DESCRIPTION_FILE;
+  const std::wstring file = RepositoryPaths::Description(path);
   if (!Disk::FileExists(file)) {
     Debug::AddDebugMessage(DEBUG_INFO, L"ParseRepositoryXML: XML file \"zorvel.xml\" does not exist in this folder:");
     Debug::AddDebugMessage(DEBUG_INFO, path);

@@ -20,7 +20,7 @@ struct SystemField {
 const SystemField SYSTEM_FIELDS[] = {{ELEMENT_CLOTHING, FIELD_AVAILABLE},
                                      {ELEMENT_ASSET, FIELD_LOCAL_ASSET_ID},
                                      {ELEMENT_CHARACTER, FIELD_GLOBAL_MAPS},
-                                     {ELEMENT_CHARACTER, FIELD_GENERAL_TEXTURE_FOLDER}};
+                                     {ELEMENT_CHARACTER, FIELD_TEXTURE_FOLDER}};
 const wchar_t* const NUMBERS[] = {FIELD_XPOS, FIELD_YPOS, FIELD_ZPOS, FIELD_XROT, FIELD_YROT, FIELD_ZROT};
 
 bool IsObserved() { return ObservedParsing::GetObserver() != nullptr; }

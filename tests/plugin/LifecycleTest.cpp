@@ -2,11 +2,11 @@
 #include <max.h>
 
 #include "core/Settings.h"
-#include "plugin/zorvel.h"
 #include "host/application/Application.h"
 #include "host/application/Notifications.h"
 #include "host/scripting/ScriptRunner.h"
 #include "model/Data2.h"
+#include "plugin/zorvel.h"
 #include "tests/support/LocalAppData.h"
 #include "tests/support/LogStoreTest.h"
 

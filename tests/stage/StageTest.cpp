@@ -3,10 +3,10 @@
 #include <QtTest/QtTest>
 #include <cmath>
 
-#include "plugin/Commands.h"
 #include "host/application/Application.h"
 #include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
+#include "plugin/Commands.h"
 #include "scene/PlacementState.h"
 
 namespace support {

@@ -2,9 +2,9 @@
 
 #include <QtTest/QtTest>
 
-#include "plugin/Commands.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
+#include "plugin/Commands.h"
 #include "tests/ui/OpenedAddresses.h"
 #include "tests/ui/WindowTest.h"
 

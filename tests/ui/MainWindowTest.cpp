@@ -11,7 +11,6 @@
 #include <memory>
 #include <optional>
 
-#include "plugin/Commands.h"
 #include "core/LogStore.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
@@ -20,6 +19,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "plugin/Commands.h"
 #include "tests/ui/OpenedAddresses.h"
 #include "tests/ui/WindowTest.h"
 

@@ -3,7 +3,6 @@
 #include <QScrollArea>
 #include <QtTest/QtTest>
 
-#include "plugin/Commands.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
 #include "host/application/FileDialog.h"
@@ -11,6 +10,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "plugin/Commands.h"
 #include "ui/PictureCache.h"
 
 namespace support {
