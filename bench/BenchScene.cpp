@@ -14,7 +14,6 @@
 #include "model/Data2.h"
 #include "model/Selection2.h"
 #include "scene/CharacterBuilder.h"
-#include "scene/SceneNotifications.h"
 
 namespace bench {
 
@@ -23,12 +22,6 @@ using ZORVEL::Data2;
 using ZORVEL::Selection2;
 
 namespace {
-
-void followTheScene() {
-  static bool registered = false;
-  if (!registered) ZORVEL::SceneNotifications::Register();
-  registered = true;
-}
 
 /// A little below zero, so that characters stand on the plane and over the ground alike.
 void addGround() {
@@ -45,7 +38,6 @@ void addGround() {
 }  // namespace
 
 void chooseCharacter() {
-  followTheScene();
   Application::instance().reset();
   GeneratedRepository::ofSize(1).load();
   Selection2::SetCharacter(L"c00");

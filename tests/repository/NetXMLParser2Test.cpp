@@ -2,11 +2,11 @@
 
 #include "repository/Parser2.h"
 #include "repository/XMLParser2.h"
-#include "tests/repository/RepositoryTest.h"
+#include "tests/repository/RepositoryFixture.h"
 
 namespace ZORVEL {
 
-class NetXMLParser2Test : public RepositoryTest {
+class NetXMLParser2Test : public RepositoryFixture {
  protected:
   bool parse(const std::string& xml) {
     writeDescription(xml);

@@ -2,7 +2,7 @@
 
 #include "model/Fields.h"
 #include "repository/Parser2.h"
-#include "tests/repository/RepositoryTest.h"
+#include "tests/repository/RepositoryFixture.h"
 
 namespace ZORVEL {
 
@@ -25,7 +25,7 @@ class ParseListener : public ParseObserver {
   static std::wstring place(int line, int column) { return std::to_wstring(line) + L":" + std::to_wstring(column); }
 };
 
-class ParseObserverTest : public RepositoryTest {
+class ParseObserverTest : public RepositoryFixture {
  protected:
   ParseListener listen(const std::string& xml) {
     writeDescription(xml);

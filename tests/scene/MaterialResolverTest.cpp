@@ -10,7 +10,7 @@
 #include "host/scene/CircleShape.h"
 #include "host/scene/Scene.h"
 #include "scene/BuildContext.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 #include "tests/support/SmallRepository.h"
 
 namespace {
@@ -19,10 +19,10 @@ using host::Application;
 using ZORVEL::BuildContext;
 using ZORVEL::MaterialResolver;
 
-class MaterialResolution : public support::LogStoreTest {
+class MaterialResolution : public support::LogStoreFixture {
  protected:
   void SetUp() override {
-    LogStoreTest::SetUp();
+    LogStoreFixture::SetUp();
     Application::instance().reset();
     root_ = repository_.root();
     characterFolder_ = root_ + L"\\anna";
@@ -33,7 +33,7 @@ class MaterialResolution : public support::LogStoreTest {
   }
   void TearDown() override {
     Application::instance().reset();
-    LogStoreTest::TearDown();
+    LogStoreFixture::TearDown();
   }
 
   static INode* addNode() { return Application::instance().scene().create(new host::CircleShape); }

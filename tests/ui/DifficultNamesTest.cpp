@@ -6,11 +6,11 @@
 
 #include "model/CharacterData.h"
 #include "model/Data2.h"
-#include "tests/ui/WindowTest.h"
+#include "tests/ui/WindowFixture.h"
 
 namespace {
 
-class DifficultNames : public support::WindowTest {
+class DifficultNames : public support::WindowFixture {
  protected:
   static const ZORVEL::CharacterData& ben() { return *ZORVEL::Data2::GetCharacter(L"c2"); }
   static void nameEverything(const wchar_t* name) {

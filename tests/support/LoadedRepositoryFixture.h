@@ -1,14 +1,16 @@
 #pragma once
 
-#include "tests/support/LocalAppData.h"
-#include "tests/support/LogStoreTest.h"
+#include <optional>
+
+#include "apps/support/LoadedRepository.h"
+#include "tests/support/LogStoreFixture.h"
 #include "tests/support/SmallRepository.h"
 
 namespace support {
 
 /// A test on an empty scene with the small repository loaded and its first choice selected: character c1, clothing k1,
 /// pose p1, skin s1, style k1m1, no assets.
-class LoadedRepositoryTest : public LogStoreTest {
+class LoadedRepositoryFixture : public LogStoreFixture {
  protected:
   void SetUp() override;
   void TearDown() override;
@@ -18,8 +20,8 @@ class LoadedRepositoryTest : public LogStoreTest {
   static void addAsset(const wchar_t* id, const wchar_t* material = nullptr);
 
  private:
-  LocalAppData appData_;
   SmallRepository repository_;
+  std::optional<apps::LoadedRepository> loaded_;
 };
 
 }  // namespace support
