@@ -113,7 +113,9 @@ std::unique_ptr<XmlDocument> LoadDescription(const wchar_t* path) {
     return nullptr;
   }
   XmlError error;
-  auto document = XmlDocument::Load(file.c_str(), error);
+  XmlOptions options;
+  options.places = ObservedParsing::GetObserver() != nullptr;
+  auto document = XmlDocument::Load(file.c_str(), error, options);
   if (!document) ParseNotes::TellUnreadable(file, error);
   if (!Holds(document != nullptr, L"ParseRepositoryXML: invalid character.xml")) return nullptr;
   const XmlElement& root = document->GetRoot();

@@ -102,8 +102,8 @@ void XmlArena::AddBlock(std::size_t size) {
 /// Receives what the library reports while it parses, and hangs it into the document's tree.
 class XmlTreeBuilder {
  public:
-  XmlTreeBuilder(XmlDocument& document, std::FILE* file, std::size_t largestFile, XmlError& error)
-      : m_document(document), m_file(file), m_largestFile(largestFile), m_error(error) {}
+  XmlTreeBuilder(XmlDocument& document, std::FILE* file, const XmlOptions& options, XmlError& error)
+      : m_document(document), m_file(file), m_options(options), m_error(error) {}
 
   bool Parse() {
     const SilentErrors silence;
@@ -180,7 +180,7 @@ class XmlTreeBuilder {
     const std::size_t count = std::fread(buffer, 1, static_cast<std::size_t>(size), builder.m_file);
     builder.m_bytesRead += count;
     // The parser cannot be stopped while it waits for bytes; it stops by itself when there are no more.
-    if (builder.m_bytesRead > builder.m_largestFile) builder.NoteFault(XmlFault::BeyondLimits, L"too large");
+    if (builder.m_bytesRead > builder.m_options.largestFile) builder.NoteFault(XmlFault::BeyondLimits, L"too large");
     if (std::ferror(builder.m_file)) builder.NoteFault(XmlFault::NotReadable, L"not readable");
     return builder.m_refused ? -1 : static_cast<int>(count);
   }
@@ -264,7 +264,7 @@ class XmlTreeBuilder {
       new (next++) FieldText{attribute, CopyWide(arena, attributes[3], attributes[4])};
     }
     void* const memory = arena.Allocate(sizeof(XmlElement), alignof(XmlElement));
-    const Place place = StartOfTag();
+    const Place place = m_options.places ? StartOfTag() : Place{0, 0};
     Append(new (memory) XmlElement{name.GetText(), list, count, place.line, place.column, 0, nullptr, nullptr});
     if (arena.GetSize() > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead)
       Refuse(XmlFault::BeyondLimits, L"entities grow beyond all bounds");
@@ -316,7 +316,7 @@ class XmlTreeBuilder {
 
   XmlDocument& m_document;
   std::FILE* m_file;
-  std::size_t m_largestFile;
+  XmlOptions m_options;
   XmlError& m_error;
   xmlParserCtxtPtr m_context = nullptr;
   std::size_t m_bytesRead = 0;
@@ -326,9 +326,7 @@ class XmlTreeBuilder {
   const HeldName* m_recent[RECENT_COUNT] = {};
 };
 
-const std::size_t XmlDocument::LARGEST_FILE;
-
-std::unique_ptr<XmlDocument> XmlDocument::Load(const wchar_t* path, XmlError& error, std::size_t largestFile) {
+std::unique_ptr<XmlDocument> XmlDocument::Load(const wchar_t* path, XmlError& error, const XmlOptions& options) {
   error = XmlError();
   const File file(path ? _wfopen(path, L"rb") : nullptr, &std::fclose);
   if (!file) {
@@ -337,7 +335,7 @@ std::unique_ptr<XmlDocument> XmlDocument::Load(const wchar_t* path, XmlError& er
   }
   std::setvbuf(file.get(), nullptr, _IOFBF, BLOCK_SIZE);
   std::unique_ptr<XmlDocument> document(new XmlDocument);
-  if (!XmlTreeBuilder(*document, file.get(), largestFile, error).Parse()) return nullptr;
+  if (!XmlTreeBuilder(*document, file.get(), options, error).Parse()) return nullptr;
   // What the library complained of and read all the same is no reason any more.
   error = XmlError();
   return document;

@@ -15,7 +15,7 @@ struct XmlElement {
   const FieldText* attributes;  // in document order
   int attributeCount;
   // Where the start tag begins, in characters, counted from 1. An element out of an entity stands where that is used.
-  // The column is 0 where it is not known: behind a very long line.
+  // The column is 0 where it is not known: behind a very long line. Both are when places were not asked for.
   int line;
   int column;
   int childCount;
@@ -34,6 +34,11 @@ struct XmlError {
   std::wstring message;  // one line; empty when there is no error
   int line = 0;
   int column = 0;
+};
+
+struct XmlOptions {
+  std::size_t largestFile = std::size_t{256} << 20;  // bytes
+  bool places = true;                                // loading takes a fifth longer with them
 };
 
 /// Memory for things that live as long as the document and need no destructor.
@@ -72,11 +77,9 @@ class XmlArena {
 /// blow up are refused.
 class XmlDocument {
  public:
-  static const std::size_t LARGEST_FILE = std::size_t{256} << 20;  // bytes
-
   /// Null, with the reason in `error`, for everything that cannot be opened, read or is not well formed.
   static std::unique_ptr<XmlDocument> Load(const wchar_t* path, XmlError& error,
-                                           std::size_t largestFile = LARGEST_FILE);
+                                           const XmlOptions& options = XmlOptions());
 
   /// Belongs to the document.
   const XmlElement& GetRoot() const;

@@ -149,7 +149,9 @@ TEST_F(XmlDocumentTest, RefusesWhatStopsBeingReadable) {
   const auto withText = [](std::size_t size) { return "<r><e>" + std::string(size - 15, 'x') + "</e></r>\n"; };
   for (const std::size_t size : {limit, limit + 1, 10 * limit}) {
     const std::wstring path = host::toWide(m_folder.write("d.xml", withText(size)).string());
-    EXPECT_EQ(XmlDocument::Load(path.c_str(), m_error, limit) != nullptr, size == limit);
+    XmlOptions options;
+    options.largestFile = limit;
+    EXPECT_EQ(XmlDocument::Load(path.c_str(), m_error, options) != nullptr, size == limit);
     EXPECT_EQ(m_error.message, size == limit ? L"" : L"too large");
   }
   EXPECT_EQ(m_error.fault, XmlFault::BeyondLimits);
