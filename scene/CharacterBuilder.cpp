@@ -164,7 +164,7 @@ void AddElements(BuildContext& context) {
 INode* CharacterBuilder::BuildSelectedCharacter() {
   Debug::AddDebugMessage(DEBUG_INFO, L"Create Character from Selection...");
   Interface* host = GetCOREInterface();
-  host->ReplacePrompt(L"Create ZORVEL Character...");
+  host->DisplayTempPrompt(L"Create ZORVEL Character...");
   theHold.Begin();
   BuildContext context;
   context.parent = SceneNodes::AddParent(CharacterNodeName(Data2::GetCharacter(Selection2::GetCharacter())));
@@ -181,7 +181,7 @@ INode* CharacterBuilder::BuildSelectedCharacter() {
   ScaleToSceneUnits(*context.parent);
   Group(context);
   theHold.Accept(L"ZORVEL Character");
-  host->ReplacePrompt(L"ZORVEL Character created");
+  host->DisplayTempPrompt(L"ZORVEL Character created");
   host->RedrawViews(host->GetTime(), REDRAW_NORMAL);
   return context.parent;
 }
