@@ -5,11 +5,11 @@
 #include <string>
 
 #include "core/Debug.h"
-#include "plugin/RepositoryDialog.h"
 #include "core/Settings.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "plugin/RepositoryDialog.h"
 #include "repository/Parser2.h"
 #include "scene/CharacterBuilder.h"
 #include "scene/Placement.h"

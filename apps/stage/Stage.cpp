@@ -9,7 +9,6 @@
 #include "host/actions/IconFolders.h"
 #include "host/application/Application.h"
 #include "host/application/Listener.h"
-#include "host/modes/CommandModes.h"
 #include "host/plugins/ModuleLoader.h"
 #include "host/view/Renderer.h"
 
@@ -37,8 +36,6 @@ Stage::Stage(StageOptions options) : options_(std::move(options)), status_(EXIT_
 
 Stage::~Stage() {
   window_.log().follow({});
-  // A mode of the module must not be current any more when it goes.
-  application().modes().returnToStandard();
   application().modules().shutDown();
 }
 

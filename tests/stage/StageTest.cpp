@@ -3,11 +3,9 @@
 #include <QtTest/QtTest>
 #include <cmath>
 
-#include "plugin/Commands.h"
 #include "host/application/Application.h"
-#include "host/modes/CommandModes.h"
-#include "host/scene/Scene.h"
-#include "scene/PlacementState.h"
+#include "plugin/Commands.h"
+#include "scene/Placement.h"
 
 namespace support {
 
@@ -24,8 +22,7 @@ void StageTest::SetUp() {
 }
 
 void StageTest::TearDown() {
-  host::Application::instance().modes().returnToStandard();
-  ZORVEL::PlacementState::Get() = ZORVEL::PlacementState();
+  ZORVEL::Placement::Free();
   window_.reset();
   LoadedRepositoryTest::TearDown();
 }

@@ -16,6 +16,7 @@
 #include "host/application/Application.h"
 #include "host/application/Prompts.h"
 #include "host/export/SceneJson.h"
+#include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
 #include "host/undo/UndoStack.h"
 #include "tests/stage/ManagerWindow.h"
@@ -37,12 +38,13 @@ move    430 330 9 0 Place your ZORVEL Character
 click   430 330 9 0 Rotate your ZORVEL Character
 move    480 330 9 0.5 Rotate your ZORVEL Character
 move    530 300 9 1 Rotate your ZORVEL Character
-click   530 300 9 1 Place your ZORVEL Character
-undo    0   0   4 0 Place your ZORVEL Character
-redo    0   0   9 0 Place your ZORVEL Character
+click   530 300 9 1 Ready
+undo    0   0   4 0 Ready
+redo    0   0   9 0 Ready
 create  0   0   14 0 Place your ZORVEL Character
 move    300 320 14 0 Place your ZORVEL Character
-cancel  300 320 9 0 ZORVEL Character created
+cancel  300 320 9 0 Ready
+create  0   0   14 0 Place your ZORVEL Character
 )";
 
 class WholeUse : public testing::Test {
@@ -110,9 +112,9 @@ class WholeUse : public testing::Test {
 TEST_F(WholeUse, RunsFromTheActionToUndoAsItWasRecorded) {
   const support::SmallRepository repository;
   repository.writePictures();
-  stage::Stage stage(options(repository));
-  ASSERT_EQ(stage.run(), 0);
-  stage::StageWindow& window = stage.window();
+  std::optional<stage::Stage> stage(options(repository));
+  ASSERT_EQ(stage->run(), 0);
+  stage::StageWindow& window = stage->window();
   lookAtGround(window);
   std::istringstream recording(RECORDING);
   std::string what;
@@ -128,7 +130,10 @@ TEST_F(WholeUse, RunsFromTheActionToUndoAsItWasRecorded) {
     EXPECT_EQ(window.promptLine().prompt().toStdString(), prompt) << "step " << step;
     keepPicture(window, step);
   }
-  EXPECT_EQ(Application::instance().undo().undoNames().size(), 2U) << "the cancelled character's step does no harm";
+  EXPECT_EQ(Application::instance().undo().undoNames().size(), 3U) << "the cancelled character's step does no harm";
+  stage.reset();
+  EXPECT_EQ(Application::instance().prompts().top(), L"") << "closed in the middle of a placement";
+  EXPECT_EQ(&Application::instance().modes().current(), &Application::instance().modes().standard());
 }
 
 /// Where two scenes differ first; empty when they are the same but for the handles of nodes and rounding.
