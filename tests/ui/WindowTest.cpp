@@ -3,7 +3,6 @@
 #include <QScrollArea>
 #include <QtTest/QtTest>
 
-#include "plugin/Commands.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
 #include "host/application/FileDialog.h"
@@ -11,6 +10,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "plugin/Commands.h"
 #include "ui/PictureCache.h"
 
 namespace support {
@@ -27,7 +27,7 @@ void WindowTest::SetUp() {
   ZORVEL::Settings::StorePath(files_.root().c_str());
   ASSERT_TRUE(ZORVEL::Commands::ValidateData());
   clearLog();
-  CommandLog::Clear();
+  commands().clear();
 }
 
 void WindowTest::TearDown() {
@@ -53,7 +53,7 @@ void WindowTest::openWithBlouse() {
   open();
   clickNode(node("Anna", "Blouse"));
   ASSERT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2");
-  CommandLog::Clear();
+  commands().clear();
 }
 
 void WindowTest::settle() {
