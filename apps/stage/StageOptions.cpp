@@ -11,7 +11,7 @@ namespace {
 
 const char* const footer =
     "In the viewport: middle button pans, Alt and middle (or left) button orbits, the wheel zooms, Z frames the "
-    "selection, Shift+Z everything.\n"
+    "selection, Shift+Z everything. Esc cancels a command that waits for the mouse, Q goes back to selecting.\n"
     "Without a display set QT_QPA_PLATFORM=offscreen and give --quit.\n"
     "Exit status: 0 clean, 1 a script was not understood or a file not written, 2 wrong usage, 3 module, scene or "
     "repository "

@@ -65,6 +65,7 @@ void StageWindow::connectHost() {
   connect(watch_, &HostWatch::sceneChanged, menus_, &StageMenus::showSelection);
   connect(watch_, &HostWatch::sceneChanged, this, &StageWindow::showTitle);
   connect(watch_, &HostWatch::modeChanged, view_, &ViewportWidget::refresh);
+  connect(watch_, &HostWatch::modeChanged, menus_, &StageMenus::showMode);
   connect(watch_, &HostWatch::undoChanged, menus_, &StageMenus::showUndo);
   connect(watch_, &HostWatch::promptChanged, prompt_, &PromptLine::setPrompt);
   connect(watch_, &HostWatch::linesReported, listener_, &ListenerPanel::report);

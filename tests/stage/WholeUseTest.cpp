@@ -45,6 +45,8 @@ create  0   0   14 0 Place your ZORVEL Character
 move    300 320 14 0 Place your ZORVEL Character
 cancel  300 320 9 0 Ready
 create  0   0   14 0 Place your ZORVEL Character
+escape  0   0   9 0 Ready
+create  0   0   14 0 Place your ZORVEL Character
 )";
 
 class WholeUse : public testing::Test {
@@ -90,6 +92,8 @@ class WholeUse : public testing::Test {
     if (what == "action") window.quickAccess().actions().front()->trigger();
     if (what == "choose") support::ManagerWindow().chooseCloth("Anna", "Summer");
     if (what == "create") support::ManagerWindow().create();
+    // The button that was pressed is in the window that is active.
+    if (what == "escape") QTest::keyClick(support::ManagerWindow::find()->windowHandle(), Qt::Key_Escape);
     // A window manager makes active what is clicked.
     window.activateWindow();
     if (what == "move") QTest::mouseMove(window.windowHandle(), place);
@@ -130,7 +134,7 @@ TEST_F(WholeUse, RunsFromTheActionToUndoAsItWasRecorded) {
     EXPECT_EQ(window.promptLine().prompt().toStdString(), prompt) << "step " << step;
     keepPicture(window, step);
   }
-  EXPECT_EQ(Application::instance().undo().undoNames().size(), 3U) << "the cancelled character's step does no harm";
+  EXPECT_EQ(Application::instance().undo().undoNames().size(), 4U) << "the cancelled character's step does no harm";
   stage.reset();
   EXPECT_EQ(Application::instance().prompts().top(), L"") << "closed in the middle of a placement";
   EXPECT_EQ(&Application::instance().modes().current(), &Application::instance().modes().standard());
