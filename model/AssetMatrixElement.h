@@ -8,12 +8,12 @@ namespace ZORVEL {
 struct AssetMatrixElement {
   std::wstring poseID;
   std::wstring assetID;
-  float xpos = 0;
-  float ypos = 0;
-  float zpos = 0;
-  float xrot = 0;
-  float yrot = 0;
-  float zrot = 0;
+  float xpos;
+  float ypos;
+  float zpos;
+  float xrot;
+  float yrot;
+  float zrot;
 };
 
 }  // namespace ZORVEL

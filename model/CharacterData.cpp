@@ -10,9 +10,13 @@
 #include "core/Disk.h"
 #include "model/Fields.h"
 #include "model/NumberText.h"
+#include "model/RepositoryFormat.h"
+#include "model/RepositoryPaths.h"
 #include "model/Utf16Order.h"
 
 namespace ZORVEL {
+
+using namespace RepositoryFormat;
 
 namespace {
 
@@ -43,14 +47,14 @@ const wchar_t* textOrEmpty(const wchar_t* text) { return text ? text : L""; }
 
 /// Held here because a character has thousands of rows.
 struct MatrixFields {
-  FieldName poseID{L"poseID"};
-  FieldName assetID{L"assetID"};
-  FieldName xpos{L"xpos"};
-  FieldName ypos{L"ypos"};
-  FieldName zpos{L"zpos"};
-  FieldName xrot{L"xrot"};
-  FieldName yrot{L"yrot"};
-  FieldName zrot{L"zrot"};
+  FieldName poseID{FIELD_POSE_ID};
+  FieldName assetID{FIELD_MATRIX_ASSET_ID};
+  FieldName xpos{FIELD_XPOS};
+  FieldName ypos{FIELD_YPOS};
+  FieldName zpos{FIELD_ZPOS};
+  FieldName xrot{FIELD_XROT};
+  FieldName yrot{FIELD_YROT};
+  FieldName zrot{FIELD_ZROT};
 };
 
 float coordinate(const DataContainer& row, FieldName field) {
@@ -144,37 +148,43 @@ void CharacterData::ReserveAssetMatrix(int count) {
 }
 
 bool CharacterData::AddSkinElement(const wchar_t* id, const wchar_t* name, const wchar_t* preview, const wchar_t* url) {
-  return appendRecord(m_containers[SKINS], {{L"id", id}, {L"name", name}, {L"preview", preview}, {L"url", url}});
+  return appendRecord(m_containers[SKINS],
+                      {{FIELD_ID, id}, {FIELD_NAME, name}, {FIELD_PREVIEW, preview}, {FIELD_URL, url}});
 }
 
 bool CharacterData::AddClothElement(const wchar_t* id, const wchar_t* name, const wchar_t* folder, const wchar_t* url) {
-  return appendRecord(m_containers[CLOTH], {{L"id", id}, {L"name", name}, {L"folder", folder}, {L"url", url}});
+  return appendRecord(m_containers[CLOTH],
+                      {{FIELD_ID, id}, {FIELD_NAME, name}, {FIELD_FOLDER, folder}, {FIELD_URL, url}});
 }
 
 bool CharacterData::AddPoseElement(const wchar_t* id, const wchar_t* name, const wchar_t* folder, const wchar_t* url) {
-  return appendRecord(m_containers[POSES], {{L"id", id}, {L"name", name}, {L"folder", folder}, {L"url", url}});
+  return appendRecord(m_containers[POSES],
+                      {{FIELD_ID, id}, {FIELD_NAME, name}, {FIELD_FOLDER, folder}, {FIELD_URL, url}});
 }
 
 bool CharacterData::AddCategoryElement(const wchar_t* id, const wchar_t* name, const wchar_t* selection,
                                        const wchar_t* required) {
   return appendRecord(m_containers[CATEGORIES],
-                      {{L"id", id}, {L"name", name}, {L"selection", selection}, {L"required", required}});
+                      {{FIELD_ID, id}, {FIELD_NAME, name}, {FIELD_SELECTION, selection}, {FIELD_REQUIRED, required}});
 }
 
 bool CharacterData::AddAssetElement(const wchar_t* id, const wchar_t* name, const wchar_t* type, const wchar_t* folder,
                                     const wchar_t* category, const wchar_t* url) {
-  return appendRecord(
-      m_containers[ASSETS],
-      {{L"id", id}, {L"name", name}, {L"type", type}, {L"folder", folder}, {L"category", category}, {L"url", url}});
+  return appendRecord(m_containers[ASSETS], {{FIELD_ID, id},
+                                             {FIELD_NAME, name},
+                                             {FIELD_TYPE, type},
+                                             {FIELD_FOLDER, folder},
+                                             {FIELD_CATEGORY, category},
+                                             {FIELD_URL, url}});
 }
 
 void CharacterData::ValidateCloths() {
   DataContainer& cloths = m_containers[CLOTH];
   if (cloths.GetChildCount() == 0) return;
-  const std::wstring previews = std::wstring(textOrEmpty(Fields::Text(this, L"folder"))) + L"\\previews\\preview_";
+  const std::wstring folder = Fields::TextOrEmpty(this, FIELD_FOLDER);
   for (int i = 0; i < cloths.GetChildCount(); ++i) {
     DataContainer* cloth = cloths.GetChild(i);
-    if (cloth && !Disk::FileExists(previews + textOrEmpty(Fields::Text(cloth, L"id")) + L".png")) cloth->SetInvalid();
+    if (cloth && !Disk::FileExists(RepositoryPaths::ClothPreview(folder, cloth))) cloth->SetInvalid();
   }
   cloths.RemoveInvalidChildren();
 }
@@ -188,7 +198,7 @@ void CharacterData::SortClothsAlphabetically() {
   std::vector<NamedCloth> sorted;
   sorted.reserve(static_cast<std::size_t>(cloths.GetChildCount()));
   for (int i = 0; i < cloths.GetChildCount(); ++i) {
-    sorted.push_back({Fields::OptionalText(cloths.GetChild(i), L"name"), cloths.GetChild(i)});
+    sorted.push_back({Fields::OptionalText(cloths.GetChild(i), FIELD_NAME), cloths.GetChild(i)});
   }
   std::stable_sort(sorted.begin(), sorted.end(), [](const NamedCloth& left, const NamedCloth& right) {
     return compareUtf16(left.name, right.name) < 0;

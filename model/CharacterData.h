@@ -6,6 +6,7 @@
 
 #include "model/AssetMatrixElement.h"
 #include "model/DataContainer.h"
+#include "model/Refusal.h"
 
 namespace ZORVEL {
 
@@ -13,6 +14,13 @@ enum CONTAINER : int { SKINS = 0, CLOTH = 1, POSES = 2, CATEGORIES = 3, ASSETS =
 
 /// The three groups that every cloth element of a repository has as its children.
 enum CLOTH_CHILD : int { MATERIAL = 0, EXCLUDE = 1, SELECT = 2 };
+
+/// An asset as its category lists it.
+struct ListedAsset {
+  DataContainer* asset;
+  DataContainer* record;  ///< the global record where the asset stands for one that there is, else the asset
+  Refusal refusal;        ///< why it is not listed
+};
 
 /// One character: its own fields, five lists of elements and the asset matrix. Elements are named by the text of their
 /// "id" field; lookups compare exactly, answer with the first match in list order, and null when there is none.
@@ -69,6 +77,8 @@ class CharacterData : public DataContainer {
   /// The assets to offer for a category with the selected cloth and pose, appended in list order. A global asset is
   /// listed as its global record, whose "local_asset_id" is set to the id of this character's own asset.
   void GetAssetsForCategory(std::vector<DataContainer*>& assets, const DataContainer* category) const;
+  /// The same with what is not listed and why, every asset of the category in list order.
+  std::vector<ListedAsset> ListAssetsForCategory(const DataContainer* category) const;
   /// Whether the selected cloth asks for the asset, or for the asset in this material (null: in any).
   bool CheckAssetStyleForClothSelection(const DataContainer* asset, const DataContainer* material) const;
   /// `material` is null when the id names the asset itself. On false both are left as they were.
@@ -88,8 +98,7 @@ class CharacterData : public DataContainer {
   static const int CLOTH_CHILD_COUNT = 3;
 
   DataContainer* findClothGroup(int clothIndex, CLOTH_CHILD group) const;
-  /// The record under which an asset is offered with the selected pose; null when it has no place in that pose.
-  DataContainer* findOfferedAsset(DataContainer* asset) const;
+  ListedAsset ListAsset(DataContainer* asset, const DataContainer* cloth) const;
   void orderAssetMatrix() const;
 
   DataContainer m_containers[CONTAINER_COUNT];  // indexed by CONTAINER

@@ -9,15 +9,33 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
+#include "model/RepositoryFormat.h"
 #include "model/Selection2.h"
 
 namespace ZORVEL {
+
+using namespace RepositoryFormat;
+
+namespace {
+
+/// A global asset that there is always does; one that there is not is listed as the character's own, whatever its pose.
+bool NeedsMatrixRow(const DataContainer* asset, const DataContainer* globalAsset) {
+  return Data2::CheckAssetGlobal(asset) ? globalAsset != nullptr : !CharacterData::IsSpecific(asset);
+}
+
+std::wstring Quoted(const wchar_t* text) { return L"\"" + std::wstring(text ? text : L"") + L"\""; }
+
+std::wstring PoseAndAsset(const wchar_t* pose, const wchar_t* asset) {
+  return L"pose " + Quoted(pose) + L" and asset " + Quoted(asset);
+}
+
+}  // namespace
 
 DataContainer* CharacterData::FindElementById(const DataContainer* container, const wchar_t* id) {
   if (!container || !id) return nullptr;
   for (int i = 0; i < container->GetChildCount(); ++i) {
     DataContainer* child = container->GetChild(i);
-    const wchar_t* childId = Fields::Text(child, L"id");
+    const wchar_t* childId = Fields::Text(child, FIELD_ID);
     if (childId && std::wcscmp(childId, id) == 0) return child;
   }
   return nullptr;
@@ -39,7 +57,7 @@ DataContainer* CharacterData::GetStyle(const wchar_t* clothId, const wchar_t* st
 
 DataContainer* CharacterData::GetCategory(const DataContainer* asset) const {
   if (!asset) return nullptr;
-  const wchar_t* id = Fields::OptionalText(asset, L"category");
+  const wchar_t* id = Fields::OptionalText(asset, FIELD_CATEGORY);
   if (id) return FindElementById(&m_containers[CATEGORIES], id);
   Debug::AddDebugMessage(DEBUG_WARNING, L"CharacterData::GetCategory: invalid asset");
   return nullptr;
@@ -50,47 +68,52 @@ DataContainer* CharacterData::GetCategoryForGlobalAsset(const DataContainer* glo
 }
 
 void CharacterData::GetAssetsForCategory(std::vector<DataContainer*>& assets, const DataContainer* category) const {
-  const wchar_t* categoryId = Fields::OptionalText(category, L"id");
-  if (!categoryId) return;
-  const DataContainer* cloth = GetCloth(Selection2::GetCloth());
-  for (int i = 0; i < GetCount(ASSETS); ++i) {
-    DataContainer* asset = GetContainerElement(ASSETS, i);
-    if (!Fields::Equals(asset, L"category", categoryId)) continue;
-    DataContainer* candidate = findOfferedAsset(asset);
-    if (candidate && !IsAssetExcludedByCloth(cloth, asset)) assets.push_back(candidate);
+  for (const ListedAsset& listed : ListAssetsForCategory(category)) {
+    if (listed.refusal.why == WhyNot::Nothing) assets.push_back(listed.record);
   }
 }
 
-DataContainer* CharacterData::findOfferedAsset(DataContainer* asset) const {
-  const wchar_t* id = Fields::OptionalText(asset, L"id");
-  DataContainer* candidate = asset;
-  bool placedByMatrix = !IsSpecific(asset);
-  if (Data2::CheckAssetGlobal(asset)) {
-    DataContainer* globalAsset = Data2::GetGlobalAssetForAsset(asset);
-    placedByMatrix = globalAsset != nullptr;
-    if (globalAsset) {
-      if (id) globalAsset->SetData(L"local_asset_id", id);
-      candidate = globalAsset;
-    }
+std::vector<ListedAsset> CharacterData::ListAssetsForCategory(const DataContainer* category) const {
+  std::vector<ListedAsset> listed;
+  const wchar_t* categoryId = Fields::OptionalText(category, FIELD_ID);
+  if (!categoryId) return listed;
+  const DataContainer* cloth = GetCloth(Selection2::GetCloth());
+  for (int i = 0; i < GetCount(ASSETS); ++i) {
+    DataContainer* asset = GetContainerElement(ASSETS, i);
+    if (Fields::Equals(asset, FIELD_CATEGORY, categoryId)) listed.push_back(ListAsset(asset, cloth));
   }
-  if (!placedByMatrix || FindAssetMatrixElement(Selection2::GetPose(), id)) return candidate;
-  Debug::AddDebugMessage(DEBUG_INFO, L"CharacterData::GetAssetsForCategory found no matrix for ");
-  return nullptr;
+  return listed;
+}
+
+ListedAsset CharacterData::ListAsset(DataContainer* asset, const DataContainer* cloth) const {
+  const wchar_t* id = Fields::OptionalText(asset, FIELD_ID);
+  DataContainer* globalAsset = Data2::CheckAssetGlobal(asset) ? Data2::GetGlobalAssetForAsset(asset) : nullptr;
+  if (globalAsset && id) globalAsset->SetData(FIELD_LOCAL_ASSET_ID, id);
+  ListedAsset listed = {asset, globalAsset ? globalAsset : asset, Refusal()};
+  if (NeedsMatrixRow(asset, globalAsset) && !FindAssetMatrixElement(Selection2::GetPose(), id)) {
+    Debug::AddDebugMessage(DEBUG_INFO, L"CharacterData::GetAssetsForCategory found no matrix for ");
+    listed.refusal = {WhyNot::NoMatrixRow, PoseAndAsset(Selection2::GetPose(), id)};
+  }
+  // The stronger reason of the two: no other pose would help.
+  if (IsAssetExcludedByCloth(cloth, asset)) {
+    listed.refusal = {WhyNot::Excluded, Fields::TextOrEmpty(asset, FIELD_ID)};
+  }
+  return listed;
 }
 
 bool CharacterData::CheckAssetStyleForClothSelection(const DataContainer* asset, const DataContainer* material) const {
   if (!asset) return false;
-  const wchar_t* localId = Fields::OptionalText(asset, L"local_asset_id");
-  const wchar_t* assetId = localId ? localId : Fields::Text(asset, L"id");
-  const wchar_t* materialId = Fields::Text(material, L"id");
+  const wchar_t* localId = Fields::OptionalText(asset, FIELD_LOCAL_ASSET_ID);
+  const wchar_t* assetId = localId ? localId : Fields::Text(asset, FIELD_ID);
+  const wchar_t* materialId = Fields::Text(material, FIELD_ID);
   const DataContainer* cloth = GetCloth(Selection2::GetCloth());
   const DataContainer* selects = cloth && cloth->GetChildCount() > SELECT ? cloth->GetChild(SELECT) : nullptr;
   if (!selects || !assetId) return false;
   for (int i = 0; i < selects->GetChildCount(); ++i) {
     const DataContainer* entry = selects->GetChild(i);
-    const wchar_t* entryAsset = Fields::Text(entry, L"asset_id");
+    const wchar_t* entryAsset = Fields::Text(entry, FIELD_ASSET_ID);
     if (!entryAsset || std::wcscmp(entryAsset, assetId) != 0) continue;
-    if (!material || Fields::Equals(entry, L"material_id", materialId)) return true;
+    if (!material || Fields::Equals(entry, FIELD_MATERIAL_ID, materialId)) return true;
   }
   return false;
 }
@@ -132,30 +155,32 @@ void CharacterData::orderAssetMatrix() const {
 
 bool CharacterData::IsAssetExcludedByCloth(const DataContainer* cloth, const DataContainer* asset) const {
   if (!cloth || !asset || cloth->GetChildCount() <= EXCLUDE) return false;
-  const wchar_t* assetId = Fields::Text(asset, L"id");
+  const wchar_t* assetId = Fields::Text(asset, FIELD_ID);
   return assetId && FindElementById(cloth->GetChild(EXCLUDE), assetId) != nullptr;
 }
 
-bool CharacterData::IsSpecific(const DataContainer* asset) { return Fields::Equals(asset, L"type", L"specific"); }
+bool CharacterData::IsSpecific(const DataContainer* asset) { return Fields::Equals(asset, FIELD_TYPE, VALUE_SPECIFIC); }
 
 bool CharacterData::IsMultiple(const DataContainer* category) {
-  return Fields::Equals(category, L"selection", L"multiple");
+  return Fields::Equals(category, FIELD_SELECTION, VALUE_MULTIPLE);
 }
 
-bool CharacterData::IsRequired(const DataContainer* category) { return Fields::Equals(category, L"required", L"true"); }
+bool CharacterData::IsRequired(const DataContainer* category) {
+  return Fields::Equals(category, FIELD_REQUIRED, VALUE_TRUE);
+}
 
 DataContainer* CharacterData::FindLocalAssetForGlobal(const DataContainer* globalAsset) const {
-  const wchar_t* globalId = Fields::OptionalText(globalAsset, L"id");
+  const wchar_t* globalId = Fields::OptionalText(globalAsset, FIELD_ID);
   if (!globalId) return nullptr;
   for (int i = 0; i < GetCount(ASSETS); ++i) {
     DataContainer* asset = GetContainerElement(ASSETS, i);
-    if (Data2::CheckAssetGlobal(asset) && Fields::Equals(asset, L"globalID", globalId)) return asset;
+    if (Data2::CheckAssetGlobal(asset) && Fields::Equals(asset, FIELD_GLOBAL_ID, globalId)) return asset;
   }
   return nullptr;
 }
 
 DataContainer* CharacterData::ResolveAsset(const DataContainer* element) const {
-  const wchar_t* id = Fields::OptionalText(element, L"id");
+  const wchar_t* id = Fields::OptionalText(element, FIELD_ID);
   if (!id) return nullptr;
   DataContainer* asset = FindElementById(&m_containers[ASSETS], id);
   return Data2::CheckAssetGlobal(asset) ? Data2::GetGlobalAssetForAsset(asset) : asset;

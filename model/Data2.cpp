@@ -9,10 +9,13 @@
 #include "core/Debug.h"
 #include "model/CharacterData.h"
 #include "model/Fields.h"
-#include "model/UniqueRegistry.h"
+#include "model/RepositoryFormat.h"
 #include "model/RepositoryValidation.h"
+#include "model/UniqueRegistry.h"
 
 namespace ZORVEL {
+
+using namespace RepositoryFormat;
 
 namespace {
 
@@ -42,7 +45,7 @@ Record* findRecord(const std::vector<std::unique_ptr<Record>>& records, const wc
     return nullptr;
   }
   for (const auto& record : records) {
-    const wchar_t* recordId = Fields::Text(record.get(), L"id");
+    const wchar_t* recordId = Fields::Text(record.get(), FIELD_ID);
     if (recordId && std::wcscmp(recordId, id) == 0) return record.get();
   }
   return nullptr;
@@ -69,9 +72,9 @@ int Data2::AddCharacter(const wchar_t* name, const wchar_t* id, const wchar_t* u
   const int index = AddCharacter();
   if (index < 0) return index;
   CharacterData* character = GetCharacter(index);
-  character->SetData(L"id", id);
-  character->SetData(L"name", name);
-  character->SetData(L"url", url);
+  character->SetData(FIELD_ID, id);
+  character->SetData(FIELD_NAME, name);
+  character->SetData(FIELD_URL, url);
   RegisterID(character);
   return index;
 }
@@ -104,10 +107,10 @@ DataContainer* Data2::AddMaterialToGlobalaAsset(DataContainer* globalAsset) {
   return material;
 }
 
-bool Data2::CheckAssetGlobal(const DataContainer* asset) { return Fields::Equals(asset, L"type", L"global"); }
+bool Data2::CheckAssetGlobal(const DataContainer* asset) { return Fields::Equals(asset, FIELD_TYPE, VALUE_GLOBAL); }
 
 DataContainer* Data2::GetGlobalAssetForAsset(const DataContainer* asset) {
-  const wchar_t* globalId = Fields::OptionalText(asset, L"globalID");
+  const wchar_t* globalId = Fields::OptionalText(asset, FIELD_GLOBAL_ID);
   return globalId ? FindGlobalAssetById(globalId) : nullptr;
 }
 
@@ -136,7 +139,7 @@ void Data2::RegisterID(const DataContainer* element) {
 
 int Data2::NewUnique() { return UniqueRegistry::NewUnique(); }
 
-const wchar_t* Data2::GetIdForUnique(int unique) { return Fields::Text(UniqueRegistry::Find(unique), L"id"); }
+const wchar_t* Data2::GetIdForUnique(int unique) { return Fields::Text(UniqueRegistry::Find(unique), FIELD_ID); }
 
 bool Data2::IsGlobalAssetUnique(int unique) {
   const DataContainer* element = UniqueRegistry::Find(unique);

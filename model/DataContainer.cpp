@@ -1,4 +1,5 @@
 #include "model/DataContainer.h"
+#include "model/RepositoryFormat.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -7,6 +8,8 @@
 #include "model/UniqueRegistry.h"
 
 namespace ZORVEL {
+
+using namespace RepositoryFormat;
 
 namespace {
 
@@ -162,10 +165,10 @@ DataType DataContainer::GetType() const { return m_type; }
 DataType DataContainer::ClassifyType(const DataContainer* record) {
   if (!record) return TYPE_NONE;
   bool found = false;
-  const wchar_t* type = record->GetData(L"type", found);
+  const wchar_t* type = record->GetData(FIELD_TYPE, found);
   if (!found) return TYPE_NONE;
-  if (std::wcscmp(type, L"common") == 0) return TYPE_COMMON;
-  return std::wcscmp(type, L"specific") == 0 ? TYPE_SPECIFIC : TYPE_NONE;
+  if (std::wcscmp(type, VALUE_COMMON) == 0) return TYPE_COMMON;
+  return std::wcscmp(type, VALUE_SPECIFIC) == 0 ? TYPE_SPECIFIC : TYPE_NONE;
 }
 
 bool DataContainer::IsValid() const { return m_valid; }

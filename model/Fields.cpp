@@ -15,6 +15,11 @@ const wchar_t* Fields::OptionalText(const DataContainer* record, const wchar_t* 
   return record && record->CheckDatafield(field) ? Text(record, field) : nullptr;
 }
 
+std::wstring Fields::TextOrEmpty(const DataContainer* record, const wchar_t* field) {
+  const wchar_t* text = OptionalText(record, field);
+  return text ? text : std::wstring();
+}
+
 bool Fields::Equals(const DataContainer* record, const wchar_t* field, const wchar_t* text) {
   const wchar_t* value = OptionalText(record, field);
   return value && text && std::wcscmp(value, text) == 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace ZORVEL {
 
 class DataContainer;
@@ -11,6 +13,8 @@ class Fields {
   static const wchar_t* Text(const DataContainer* record, const wchar_t* field);
   /// Null for a null record and for a missing field, silently.
   static const wchar_t* OptionalText(const DataContainer* record, const wchar_t* field);
+  /// Empty for a null record and for a missing field, silently.
+  static std::wstring TextOrEmpty(const DataContainer* record, const wchar_t* field);
   /// True when the field is present and equal to the text, which may be null; silent.
   static bool Equals(const DataContainer* record, const wchar_t* field, const wchar_t* text);
 };

@@ -2,16 +2,31 @@
 
 namespace ZORVEL {
 
-/// The names of a repository: files and folders below its root, elements and attributes of its description. Every
-/// attribute becomes a field of the same name.
+/// The names of a repository: files and folders below its root (RepositoryPaths joins them), elements and attributes of
+/// its description. Every attribute becomes a field of the same name.
 namespace RepositoryFormat {
 
-// Joined as they stand to the folder before them.
-constexpr wchar_t DESCRIPTION_FILE[] = L"\\zorvel.xml";
 constexpr wchar_t SEPARATOR[] = L"\\";
-constexpr wchar_t PREVIEWS_FOLDER[] = L"\\previews";
-constexpr wchar_t SKIN_FOLDER[] = L"\\skin";
-constexpr wchar_t GLOBAL_ASSETS_FOLDER[] = L"\\global_assets\\";
+/// Between the ids of a clothing and a pose in the names of files.
+constexpr wchar_t COMBINED[] = L"_";
+
+constexpr wchar_t PREVIEWS_FOLDER[] = L"previews";
+constexpr wchar_t SKIN_FOLDER[] = L"skin";
+constexpr wchar_t MAPS_FOLDER[] = L"maps";
+constexpr wchar_t GLOBAL_ASSETS_FOLDER[] = L"global_assets";
+
+constexpr wchar_t DESCRIPTION_FILE[] = L"zorvel.xml";
+constexpr wchar_t CLOTH_OVERLAY_FILE[] = L"overlay110x330.png";
+constexpr wchar_t ELEMENT_OVERLAY_FILE[] = L"overlay100x300.png";
+constexpr wchar_t LIBRARY_FILE[] = L"materials.mat";
+constexpr wchar_t SKIN_LIBRARY_FILE[] = L"skin.mat";
+constexpr wchar_t PROPS_LIBRARY_FILE[] = L"props.mat";
+constexpr wchar_t BODY_MESH_FILE[] = L"pose.vrmesh";
+constexpr wchar_t ASSET_MESH_FILE[] = L"asset.vrmesh";
+constexpr wchar_t MESH_ENDING[] = L".vrmesh";
+constexpr wchar_t ASSET_PICTURE_FILE[] = L"preview.png";
+constexpr wchar_t PREVIEW_PREFIX[] = L"preview_";
+constexpr wchar_t PICTURE_ENDING[] = L".png";
 
 constexpr wchar_t ELEMENT_ZORVEL[] = L"zorvel";
 constexpr wchar_t ELEMENT_CHARACTER[] = L"character";
@@ -44,7 +59,6 @@ constexpr wchar_t FIELD_SELECTION[] = L"selection";
 constexpr wchar_t FIELD_REQUIRED[] = L"required";
 constexpr wchar_t FIELD_MATERIAL[] = L"material";
 constexpr wchar_t FIELD_ASSET_ID[] = L"asset_id";
-constexpr wchar_t FIELD_LOCAL_ASSET_ID[] = L"local_asset_id";
 constexpr wchar_t FIELD_MATERIAL_ID[] = L"material_id";
 constexpr wchar_t FIELD_POSE_ID[] = L"poseID";
 constexpr wchar_t FIELD_MATRIX_ASSET_ID[] = L"assetID";
@@ -56,6 +70,10 @@ constexpr wchar_t FIELD_YROT[] = L"yrot";
 constexpr wchar_t FIELD_ZROT[] = L"zrot";
 /// Never in the file: set while reading, to one of the two values.
 constexpr wchar_t FIELD_AVAILABLE[] = L"available";
+/// Nor these: the id under which a character knows a global asset, and the folders of textures, derived when building.
+constexpr wchar_t FIELD_LOCAL_ASSET_ID[] = L"local_asset_id";
+constexpr wchar_t FIELD_TEXTURE_FOLDER[] = L"generalTextureFolder";
+constexpr wchar_t FIELD_GLOBAL_MAPS[] = L"globalMaps";
 
 constexpr wchar_t VALUE_AVAILABLE[] = L"available";
 constexpr wchar_t VALUE_NOT_AVAILABLE[] = L"notavailable";

@@ -4,23 +4,22 @@
 
 #include "core/Debug.h"
 #include "core/Disk.h"
-#include "core/Settings.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
+#include "model/RepositoryPaths.h"
 
 namespace ZORVEL {
 
 namespace {
 
-/// True when the record has a "folder" and `base` joined with it is an existing folder.
-bool hasFolderBelow(const DataContainer& record, const std::wstring& base) {
-  const wchar_t* folder = Fields::Text(&record, RepositoryFormat::FIELD_FOLDER);
-  return folder && Disk::FolderExists(base + folder);
+/// True when the record has a "folder", and the path that this gives it is an existing folder.
+bool HasFolder(const DataContainer& record, const std::wstring& path) {
+  return Fields::Text(&record, RepositoryFormat::FIELD_FOLDER) && Disk::FolderExists(path);
 }
 
-void validateAsset(DataContainer* asset, const wchar_t* characterFolder) {
+void ValidateAsset(DataContainer* asset, const wchar_t* characterFolder) {
   if (!Data2::CheckAssetGlobal(asset)) {
     RepositoryValidation::ValidateElement(asset, characterFolder);
     return;
@@ -29,15 +28,27 @@ void validateAsset(DataContainer* asset, const wchar_t* characterFolder) {
   if (globalAsset) asset->SetFastFlag(FLAG_VALID, globalAsset->GetFastFlag(FLAG_VALID));
 }
 
+/// Of a record without the mark whose own folder was looked for.
+Refusal WhyFolderNotFound(const DataContainer& record, const std::wstring& path) {
+  const bool named = record.CheckDatafield(RepositoryFormat::FIELD_FOLDER);
+  return named ? Refusal(WhyNot::FolderMissing, path) : Refusal(WhyNot::FolderUnnamed, RepositoryFormat::FIELD_FOLDER);
+}
+
+Refusal WhyStandInUnmarked(const DataContainer& asset) {
+  const DataContainer* globalAsset = Data2::GetGlobalAssetForAsset(&asset);
+  if (globalAsset) return RepositoryValidation::WhyUnmarked(*globalAsset, nullptr);
+  const wchar_t* id = Fields::OptionalText(&asset, RepositoryFormat::FIELD_GLOBAL_ID);
+  return id ? Refusal(WhyNot::GlobalUnknown, id) : Refusal(WhyNot::GlobalUnnamed, RepositoryFormat::FIELD_GLOBAL_ID);
+}
+
 }  // namespace
 
 void RepositoryValidation::ValidateGlobalAssets() {
   if (Data2::GetGlobalAssetCount() == 0) return;
-  const wchar_t* root = Settings::GetPath();
-  const std::wstring base = std::wstring(root ? root : L"") + RepositoryFormat::GLOBAL_ASSETS_FOLDER;
+  const std::wstring root = RepositoryPaths::Root();
   for (int i = 0; i < Data2::GetGlobalAssetCount(); ++i) {
     DataContainer* globalAsset = Data2::GetGlobalAsset(i);
-    const bool valid = hasFolderBelow(*globalAsset, base);
+    const bool valid = HasFolder(*globalAsset, RepositoryPaths::GlobalAsset(root, globalAsset));
     if (!valid) Debug::AddDebugMessage(DEBUG_INFO, L"set global asset invalid...");
     globalAsset->SetFastFlag(FLAG_VALID, valid);
   }
@@ -56,16 +67,26 @@ void RepositoryValidation::ValidateCharacter(CharacterData* character) {
     ValidateElement(character->GetContainerElement(POSES, i), folder);
   }
   for (int i = 0; i < character->GetCount(ASSETS); ++i) {
-    validateAsset(character->GetContainerElement(ASSETS, i), folder);
+    ValidateAsset(character->GetContainerElement(ASSETS, i), folder);
   }
 }
 
 bool RepositoryValidation::ValidateElement(DataContainer* element, const wchar_t* baseFolder) {
   if (!element || !baseFolder) return false;
-  const bool valid = hasFolderBelow(*element, std::wstring(baseFolder) + RepositoryFormat::SEPARATOR);
+  const bool valid = HasFolder(*element, RepositoryPaths::Element(baseFolder, element));
   if (!valid) Debug::AddDebugMessage(DEBUG_INFO, L"set element invalid...");
   element->SetFastFlag(FLAG_VALID, valid);
   return valid;
+}
+
+Refusal RepositoryValidation::WhyUnmarked(const DataContainer& record, const CharacterData* character) {
+  if (record.GetFastFlag(FLAG_VALID)) return Refusal();
+  if (!character) return WhyFolderNotFound(record, RepositoryPaths::GlobalAsset(RepositoryPaths::Root(), &record));
+  const std::wstring folder = Fields::TextOrEmpty(character, RepositoryFormat::FIELD_FOLDER);
+  if (&record == character) return WhyFolderNotFound(record, folder);
+  if (!character->GetFastFlag(FLAG_VALID)) return Refusal(WhyNot::NeverChecked, folder);
+  if (Data2::CheckAssetGlobal(&record)) return WhyStandInUnmarked(record);
+  return WhyFolderNotFound(record, RepositoryPaths::Element(folder, &record));
 }
 
 }  // namespace ZORVEL

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Refusal.h"
+
 namespace ZORVEL {
 
 class CharacterData;
@@ -16,6 +18,10 @@ class RepositoryValidation {
   static void ValidateCharacter(CharacterData* character);
   /// False when the element is marked invalid, or when an argument is null, which marks nothing.
   static bool ValidateElement(DataContainer* element, const wchar_t* baseFolder);
+
+  /// Why the last run has left a character, one of its clothes, poses or assets, or a global asset without the mark;
+  /// Nothing when it has it. Asks no disk. `character` is null for a global asset.
+  static Refusal WhyUnmarked(const DataContainer& record, const CharacterData* character);
 };
 
 }  // namespace ZORVEL

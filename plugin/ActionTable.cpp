@@ -2,8 +2,8 @@
 
 #include <maxapi.h>
 
-#include "plugin/Commands.h"
 #include "core/Debug.h"
+#include "plugin/Commands.h"
 #include "plugin/Module.h"
 
 namespace ZORVEL {

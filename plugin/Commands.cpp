@@ -12,6 +12,7 @@
 #include "plugin/CommandListener.h"
 #include "plugin/RepositoryDialog.h"
 #include "repository/Parser2.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 #include "scene/Placement.h"
 #include "ui/MainWindow.h"
@@ -150,7 +151,8 @@ bool Commands::SetPath() {
 void Commands::CreateCharacter() {
   Tell(Command::CreateCharacter);
   ExecuteMAXScriptScript(L"animButtonState=false");
-  INode* parent = CharacterBuilder::BuildSelectedCharacter();
+  BuildReport report;
+  INode* parent = CharacterBuilder::BuildSelectedCharacter(report);
   if (parent == nullptr) return LogError(L"Commands::CreateCharacter could not create character");
   Placement::StartPlacement(parent);
 }

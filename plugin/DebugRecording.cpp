@@ -3,9 +3,9 @@
 #include <exception>
 
 #include "core/Debug.h"
+#include "core/LogStore.h"
 #include "plugin/DebugWindow.h"
 #include "plugin/DebugWindowClass.h"
-#include "core/LogStore.h"
 
 namespace ZORVEL {
 

@@ -8,6 +8,7 @@
 #include "model/Data2.h"
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
+#include "model/RepositoryPaths.h"
 #include "repository/XmlDocument.h"
 
 namespace ZORVEL {
@@ -59,14 +60,9 @@ CharacterData* addCharacter() {
   return character;
 }
 
-std::wstring textOf(const DataContainer& record, const wchar_t* field) {
-  const wchar_t* text = Fields::Text(&record, field);
-  return text ? text : L"";
-}
-
 /// A piece of clothing without a folder is looked for in the character's own.
 void markAvailability(DataContainer& clothing, const CharacterData& character) {
-  const std::wstring folder = textOf(character, FIELD_FOLDER) + SEPARATOR + textOf(clothing, FIELD_FOLDER);
+  const std::wstring folder = RepositoryPaths::Element(Fields::TextOrEmpty(&character, FIELD_FOLDER), &clothing);
   clothing.SetData(FIELD_AVAILABLE, Disk::FolderExists(folder) ? VALUE_AVAILABLE : VALUE_NOT_AVAILABLE);
 }
 
@@ -85,7 +81,7 @@ bool NetXMLParser2::ParseRepositoryXML(const wchar_t* path) {
   }
   Debug::AddDebugMessage(DEBUG_INFO, L"Parse Folder:");
   Debug::AddDebugMessage(DEBUG_INFO, path);
-  const std::wstring file = std::wstring(path) + DESCRIPTION_FILE;
+  const std::wstring file = RepositoryPaths::Description(path);
   if (!Disk::FileExists(file)) {
     Debug::AddDebugMessage(DEBUG_INFO, L"ParseRepositoryXML: XML file \"zorvel.xml\" does not exist in this folder:");
     Debug::AddDebugMessage(DEBUG_INFO, path);
@@ -110,10 +106,10 @@ bool NetXMLParser2::ParseCharacter(const XmlElement* element, const wchar_t* pat
   if (!element || !path || element->attributeCount == 0 || !isNamed(*element, ELEMENT_CHARACTER)) return false;
   const wchar_t* name = element->FindAttribute(FIELD_FOLDER);
   if (!holds(name != nullptr, L"ParseCharacter: invalid XML structure (folder)")) return false;
-  const std::wstring folder = std::wstring(path) + SEPARATOR + name;
-  const bool previews = Disk::FolderExists(folder + PREVIEWS_FOLDER);
+  const std::wstring folder = RepositoryPaths::Character(path, name);
+  const bool previews = Disk::FolderExists(RepositoryPaths::Previews(folder));
   if (!holds(previews, L"ParseCharacter: subfolder \"previews\" does not exist")) return false;
-  const bool skin = Disk::FolderExists(folder + SKIN_FOLDER);
+  const bool skin = Disk::FolderExists(RepositoryPaths::Skin(folder));
   if (!holds(skin, L"ParseCharacter: subfolder \"skin\" does not exist")) return false;
 
   CharacterData* character = addCharacter();

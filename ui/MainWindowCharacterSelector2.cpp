@@ -1,8 +1,8 @@
 #include "ui/MainWindowCharacterSelector2.h"
 
-#include "plugin/Commands.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
+#include "plugin/Commands.h"
 #include "ui/Log.h"
 #include "ui/Texts.h"
 

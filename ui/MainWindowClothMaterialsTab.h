@@ -4,15 +4,13 @@
 
 namespace ZORVEL {
 
-class CharacterData;
-
 /// The styles of the chosen clothing, of which one is always chosen.
 class MainWindowClothMaterialsTab : public MainWindowGeneralPage {
  public:
   using MainWindowGeneralPage::MainWindowGeneralPage;
 
-  /// Chooses the first that is available. A null clothing has none.
-  void FillMaterials(const DataContainer* clothing, const CharacterData& character);
+  /// A style is hidden only for want of a clothing or a pose, and that is logged.
+  void FillMaterials(PageOffer page);
   void SelectedElement(int unique) override;
   void UnselectElement(int unique) override;
 };

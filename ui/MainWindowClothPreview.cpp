@@ -1,52 +1,38 @@
 #include "ui/MainWindowClothPreview.h"
 
+#include "model/RepositoryPaths.h"
 #include "plugin/Commands.h"
-#include "core/Settings.h"
-#include "model/CharacterData.h"
-#include "model/Data2.h"
-#include "model/Fields.h"
-#include "ui/Log.h"
 #include "ui/Texts.h"
 
 namespace ZORVEL {
 
-bool MainWindowClothPreview::Create(QWidget* panel, int x, const DataContainer* clothElement,
-                                    const CharacterData* character, FileStamps& files) {
-  if (panel == nullptr || clothElement == nullptr || character == nullptr) return false;
-  m_charUnique = Data2::GetUnique(character);
-  m_clothUnique = Data2::GetUnique(clothElement);
-  m_available = Fields::Equals(clothElement, L"available", L"available");
-  m_url = Texts::Field(clothElement, L"url");
+void MainWindowClothPreview::Create(QWidget* panel, int x, OfferedElement cloth, int character, FileStamps& files) {
+  m_charUnique = character;
+  m_cloth = std::move(cloth);
   PictureSource source;
-  source.path =
-      Texts::Field(character, L"folder") + L"\\previews\\preview_" + Texts::Field(clothElement, L"id") + L".png";
+  source.path = m_cloth.picturePath;
   source.stamp = files.Get(source.path);
-  if (!source.stamp.exists) {
-    LogInfo(L"preview image not found");
-    return false;
-  }
   source.box = QSize(110, 330);
-  if (!m_available) {
-    source.overlay = Settings::GetPath() + std::wstring(L"\\overlay110x330.png");
+  if (!isAvailable()) {
+    source.overlay = RepositoryPaths::ClothOverlay(RepositoryPaths::Root());
     source.overlayStamp = files.Get(source.overlay);
   }
   m_preview = new PictureBox(panel);
   m_preview->setGeometry(QRect(QPoint(x + 10, 70), source.box));
   m_preview->hide();
   m_preview->SetSource(source);
-  const QString description = describe(clothElement, character);
+  const QString description = Describe();
   m_preview->setToolTip(Texts::ToolTip(description));
-  m_preview->setAccessibleName(Texts::OneLine(Texts::FromWide(Texts::Field(clothElement, L"name"))));
+  m_preview->setAccessibleName(Texts::OneLine(Texts::FromWide(m_cloth.text)));
   m_preview->setAccessibleDescription(Texts::OneLine(description));
   QObject::connect(m_preview, &PictureBox::clicked, m_preview, [this] { clicked(); });
-  return true;
 }
 
-QString MainWindowClothPreview::describe(const DataContainer* clothElement, const CharacterData* character) const {
-  QString text = Texts::FromWide(Texts::Field(clothElement, L"name"));
-  if (m_available) return text;
-  const std::wstring folder = Texts::Field(character, L"folder") + L"\\" + Texts::Field(clothElement, L"folder");
-  return text + QObject::tr("\nNot available, this folder is missing: %1").arg(Texts::FromWide(folder));
+QString MainWindowClothPreview::Describe() const {
+  const QString text = Texts::FromWide(m_cloth.text);
+  if (isAvailable()) return text;
+  const QString folder = Texts::FromWide(m_cloth.refusal.concerned);
+  return text + QObject::tr("\nNot available, this folder is missing: %1").arg(folder);
 }
 
 void MainWindowClothPreview::Place(int x, int y) {
@@ -56,7 +42,7 @@ void MainWindowClothPreview::Place(int x, int y) {
 }
 
 void MainWindowClothPreview::clicked() {
-  Commands::SetSelectedClothUnique(static_cast<unsigned int>(m_charUnique), static_cast<unsigned int>(m_clothUnique),
+  Commands::SetSelectedClothUnique(static_cast<unsigned int>(m_charUnique), static_cast<unsigned int>(m_cloth.unique),
                                    true);
 }
 

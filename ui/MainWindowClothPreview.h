@@ -1,13 +1,9 @@
 #pragma once
 
-#include <string>
-
+#include "model/PageOffer.h"
 #include "ui/PictureBox.h"
 
 namespace ZORVEL {
-
-class CharacterData;
-class DataContainer;
 
 /// One picture of the clothing strip.
 class MainWindowClothPreview {
@@ -16,23 +12,20 @@ class MainWindowClothPreview {
   MainWindowClothPreview(const MainWindowClothPreview&) = delete;
   MainWindowClothPreview& operator=(const MainWindowClothPreview&) = delete;
 
-  /// Makes the picture, hidden, as a child of the panel, which destroys it. False when there is no file to show, or an
-  /// argument is null. The preview must live as long as the picture does.
-  bool Create(QWidget* panel, int x, const DataContainer* clothElement, const CharacterData* character,
-              FileStamps& files);
+  /// Makes the picture, hidden, as a child of the panel, which destroys it. The preview must live as long as the
+  /// picture does. `character` is the unique id of the one whose clothing it is.
+  void Create(QWidget* panel, int x, OfferedElement cloth, int character, FileStamps& files);
   void Place(int x, int y);
-  bool isAvailable() const { return m_available; }
+  bool isAvailable() const { return m_cloth.IsAvailable(); }
   const PictureBox* GetPicture() const { return m_preview; }
 
  private:
-  QString describe(const DataContainer* clothElement, const CharacterData* character) const;
+  QString Describe() const;
   void clicked();
 
   PictureBox* m_preview = nullptr;
   int m_charUnique = 0;
-  int m_clothUnique = 0;
-  std::wstring m_url;
-  bool m_available = false;
+  OfferedElement m_cloth;
 };
 
 }  // namespace ZORVEL

@@ -1,9 +1,8 @@
 #include "ui/MainWindowClothSelector.h"
 
-#include <algorithm>
-
 #include "model/CharacterData.h"
 #include "model/Data2.h"
+#include "model/PageOffers.h"
 #include "model/Selection2.h"
 #include "ui/DestroyTogether.h"
 #include "ui/Log.h"
@@ -47,21 +46,14 @@ void MainWindowClothSelector::AddPreviews() {
   const CharacterData* character = Data2::GetCharacter(Selection2::GetCharacter());
   if (character == nullptr) return;
   FileStamps files;
+  PageOffer page = PageOffers(*character, files).GetClothing();
+  for (std::size_t i = 0; i < page.hidden.size(); ++i) LogInfo(L"preview image not found");
   int x = 2;
-  for (int i = 0; i < character->GetCount(CLOTH); ++i) {
-    const DataContainer* cloth = character->GetContainerElement(CLOTH, i);
-    auto preview = std::make_unique<MainWindowClothPreview>();
-    if (cloth == nullptr || !preview->Create(m_panel->GetContent(), x, cloth, character, files)) continue;
+  for (OfferedElement& offered : page.shown) {
+    m_elements.push_back(std::make_unique<MainWindowClothPreview>());
+    m_elements.back()->Create(m_panel->GetContent(), x, std::move(offered), Data2::GetUnique(character), files);
     x += 112;
-    Insert(std::move(preview));
   }
-}
-
-void MainWindowClothSelector::Insert(std::unique_ptr<MainWindowClothPreview> preview) {
-  const auto isMissing = [](const std::unique_ptr<MainWindowClothPreview>& one) { return !one->isAvailable(); };
-  const auto place =
-      preview->isAvailable() ? std::find_if(m_elements.begin(), m_elements.end(), isMissing) : m_elements.end();
-  m_elements.insert(place, std::move(preview));
 }
 
 void MainWindowClothSelector::UpdateWidth(int width) {

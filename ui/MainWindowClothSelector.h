@@ -26,7 +26,6 @@ class MainWindowClothSelector {
  private:
   void DisplayCloth(int width);
   void AddPreviews();
-  void Insert(std::unique_ptr<MainWindowClothPreview> preview);
   void MouseMove();
 
   ScrollPanel* m_panel = nullptr;

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/Settings.h"
+#include "model/RepositoryPaths.h"
 #include "ui/Log.h"
 #include "ui/MainWindowGeneralPage.h"
 #include "ui/Texts.h"
@@ -10,7 +10,7 @@
 
 namespace ZORVEL {
 
-void MainWindowElementBase::Create(Content content, MainWindowGeneralPage* host) {
+void MainWindowElementBase::Create(OfferedElement content, MainWindowGeneralPage* host) {
   m_content = std::move(content);
   m_host = host;
 }
@@ -44,7 +44,7 @@ void MainWindowElementBase::makePicture(QWidget* parent) {
   source.stamp = m_host->GetFiles().Get(source.path);
   source.box = GetPictureSize();
   if (!isAvailable()) {
-    source.overlay = Settings::GetPath() + std::wstring(L"\\overlay100x300.png");
+    source.overlay = RepositoryPaths::ElementOverlay(RepositoryPaths::Root());
     source.overlayStamp = m_host->GetFiles().Get(source.overlay);
   }
   m_logo = new PictureBox(parent);
@@ -56,7 +56,7 @@ void MainWindowElementBase::makePicture(QWidget* parent) {
 QString MainWindowElementBase::describe() const {
   QString text = Texts::FromWide(m_content.text);
   if (isAvailable()) return text;
-  text += QObject::tr("\nNot available, this file is missing: %1").arg(Texts::FromWide(m_content.missingFile));
+  text += QObject::tr("\nNot available, this file is missing: %1").arg(Texts::FromWide(m_content.refusal.concerned));
   const QString url = Texts::FromWide(m_content.url);
   if (WebAddress::IsAllowed(url)) text += QObject::tr("\nA click opens %1").arg(url);
   return text;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-
+#include "model/PageOffer.h"
 #include "ui/PictureBox.h"
 #include "ui/WrappingCheckBox.h"
 
@@ -13,28 +12,19 @@ class MainWindowGeneralPage;
 /// its picture opens the web page where it can be had.
 class MainWindowElementBase {
  public:
-  struct Content {
-    int unique = 0;
-    std::wstring picturePath;
-    std::wstring text;
-    bool available = false;
-    std::wstring url;
-    std::wstring missingFile;  ///< what is not there when it is not available
-  };
-
   virtual ~MainWindowElementBase() = default;
   MainWindowElementBase(const MainWindowElementBase&) = delete;
   MainWindowElementBase& operator=(const MainWindowElementBase&) = delete;
 
   /// What the element is; it can be chosen from now on.
-  void Create(Content content, MainWindowGeneralPage* host);
+  void Create(OfferedElement content, MainWindowGeneralPage* host);
   /// Makes the controls, children of `parent`, which destroys them. The element must live as long as they do.
   void MakeControls(QWidget* parent);
   /// `y` is where the picture ends and the box begins.
   void Place(int x, int y);
 
   int GetUnique() const { return m_content.unique; }
-  bool isAvailable() const { return m_content.available; }
+  bool isAvailable() const { return m_content.IsAvailable(); }
   bool GetSelected() const { return m_selected; }
   /// Tells nobody.
   void SetSelected(bool selected);
@@ -60,7 +50,7 @@ class MainWindowElementBase {
   void AfterSelectImage();
   void tellHost(bool selected);
 
-  Content m_content;
+  OfferedElement m_content;
   bool m_selected = false;
   WrappingCheckBox* m_checkBox = nullptr;
   PictureBox* m_logo = nullptr;

@@ -4,7 +4,7 @@
 
 #include "model/Data2.h"
 #include "model/Selection2.h"
-#include "ui/ClothInPose.h"
+#include "plugin/InitialChoice.h"
 #include "ui/Texts.h"
 
 namespace ZORVEL {
@@ -74,31 +74,12 @@ QWidget* MainWindowGeneralPage::GetFirstControl() const {
   return first != nullptr ? first : m_page;
 }
 
-void MainWindowGeneralPage::InsertByAvailability(ElementPtr element) {
-  const auto isMissing = [](const ElementPtr& one) { return !one->isAvailable(); };
-  const auto place =
-      element->isAvailable() ? std::find_if(m_elements.begin(), m_elements.end(), isMissing) : m_elements.end();
-  m_elements.insert(place, std::move(element));
-}
-
-void MainWindowGeneralPage::ChooseFirst(MainWindowElementBase& element, Command command) {
-  if (m_lastSelected != 0 || !element.isAvailable()) return;
-  m_lastSelected = element.GetUnique();
-  command(static_cast<unsigned int>(m_lastSelected), false);
-  element.SetSelected(true);
-}
-
-MainWindowElementBase::Content MainWindowGeneralPage::Describe(int unique, const std::wstring& text,
-                                                               const std::wstring& picturePath,
-                                                               const ClothInPose& worn) {
-  MainWindowElementBase::Content content;
-  content.unique = unique;
-  content.picturePath = picturePath;
-  content.text = text;
-  content.missingFile = worn.GetMeshPath();
-  content.available = m_files.Exists(content.missingFile);
-  content.url = worn.GetUrl();
-  return content;
+void MainWindowGeneralPage::BeginWith(const PageOffer& page) {
+  for (const int unique : page.choice) {
+    m_lastSelected = unique;
+    SelectElement(unique);
+  }
+  InitialChoice::Make(page);
 }
 
 void MainWindowGeneralPage::MouseMove() {

@@ -4,14 +4,14 @@
 #include <memory>
 #include <vector>
 
-#include "ui/FileStamp.h"
+#include "core/FileStamps.h"
+#include "model/PageOffer.h"
 #include "ui/MainWindowElementBase.h"
 #include "ui/MaxForm.h"
 #include "ui/ScrollPanel.h"
 
 namespace ZORVEL {
 
-class ClothInPose;
 class DataContainer;
 
 /// One tab page: elements in columns. What a click on one of them means is for the kinds of pages to say.
@@ -53,28 +53,22 @@ class MainWindowGeneralPage {
 
  protected:
   using ElementPtr = std::unique_ptr<MainWindowElementBase>;
-  using Command = void (*)(unsigned int unique, bool updateGui);
 
-  /// Null when there is no picture to show the element by.
+  /// Makes the elements that the page shows, and chooses what it begins with; the window is not refreshed for it.
   template <class Element>
-  ElementPtr MakeElement(int unique, const std::wstring& text, const std::wstring& picturePath,
-                         const ClothInPose& worn) {
-    if (!m_files.Exists(picturePath)) return nullptr;
-    ElementPtr element = std::make_unique<Element>();
-    element->Create(Describe(unique, text, picturePath, worn), this);
-    return element;
+  void Fill(PageOffer page) {
+    m_elements.reserve(page.shown.size());
+    for (OfferedElement& offered : page.shown) {
+      m_elements.push_back(std::make_unique<Element>());
+      m_elements.back()->Create(std::move(offered), this);
+    }
+    BeginWith(page);
   }
-  /// Available ones first, each group in the order of insertion.
-  void InsertByAvailability(ElementPtr element);
-  void Append(ElementPtr element) { m_elements.push_back(std::move(element)); }
-  /// Chooses the first that is available; the window is not refreshed for it.
-  void ChooseFirst(MainWindowElementBase& element, Command command);
 
   int m_lastSelected = 0;
 
  private:
-  MainWindowElementBase::Content Describe(int unique, const std::wstring& text, const std::wstring& picturePath,
-                                          const ClothInPose& worn);
+  void BeginWith(const PageOffer& page);
   void layOut();
   void MouseMove();
 

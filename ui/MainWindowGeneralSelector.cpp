@@ -4,21 +4,16 @@
 
 #include "model/CharacterData.h"
 #include "model/Data2.h"
+#include "model/PageOffers.h"
 #include "model/Selection2.h"
 #include "ui/DestroyTogether.h"
 #include "ui/Log.h"
-#include "ui/Texts.h"
 
 namespace ZORVEL {
 
 namespace {
 
 const CharacterData* ChosenCharacter() { return Data2::GetCharacter(Selection2::GetCharacter()); }
-
-std::wstring TitleOf(const CharacterData& character, CONTAINER container) {
-  const wchar_t* name = character.GetContainerName(container);
-  return name != nullptr ? name : std::wstring();
-}
 
 }  // namespace
 
@@ -47,8 +42,7 @@ void MainWindowGeneralSelector::UpdateWidget(int width, int height) {
   RemovePages(0);
   m_parent->MoveControl(m_control, QRect(m_control->pos(), QSize(width - 217, height - 146)));
   if (const CharacterData* character = ChosenCharacter()) {
-    BuildPosesPage(*character, width);
-    BuildPages(*character, width);
+    PageOffers(*character, m_files).VisitAll([this, width](PageOffer page) { AddPage(std::move(page), width); });
     UpdateWidth(width);
     UpdateSelection();
   }
@@ -70,53 +64,35 @@ void MainWindowGeneralSelector::RebuildExeptPoses(int width) {
 }
 
 void MainWindowGeneralSelector::BuildPages(const CharacterData& character, int width) {
-  BuildSkinsPage(character, width);
-  BuildMaterialsPage(character, width);
-  for (int i = 0; i < character.GetCount(CATEGORIES); ++i) {
-    BuildAssetPage(character, character.GetContainerElement(CATEGORIES, i), width);
+  PageOffers(character, m_files).VisitExceptPoses([this, width](PageOffer page) { AddPage(std::move(page), width); });
+}
+
+void MainWindowGeneralSelector::AddPage(PageOffer page, int width) {
+  switch (page.kind) {
+    case PageKind::Clothing:
+      return;
+    case PageKind::Poses:
+      posesTab = MakePage<MainWindowPosesTab>(100, 300, page.title, width);
+      return posesTab->FillPoses(std::move(page));
+    case PageKind::Skins:
+      skinTab = MakePage<MainWindowSkinTab>(150, 150, page.title, width);
+      return skinTab->FillSkins(std::move(page));
+    case PageKind::Styles:
+      clothMaterialTab = MakePage<MainWindowClothMaterialsTab>(100, 300, page.title, width);
+      return clothMaterialTab->FillMaterials(std::move(page));
+    case PageKind::Assets:
+      if (page.hasTab) MakePage<MainWindowGenericTab>(150, 150, page.title, width)->FillAssets(std::move(page));
   }
 }
 
 template <class Page>
-Page* MainWindowGeneralSelector::AddPage(int w, int h, const std::wstring& title, int width) {
+Page* MainWindowGeneralSelector::MakePage(int w, int h, const std::wstring& title, int width) {
   auto page = std::make_unique<Page>(*m_parent, m_files);
   Page* added = page.get();
   m_pages.push_back(std::move(page));
   added->SetSize(w, h);
   added->Create(m_control, width, title);
   return added;
-}
-
-void MainWindowGeneralSelector::BuildPosesPage(const CharacterData& character, int width) {
-  posesTab = AddPage<MainWindowPosesTab>(100, 300, TitleOf(character, POSES), width);
-  posesTab->FillPoses(character);
-}
-
-void MainWindowGeneralSelector::BuildSkinsPage(const CharacterData& character, int width) {
-  skinTab = AddPage<MainWindowSkinTab>(150, 150, TitleOf(character, SKINS), width);
-  skinTab->FillSkins(character);
-}
-
-void MainWindowGeneralSelector::BuildMaterialsPage(const CharacterData& character, int width) {
-  const DataContainer* clothing = character.GetCloth(Selection2::GetCloth());
-  if (clothing == nullptr || clothing->GetChildCount() == 0) return;
-  clothMaterialTab = AddPage<MainWindowClothMaterialsTab>(100, 300, TitleOf(character, CLOTH), width);
-  clothMaterialTab->FillMaterials(clothing, character);
-}
-
-void MainWindowGeneralSelector::BuildAssetPage(const CharacterData& character, const DataContainer* category,
-                                               int width) {
-  if (category == nullptr) return;
-  std::vector<DataContainer*> assets;
-  character.GetAssetsForCategory(assets, category);
-  if (assets.empty()) return;
-  const bool multiple = CharacterData::IsMultiple(category);
-  if (multiple) LogInfo(L"set multiple true...");
-  const bool required = CharacterData::IsRequired(category);
-  if (required) LogInfo(L"set required true...");
-  auto* page = AddPage<MainWindowGenericTab>(150, 150, Texts::Field(category, L"name"), width);
-  page->SetCategoryInfo(multiple, required);
-  page->FillAssets(assets, character);
 }
 
 void MainWindowGeneralSelector::UpdateWidth(int width) {

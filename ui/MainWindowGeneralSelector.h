@@ -11,6 +11,8 @@
 
 namespace ZORVEL {
 
+class CharacterData;
+
 /// The tab control with the pages of what can be chosen for the chosen clothing: poses first, then skins, materials of
 /// the clothing, and a page for each asset category. Filling a page makes the choices that it begins with.
 class MainWindowGeneralSelector {
@@ -34,10 +36,7 @@ class MainWindowGeneralSelector {
 
  private:
   void BuildPages(const CharacterData& character, int width);
-  void BuildPosesPage(const CharacterData& character, int width);
-  void BuildSkinsPage(const CharacterData& character, int width);
-  void BuildMaterialsPage(const CharacterData& character, int width);
-  void BuildAssetPage(const CharacterData& character, const DataContainer* category, int width);
+  void AddPage(PageOffer page, int width);
   void UpdateWidthExeptPoses(int width);
   void UpdateStyleSelection();
   void SelectTabControl(int index);
@@ -45,7 +44,7 @@ class MainWindowGeneralSelector {
   /// Drops the pages from the index on.
   void RemovePages(std::size_t first);
   template <class Page>
-  Page* AddPage(int w, int h, const std::wstring& title, int width);
+  Page* MakePage(int w, int h, const std::wstring& title, int width);
 
   TabControl* m_control = nullptr;
   std::vector<std::unique_ptr<MainWindowGeneralPage>> m_pages;

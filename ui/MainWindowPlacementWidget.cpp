@@ -1,7 +1,7 @@
 #include "ui/MainWindowPlacementWidget.h"
 
-#include "plugin/Commands.h"
 #include "model/Selection2.h"
+#include "plugin/Commands.h"
 
 namespace ZORVEL {
 

@@ -4,15 +4,12 @@
 
 namespace ZORVEL {
 
-class CharacterData;
-
 /// The skins, of which one is always chosen.
 class MainWindowSkinTab : public MainWindowGeneralPage {
  public:
   using MainWindowGeneralPage::MainWindowGeneralPage;
 
-  /// Chooses the first that is available; none is when the clothing cannot be worn in the chosen pose.
-  void FillSkins(const CharacterData& character);
+  void FillSkins(PageOffer page);
   void SelectedElement(int unique) override;
   void UnselectElement(int unique) override;
 };

@@ -4,7 +4,7 @@
 #include <QPixmap>
 #include <string>
 
-#include "ui/FileStamp.h"
+#include "core/FileStamps.h"
 
 namespace ZORVEL {
 

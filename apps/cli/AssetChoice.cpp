@@ -4,30 +4,42 @@
 
 #include "apps/cli/ModelText.h"
 #include "apps/cli/NearestIds.h"
-#include "plugin/Commands.h"
+#include "host/files/Paths.h"
 #include "model/Data2.h"
+#include "model/RepositoryFormat.h"
 #include "model/Selection2.h"
+#include "plugin/Commands.h"
+#include "plugin/InitialChoice.h"
 
 namespace cli {
 
 using ZORVEL::CharacterData;
 using ZORVEL::Data2;
 using ZORVEL::DataContainer;
+using ZORVEL::OfferedElement;
+using ZORVEL::PageOffer;
 using ZORVEL::Selection2;
+using namespace ZORVEL::RepositoryFormat;
 
 namespace {
 
-/// By the rules of its category; no window is there to be refreshed.
-void add(const DataContainer& chosen) {
-  ZORVEL::Commands::SetSelectedAsset(static_cast<unsigned int>(Data2::GetUnique(&chosen)), false);
+/// What stands for an asset on a page: for one of type "global" the shared record, where there is one.
+const DataContainer* recordOf(const DataContainer& asset) {
+  const DataContainer* shared = Data2::CheckAssetGlobal(&asset) ? Data2::GetGlobalAssetForAsset(&asset) : nullptr;
+  return shared != nullptr ? shared : &asset;
 }
 
 }  // namespace
 
-void AssetChoice::wish(const std::string& wanted) {
+bool AssetChoice::wish(const std::vector<std::string>& wanted) {
+  for (const std::string& one : wanted) wishFor(one);
+  return result_.errors.empty();
+}
+
+void AssetChoice::wishFor(const std::string& wanted) {
   std::string id = wanted;
   std::string material;
-  DataContainer* asset = find(id);
+  const DataContainer* asset = find(id);
   // An id may hold a colon itself, so the whole text is tried first.
   const std::size_t colon = wanted.rfind(':');
   if (asset == nullptr && colon != std::string::npos) {
@@ -39,57 +51,20 @@ void AssetChoice::wish(const std::string& wanted) {
     result_.errors.push_back(unknownId("asset", id, idsOf(elementsOf(character_, ZORVEL::ASSETS))));
     return;
   }
-  DataContainer* record = recordOf(*asset);
-  const DataContainer* chosen = record;
-  if (!material.empty() || record->GetChildCount() > 0) chosen = findMaterial(*record, material);
-  if (chosen != nullptr && isOffered(*asset, record)) wishes_.push_back({id, character_.GetCategory(asset), chosen});
-}
-
-void AssetChoice::select(bool defaults) {
-  const auto isWished = [this](const DataContainer* category) {
-    return std::any_of(wishes_.begin(), wishes_.end(), [&](const Wish& wish) { return wish.category == category; });
-  };
-  for (const DataContainer* category : elementsOf(character_, ZORVEL::CATEGORIES)) {
-    if (defaults && !isWished(category)) selectDefaults(*category);
+  const DataContainer* record = recordOf(*asset);
+  const std::vector<DataContainer*> materials = childrenOf(*record);
+  const auto found = std::find_if(materials.begin(), materials.end(),
+                                  [&](const DataContainer* one) { return field(one, FIELD_ID) == material; });
+  if (!material.empty() && found == materials.end()) {
+    result_.errors.push_back(unknownId("material of " + field(record, FIELD_ID), material, idsOf(materials)));
+    return;
   }
-  // Replacing the choice of a category takes every shared asset out of the selection, so those that replace come first.
-  std::stable_partition(wishes_.begin(), wishes_.end(),
-                        [](const Wish& wish) { return !CharacterData::IsMultiple(wish.category); });
-  for (std::size_t i = 0; i < wishes_.size(); ++i) selectWish(i);
+  wishes_.push_back({id, record, material.empty() ? nullptr : *found, nullptr, 0, {}});
 }
 
-void AssetChoice::selectDefaults(const DataContainer& category) {
-  std::vector<DataContainer*> offered;
-  character_.GetAssetsForCategory(offered, &category);
-  bool first = true;
-  const auto offer = [&](const DataContainer* record, const DataContainer* material) {
-    const bool required = first && CharacterData::IsRequired(&category);
-    first = false;
-    if (!required && !character_.CheckAssetStyleForClothSelection(record, material)) return;
-    add(material != nullptr ? *material : *record);
-  };
-  for (const DataContainer* record : offered) {
-    if (!isUsable(*record)) continue;
-    // An asset with materials is offered once for each, one without as itself.
-    for (const DataContainer* material : childrenOf(*record)) offer(record, material);
-    if (record->GetChildCount() == 0) offer(record, nullptr);
-  }
-}
-
-void AssetChoice::selectWish(std::size_t index) {
-  const Wish& wish = wishes_[index];
-  const auto sameCategory = [&](const Wish& other) { return other.category == wish.category; };
-  const auto end = wishes_.begin() + static_cast<std::ptrdiff_t>(index);
-  if (!CharacterData::IsMultiple(wish.category) && std::any_of(wishes_.begin(), end, sameCategory)) {
-    result_.notes.push_back("Asset " + wish.id + " takes the place of an earlier one: its category, " +
-                            field(wish.category, L"id") + ", takes one.");
-  }
-  add(*wish.chosen);
-}
-
-DataContainer* AssetChoice::find(const std::string& id) const {
+const DataContainer* AssetChoice::find(const std::string& id) const {
   const std::vector<DataContainer*> assets = elementsOf(character_, ZORVEL::ASSETS);
-  for (const wchar_t* name : {L"id", L"globalID"}) {
+  for (const wchar_t* name : {FIELD_ID, FIELD_GLOBAL_ID}) {
     const auto found =
         std::find_if(assets.begin(), assets.end(), [&](const DataContainer* one) { return field(one, name) == id; });
     if (found != assets.end()) return *found;
@@ -97,35 +72,70 @@ DataContainer* AssetChoice::find(const std::string& id) const {
   return nullptr;
 }
 
-DataContainer* AssetChoice::findMaterial(const DataContainer& record, const std::string& id) {
-  const std::vector<DataContainer*> materials = childrenOf(record);
-  if (id.empty()) return materials.front();
-  const auto found = std::find_if(materials.begin(), materials.end(),
-                                  [&](const DataContainer* one) { return field(one, L"id") == id; });
-  if (found != materials.end()) return *found;
-  result_.errors.push_back(unknownId("material of " + field(&record, L"id"), id, idsOf(materials)));
-  return nullptr;
+bool AssetChoice::fits(const Wish& wish, const OfferedElement& element) {
+  const bool anyMaterial = wish.material == nullptr || element.style == nullptr;
+  return element.record == wish.record && (anyMaterial || element.style == wish.material);
 }
 
-DataContainer* AssetChoice::recordOf(DataContainer& asset) {
-  DataContainer* shared = Data2::CheckAssetGlobal(&asset) ? Data2::GetGlobalAssetForAsset(&asset) : nullptr;
-  return shared != nullptr ? shared : &asset;
-}
-
-bool AssetChoice::isOffered(const DataContainer& asset, const DataContainer* record) {
-  std::vector<DataContainer*> offered;
-  character_.GetAssetsForCategory(offered, character_.GetCategory(&asset));
-  const std::string name = "Asset " + field(&asset, L"id");
-  if (std::find(offered.begin(), offered.end(), record) == offered.end()) {
-    const DataContainer* cloth = character_.GetCloth(Selection2::GetCloth());
-    result_.notes.push_back(name + (character_.IsAssetExcludedByCloth(cloth, &asset)
-                                        ? " left out: the clothing excludes it."
-                                        : " left out: it has no place in this pose, or no category."));
-    return false;
+void AssetChoice::visit(const PageOffer& page, bool defaults) {
+  bool wished = false;
+  for (Wish& wish : wishes_) wished = visit(wish, page) || wished;
+  if (wished || !defaults) return;
+  for (const int unique : page.choice) {
+    const auto begun = std::find_if(page.shown.begin(), page.shown.end(),
+                                    [unique](const OfferedElement& one) { return one.unique == unique; });
+    begun_.push_back(*begun);
   }
-  if (isUsable(*record)) return true;
-  result_.notes.push_back(name + " left out: its folder is missing.");
-  return false;
+  ZORVEL::InitialChoice::Make(page);
+}
+
+/// True when the page offers it.
+bool AssetChoice::visit(Wish& wish, const PageOffer& page) const {
+  const auto found = std::find_if(page.shown.begin(), page.shown.end(),
+                                  [&wish](const OfferedElement& one) { return fits(wish, one); });
+  look(wish, page.hidden);
+  if (found == page.shown.end() || wish.unique != 0) return false;
+  wish.unique = found->unique;
+  wish.category = page.category;
+  return true;
+}
+
+void AssetChoice::look(Wish& wish, const std::vector<OfferedElement>& hidden) const {
+  const auto found =
+      std::find_if(hidden.begin(), hidden.end(), [&wish](const OfferedElement& one) { return fits(wish, one); });
+  if (found != hidden.end()) wish.refusal = found->refusal;
+}
+
+void AssetChoice::select(const std::vector<OfferedElement>& withoutPage) {
+  // Replacing the choice of a category takes every shared asset out of the selection, so those that replace come first.
+  std::stable_partition(wishes_.begin(), wishes_.end(),
+                        [](const Wish& wish) { return !CharacterData::IsMultiple(wish.category); });
+  for (Wish& wish : wishes_) look(wish, withoutPage);
+  for (std::size_t i = 0; i < wishes_.size(); ++i) click(i);
+  for (const OfferedElement& element : begun_) reportLost(element);
+}
+
+void AssetChoice::click(std::size_t index) {
+  const Wish& wish = wishes_[index];
+  if (wish.unique == 0) {
+    result_.notes.push_back("Asset " + wish.id + " left out: " + host::toUtf8(wish.refusal.GetText()) + ".");
+    return;
+  }
+  const auto sameCategory = [&](const Wish& other) { return other.unique != 0 && other.category == wish.category; };
+  const auto end = wishes_.begin() + static_cast<std::ptrdiff_t>(index);
+  if (!CharacterData::IsMultiple(wish.category) && std::any_of(wishes_.begin(), end, sameCategory)) {
+    result_.notes.push_back("Asset " + wish.id + " takes the place of an earlier one: its category, " +
+                            field(wish.category, FIELD_ID) + ", takes one.");
+  }
+  if (Selection2::CheckSelectedAsset(wish.unique)) return;
+  ZORVEL::Commands::SetSelectedAsset(static_cast<unsigned int>(wish.unique), false);
+}
+
+void AssetChoice::reportLost(const OfferedElement& element) {
+  if (Selection2::CheckSelectedAsset(element.unique)) return;
+  result_.notes.push_back("Asset " + nameOf(*element.record) +
+                          " left out: the pages begin with it, and a choice in another category drops it, or a later "
+                          "one in its own.");
 }
 
 }  // namespace cli

@@ -5,41 +5,50 @@
 
 #include "apps/cli/Choice.h"
 #include "model/CharacterData.h"
+#include "model/PageOffer.h"
 
 namespace cli {
 
-/// Adds assets to the selection by the rules of the window, for a selection that has character, clothing and pose.
+/// Assets that are asked for, besides those that the pages begin with.
 class AssetChoice {
  public:
   /// Both must outlive this.
   AssetChoice(const ZORVEL::CharacterData& character, ChoiceResult& result) : character_(character), result_(result) {}
 
-  /// ID or ID:MATERIAL. Without a material the first one is taken, where the asset has any. Nothing is selected yet.
-  void wish(const std::string& wanted);
-  /// Selects what was wished for; where nothing was and `defaults` says so, what the clothing selects and the first
-  /// asset of a required category.
-  void select(bool defaults);
+  /// Each ID or ID:MATERIAL; without a material the first that is offered is taken. False when there is no such asset
+  /// or material. Nothing is chosen yet.
+  bool wish(const std::vector<std::string>& wanted);
+  /// Finds what is wished for on the page. Where nothing is, and `defaults` says so, the page begins as in the window.
+  void visit(const ZORVEL::PageOffer& page, bool defaults);
+  /// Chooses what was found, after the last page, and says what was not and what got lost. `withoutPage` are the assets
+  /// that no page lists.
+  void select(const std::vector<ZORVEL::OfferedElement>& withoutPage);
 
  private:
-  using Record = ZORVEL::DataContainer;
-
-  Record* find(const std::string& id) const;
-  Record* findMaterial(const Record& record, const std::string& id);
-  /// What stands for an asset in the scene: for one of type "global" the shared record, where there is one.
-  static Record* recordOf(Record& asset);
-  bool isOffered(const Record& asset, const Record* record);
-  void selectDefaults(const Record& category);
-  void selectWish(std::size_t index);
-
   struct Wish {
     std::string id;
-    const Record* category;
-    const Record* chosen;
+    const ZORVEL::DataContainer* record;
+    /// Null for any.
+    const ZORVEL::DataContainer* material;
+    const ZORVEL::DataContainer* category = nullptr;
+    /// 0 until it is found on a page.
+    int unique = 0;
+    ZORVEL::Refusal refusal;
   };
+
+  void wishFor(const std::string& wanted);
+  const ZORVEL::DataContainer* find(const std::string& id) const;
+  static bool fits(const Wish& wish, const ZORVEL::OfferedElement& element);
+  void look(Wish& wish, const std::vector<ZORVEL::OfferedElement>& hidden) const;
+  bool visit(Wish& wish, const ZORVEL::PageOffer& page) const;
+  void click(std::size_t index);
+  void reportLost(const ZORVEL::OfferedElement& element);
 
   const ZORVEL::CharacterData& character_;
   ChoiceResult& result_;
   std::vector<Wish> wishes_;
+  /// What pages began with.
+  std::vector<ZORVEL::OfferedElement> begun_;
 };
 
 }  // namespace cli

@@ -8,6 +8,8 @@
 #include "apps/cli/ModelText.h"
 #include "host/files/Paths.h"
 #include "model/Data2.h"
+#include "model/RepositoryFormat.h"
+#include "model/RepositoryValidation.h"
 
 namespace cli {
 
@@ -16,21 +18,28 @@ namespace {
 using Json = nlohmann::ordered_json;
 using ZORVEL::CharacterData;
 using ZORVEL::DataContainer;
+using namespace ZORVEL::RepositoryFormat;
 
-/// Whether an element has a folder that validation looks for; skins, categories and materials have none.
-enum class Folder { Tested, None };
-
-Json base(const DataContainer& record, Folder folder) {
+/// Of an element without a folder of its own: skins, categories and materials.
+Json plain(const DataContainer& record) {
   Json json;
-  json["id"] = field(&record, L"id");
-  json["name"] = field(&record, L"name");
-  if (folder == Folder::Tested) json["usable"] = isUsable(record);
+  json["id"] = field(&record, FIELD_ID);
+  json["name"] = field(&record, FIELD_NAME);
   return json;
 }
 
-Json plainList(const std::vector<DataContainer*>& records, Folder folder) {
+/// Of an element whose folder is looked for on disk. The character is null for what all share.
+Json checked(const DataContainer& record, const CharacterData* character) {
+  Json json = plain(record);
+  const ZORVEL::Refusal refusal = ZORVEL::RepositoryValidation::WhyUnmarked(record, character);
+  json["usable"] = refusal.why == ZORVEL::WhyNot::Nothing;
+  if (refusal.why != ZORVEL::WhyNot::Nothing) json["whyNot"] = host::toUtf8(refusal.GetText());
+  return json;
+}
+
+Json plainList(const std::vector<DataContainer*>& records) {
   Json list = Json::array();
-  for (const DataContainer* record : records) list.push_back(base(*record, folder));
+  for (const DataContainer* record : records) list.push_back(plain(*record));
   return list;
 }
 
@@ -43,10 +52,10 @@ Json ids(const std::vector<DataContainer*>& records, const wchar_t* name) {
 Json clothing(const CharacterData& character) {
   Json list = Json::array();
   for (const DataContainer* cloth : elementsOf(character, ZORVEL::CLOTH)) {
-    Json json = base(*cloth, Folder::Tested);
-    json["styles"] = plainList(clothChildren(*cloth, ZORVEL::MATERIAL), Folder::None);
-    json["excludes"] = ids(clothChildren(*cloth, ZORVEL::EXCLUDE), L"id");
-    json["selects"] = ids(clothChildren(*cloth, ZORVEL::SELECT), L"asset_id");
+    Json json = checked(*cloth, &character);
+    json["styles"] = plainList(clothChildren(*cloth, ZORVEL::MATERIAL));
+    json["excludes"] = ids(clothChildren(*cloth, ZORVEL::EXCLUDE), FIELD_ID);
+    json["selects"] = ids(clothChildren(*cloth, ZORVEL::SELECT), FIELD_ASSET_ID);
     list.push_back(json);
   }
   return list;
@@ -55,8 +64,8 @@ Json clothing(const CharacterData& character) {
 Json poses(const CharacterData& character) {
   Json list = Json::array();
   for (const DataContainer* pose : elementsOf(character, ZORVEL::POSES)) {
-    Json json = base(*pose, Folder::Tested);
-    json["mandatory"] = ids(childrenOf(*pose), L"id");
+    Json json = checked(*pose, &character);
+    json["mandatory"] = ids(childrenOf(*pose), FIELD_ID);
     list.push_back(json);
   }
   return list;
@@ -65,7 +74,7 @@ Json poses(const CharacterData& character) {
 Json categories(const CharacterData& character) {
   Json list = Json::array();
   for (const DataContainer* category : elementsOf(character, ZORVEL::CATEGORIES)) {
-    Json json = base(*category, Folder::None);
+    Json json = plain(*category);
     json["multiple"] = CharacterData::IsMultiple(category);
     json["required"] = CharacterData::IsRequired(category);
     list.push_back(json);
@@ -73,28 +82,28 @@ Json categories(const CharacterData& character) {
   return list;
 }
 
-Json asset(const DataContainer& record) {
-  Json json = base(record, Folder::Tested);
-  for (const wchar_t* name : {L"type", L"category", L"globalID"}) {
+Json asset(const DataContainer& record, const CharacterData* character) {
+  Json json = checked(record, character);
+  for (const wchar_t* name : {FIELD_TYPE, FIELD_CATEGORY, FIELD_GLOBAL_ID}) {
     if (record.CheckDatafield(name)) json[host::toUtf8(name)] = field(&record, name);
   }
-  json["materials"] = plainList(childrenOf(record), Folder::None);
+  json["materials"] = plainList(childrenOf(record));
   return json;
 }
 
-Json assets(const std::vector<DataContainer*>& records) {
+Json assets(const std::vector<DataContainer*>& records, const CharacterData* character) {
   Json list = Json::array();
-  for (const DataContainer* record : records) list.push_back(asset(*record));
+  for (const DataContainer* record : records) list.push_back(asset(*record, character));
   return list;
 }
 
 Json describe(const CharacterData& character) {
-  Json json = base(character, Folder::Tested);
-  json["skins"] = plainList(elementsOf(character, ZORVEL::SKINS), Folder::None);
+  Json json = checked(character, &character);
+  json["skins"] = plainList(elementsOf(character, ZORVEL::SKINS));
   json["clothing"] = clothing(character);
   json["poses"] = poses(character);
   json["categories"] = categories(character);
-  json["assets"] = assets(elementsOf(character, ZORVEL::ASSETS));
+  json["assets"] = assets(elementsOf(character, ZORVEL::ASSETS), &character);
   return json;
 }
 
@@ -103,7 +112,7 @@ Json describeAll(const std::filesystem::path& repository) {
   json["repository"] = std::filesystem::absolute(repository).string();
   json["characters"] = Json::array();
   for (const CharacterData* character : characters()) json["characters"].push_back(describe(*character));
-  json["globalAssets"] = assets(globalAssets());
+  json["globalAssets"] = assets(globalAssets(), nullptr);
   return json;
 }
 
@@ -130,13 +139,17 @@ std::string details(const Json& element) {
   return text;
 }
 
+std::string whyNot(const Json& element) {
+  return element.contains("whyNot") ? "  (not usable: " + element["whyNot"].get<std::string>() + ")" : "";
+}
+
 void printElements(const char* title, const Json& elements) {
   if (elements.empty()) return;
   std::cout << "  " << title << '\n';
   for (const Json& element : elements) {
     std::cout << "    " << (element.value("usable", true) ? ' ' : '!') << ' ' << element["id"].get<std::string>()
               << "  " << element["name"].get<std::string>() << details(element)
-              << (element.value("usable", true) ? "" : "  (not usable: no folder on disk)") << '\n';
+              << whyNot(element) << '\n';
   }
 }
 
@@ -144,7 +157,7 @@ void print(const Json& repository) {
   std::cout << "Repository " << repository["repository"].get<std::string>() << '\n';
   for (const Json& character : repository["characters"]) {
     std::cout << "Character " << character["id"].get<std::string>() << "  " << character["name"].get<std::string>()
-              << (character["usable"].get<bool>() ? "" : "  (not usable: no folder on disk)") << '\n';
+              << whyNot(character) << '\n';
     for (const char* list : {"skins", "clothing", "poses", "categories", "assets"}) {
       printElements(list, character[list]);
     }

@@ -44,6 +44,11 @@ std::vector<DataContainer*> globalAssets() {
   return result;
 }
 
-bool isUsable(const DataContainer& record) { return record.GetFastFlag(ZORVEL::FLAG_VALID); }
+std::string nameOf(const DataContainer& record) {
+  const std::string id = field(&record, ZORVEL::RepositoryFormat::FIELD_ID);
+  const std::string name = field(&record, ZORVEL::RepositoryFormat::FIELD_NAME);
+  if (id.empty() || name.empty()) return "\"" + id + name + "\"";
+  return "\"" + id + "\" (" + name + ")";
+}
 
 }  // namespace cli

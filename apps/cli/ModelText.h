@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "model/CharacterData.h"
+#include "model/RepositoryFormat.h"
 
 namespace cli {
 
@@ -20,11 +21,11 @@ std::vector<ZORVEL::DataContainer*> globalAssets();
 template <class Record>
 std::vector<std::string> idsOf(const std::vector<Record*>& records) {
   std::vector<std::string> ids;
-  for (const Record* record : records) ids.push_back(field(record, L"id"));
+  for (const Record* record : records) ids.push_back(field(record, ZORVEL::RepositoryFormat::FIELD_ID));
   return ids;
 }
 
-/// Whether its folder was found on disk.
-bool isUsable(const ZORVEL::DataContainer& record);
+/// For a person: id and name, as far as it has them.
+std::string nameOf(const ZORVEL::DataContainer& record);
 
 }  // namespace cli

@@ -12,6 +12,7 @@
 #include "model/Data2.h"
 #include "model/Selection2.h"
 #include "repository/Parser2.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 #include "scene/SceneNotifications.h"
 #include "tests/samples/RoughRepository.h"
@@ -90,7 +91,8 @@ class EveryCombination : public support::LogStoreTest {
   void build() {
     clearLog();
     host::Scene& scene = host::Application::instance().scene();
-    ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+    ZORVEL::BuildReport report;
+    ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(report), nullptr);
     expectComplaints({});
     for (host::Node* node : scene.nodes()) {
       const auto* proxy = dynamic_cast<host::ProxyObject*>(node->GetObjectRef());

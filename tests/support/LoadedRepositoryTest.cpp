@@ -7,6 +7,7 @@
 #include "model/Data2.h"
 #include "model/Selection2.h"
 #include "repository/Parser2.h"
+#include "scene/CharacterBuilder.h"
 #include "scene/SceneNotifications.h"
 
 namespace support {
@@ -22,8 +23,7 @@ void LoadedRepositoryTest::SetUp() {
   ZORVEL::SceneNotifications::Register();
   ZORVEL::Settings::LoadSettings();
   ZORVEL::Settings::StorePath(repository_.root().c_str());
-  ASSERT_TRUE(ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath()));
-  Data2::SetValidated(true);
+  reload();
   Selection2::SetCharacter(L"c1");
   Selection2::SetCloth(L"k1");
   Selection2::SetPose(L"p1");
@@ -31,6 +31,15 @@ void LoadedRepositoryTest::SetUp() {
   Selection2::SetStyle(L"k1m1");
   clearLog();
 }
+
+void LoadedRepositoryTest::reload() {
+  Data2::Clear();
+  Selection2::ClearAssets();
+  ASSERT_TRUE(ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath()));
+  Data2::SetValidated(true);
+}
+
+INode* LoadedRepositoryTest::build() { return ZORVEL::CharacterBuilder::BuildSelectedCharacter(report_); }
 
 void LoadedRepositoryTest::TearDown() {
   host::Application::instance().reset();

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "scene/BuildReport.h"
 #include "tests/support/LocalAppData.h"
 #include "tests/support/LogStoreTest.h"
 #include "tests/support/SmallRepository.h"
+
+class INode;
 
 namespace support {
 
@@ -16,10 +19,17 @@ class LoadedRepositoryTest : public LogStoreTest {
   const SmallRepository& repository() const { return repository_; }
   /// Chooses an asset of c1, a global asset, or with a second id one of its materials.
   static void addAsset(const wchar_t* id, const wchar_t* material = nullptr);
+  /// Reads the description again; the selection stays, as far as it is of ids that are texts.
+  void reload();
+  /// What the builder answers.
+  INode* build();
+  /// Of the last build.
+  const ZORVEL::BuildReport& report() const { return report_; }
 
  private:
   LocalAppData appData_;
   SmallRepository repository_;
+  ZORVEL::BuildReport report_;
 };
 
 }  // namespace support

@@ -1,4 +1,4 @@
-#include "ui/FileStamp.h"
+#include "core/FileStamps.h"
 
 #include <windows.h>
 
