@@ -153,6 +153,7 @@ void Commands::CreateCharacter() {
   ExecuteMAXScriptScript(L"animButtonState=false");
   BuildReport report;
   INode* parent = CharacterBuilder::BuildSelectedCharacter(report);
+  if (commandListener != nullptr) commandListener->CharacterBuilt(report);
   if (parent == nullptr) return LogError(L"Commands::CreateCharacter could not create character");
   Placement::StartPlacement(parent);
 }

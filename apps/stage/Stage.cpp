@@ -22,6 +22,13 @@ host::Application& application() { return host::Application::instance(); }
 
 fs::path programFolder() { return {QCoreApplication::applicationDirPath().toStdString()}; }
 
+/// The build that says why something is not built, where there is one.
+fs::path moduleBesideProgram() {
+  const fs::path diagnostic = programFolder() / "zorvel-diagnostic.gup";
+  std::error_code unknown;
+  return fs::exists(diagnostic, unknown) ? diagnostic : programFolder() / "zorvel.gup";
+}
+
 /// Until the viewport shows its best, or nothing more is to be expected of it.
 void waitForPicture(StageWindow& window) {
   while (!window.view().picture().complete()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
@@ -35,7 +42,7 @@ Stage::Stage(StageOptions options) : options_(std::move(options)), status_(EXIT_
 }
 
 Stage::~Stage() {
-  window_.log().follow({});
+  window_.follow({});
   application().modules().shutDown();
 }
 
@@ -67,16 +74,14 @@ void Stage::prepare() {
 }
 
 void Stage::loadModule() {
-  const fs::path module = options_.module.empty() ? programFolder() / "zorvel.gup" : options_.module;
+  const fs::path module = options_.module.empty() ? moduleBesideProgram() : options_.module;
   const fs::path beside = fs::absolute(module).parent_path();
   application().icons().set({beside / "icons", programFolder() / "icons"});
   const std::string error = application().modules().load(module);
   if (!error.empty()) return complain(QString::fromStdString(error), EXIT_UNREADABLE);
   // What it opens unasked, an info window say, waits in the menu.
   for (QWidget* opened : pluginWindows(window_)) opened->close();
-  const ModuleLog log = ModuleLog::of(module);
-  window_.log().follow(log);
-  if (log.records()) window_.resizeDocks({&window_.listener(), &window_.log()}, {1, 1}, Qt::Horizontal);
+  window_.follow(ModuleLog::of(module));
 }
 
 void Stage::runScripts() {

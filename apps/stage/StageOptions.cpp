@@ -21,7 +21,10 @@ void describe(CLI::App& app, StageOptions& options) {
   app.add_option("SCENE", options.scene, "Scene file to open");
   app.add_option("--repository", options.repository,
                  "Repository for the plug-in to use; it gets settings of its own, the user's are left alone");
-  app.add_option("--module", options.module, "Plug-in module to load (zorvel.gup beside this program unless given)");
+  app.add_option(
+      "--module", options.module,
+      "Plug-in module to load; unless given the one beside this program: zorvel-diagnostic.gup, which says why "
+      "something is not built, or zorvel.gup");
   app.add_option("--script", options.scripts, "Line of script to run at start; may be repeated")
       ->type_size(1)
       ->allow_extra_args(false);

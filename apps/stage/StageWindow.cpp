@@ -27,6 +27,7 @@ StageWindow::StageWindow()
       log_(new LogPanel(this)),
       prompt_(new PromptLine(this)),
       quickAccess_(new QuickAccessToolBar(this)),
+      builds_(new BuildNews(this)),
       menus_(nullptr),
       watch_(new HostWatch(this)) {
   setCentralWidget(view_);
@@ -76,6 +77,10 @@ void StageWindow::connectHost() {
     showTitle();
   });
   connect(watch_, &HostWatch::checked, log_, &LogPanel::refresh);
+  connect(watch_, &HostWatch::checked, builds_, &BuildNews::refresh);
+  connect(builds_, &BuildNews::explained, listener_, &ListenerPanel::report);
+  connect(builds_, &BuildNews::warned, prompt_, &PromptLine::warn);
+  connect(builds_, &BuildNews::said, prompt_, &PromptLine::say);
   connect(document_, &SceneDocument::replaced, this, &StageWindow::showTitle);
   connect(files_, &FileCommands::said, prompt_, &PromptLine::say);
   connect(files_, &FileCommands::progress, prompt_, &PromptLine::setProgress);
@@ -86,6 +91,12 @@ void StageWindow::connectHost() {
 }
 
 void StageWindow::catchUp() { watch_->check(); }
+
+void StageWindow::follow(const ModuleLog& log) {
+  log_->follow(log);
+  builds_->follow(log);
+  if (log.records()) resizeDocks({listener_, log_}, {1, 1}, Qt::Horizontal);
+}
 
 void StageWindow::becomeInteractive() {
   interactive_ = true;

@@ -233,6 +233,32 @@ TEST_F(WholeUse, WhatIsChosenByClicksIsTheSceneThatTheCommandLineMakesFromTheSam
   EXPECT_EQ(difference(byHand, builtByCommandLine(repository, place, turnOf(place))), "");
 }
 
+TEST_F(WholeUse, AfterEachCreateThePersonReadsWhatTheCharacterLacksAndWhy) {
+  const support::SmallRepository repository;
+  repository.mend();
+  repository.writePictures();
+  repository.edit(R"(id="p1" name="Standing")", R"(id="p1")");
+  stage::Stage stage(options(repository));
+  ASSERT_EQ(stage.run(), 0);
+  stage::StageWindow& window = stage.window();
+  lookAtGround(window);
+  for (const char* step : {"action", "choose"}) play(window, step, {});
+  std::filesystem::remove(repository.folder().path() / "anna/summer/k1_p1.vrmesh");
+  play(window, "create", {});
+  EXPECT_EQ(window.promptLine().message().toStdString(), "Built without: body, a2, mesh of Summer — see Listener");
+  const QString reasons = window.listener().text();
+  EXPECT_TRUE(reasons.contains("-- Body (p1): left out: it has no \"name\".\n")) << reasons.toStdString();
+  EXPECT_TRUE(reasons.contains("Clothing \"Summer\" (k1): the mesh ")) << reasons.toStdString();
+  EXPECT_TRUE(reasons.contains("k1_p1.vrmesh is missing.")) << reasons.toStdString();
+  keepPicture(window, 50);
+  play(window, "escape", {});
+
+  support::ManagerWindow().clickPicture("Walking");
+  play(window, "create", {});
+  EXPECT_EQ(window.promptLine().message().toStdString(), "Character built");
+  EXPECT_EQ(window.listener().text(), reasons) << "nothing to add";
+}
+
 TEST_F(WholeUse, TheInfoWindowWaitsInTheMenuAndGoesWithTheModule) {
   const support::SmallRepository repository;
   QPointer<QWidget> info;
