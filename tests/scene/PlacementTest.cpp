@@ -263,17 +263,16 @@ TEST_F(PlacementByMouse, LateMovesAfterTheEndChangeNothing) {
 
 TEST_F(PlacementByMouse, EndsWhenANewSceneAnOpenedFileUndoOrADeletionTakesTheNodeAway) {
   FileIOType type = IOTYPE_MAX;
-  const std::function<void(INode*)> ways[] = {
-      [](INode*) { Application::instance().newScene(); },
-      [](INode*) {
-        undo().undo();
-        undo().clear();
-      },
-      [&](INode*) {
-        BroadcastNotification(NOTIFY_FILE_POST_OPEN, &type);
-        Application::instance().reset();
-      },
-      [](INode* node) { GetCOREInterface()->DeleteNode(node, TRUE, FALSE); }};
+  const std::function<void(INode*)> ways[] = {[](INode*) { Application::instance().newScene(); },
+                                              [](INode*) {
+                                                undo().undo();
+                                                undo().clear();
+                                              },
+                                              [&](INode*) {
+                                                BroadcastNotification(NOTIFY_FILE_POST_OPEN, &type);
+                                                Application::instance().reset();
+                                              },
+                                              [](INode* node) { GetCOREInterface()->DeleteNode(node, TRUE, FALSE); }};
   int way = 0;
   for (const auto& takeAway : ways) {
     SCOPED_TRACE(way++);
