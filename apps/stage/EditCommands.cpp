@@ -9,7 +9,7 @@
 #include "host/application/HostInterface.h"
 #include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/UndoStack.h"
 
 namespace stage {
 

@@ -8,14 +8,14 @@
 #include <functional>
 
 #include "host/application/Application.h"
-#include "host/application/Prompts.h"
 #include "host/meshes/Mesh.h"
 #include "host/modes/CommandModes.h"
 #include "host/modes/MouseFeed.h"
 #include "host/scene/LampHelper.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Prompts.h"
+#include "host/services/UndoStack.h"
 #include "host/view/Viewports.h"
 #include "scene/PlacementPickMode.h"
 #include "tests/support/LoadedRepositoryTest.h"
@@ -70,7 +70,7 @@ class PlacementByMouse : public support::LoadedRepositoryTest {
   }
   static int endCommands() {
     const std::vector<int>& all = modes().executed();
-    return static_cast<int>(std::count(all.begin(), all.end(), host::CommandModes::standardModeCommand));
+    return static_cast<int>(std::count(all.begin(), all.end(), host::CommandModes::STANDARD_MODE_COMMAND));
   }
 
   INode* start() {

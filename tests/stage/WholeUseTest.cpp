@@ -14,11 +14,11 @@
 #include "apps/stage/PluginWindows.h"
 #include "apps/stage/Stage.h"
 #include "host/application/Application.h"
-#include "host/application/Prompts.h"
-#include "host/export/SceneJson.h"
+#include "host/formats/SceneJson.h"
 #include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Prompts.h"
+#include "host/services/UndoStack.h"
 #include "tests/stage/ManagerWindow.h"
 #include "tests/support/SmallRepository.h"
 
@@ -225,7 +225,7 @@ TEST_F(WholeUse, WhatIsChosenByClicksIsTheSceneThatTheCommandLineMakesFromTheSam
     place = placeOfLast();
     // The command line has none. What they are made of must not have gone into the character.
     removeSurroundings();
-    byHand = Json::parse(host::sceneJson(Application::instance().scene()));
+    byHand = Json::parse(host::sceneJson(Application::instance().scene(), Application::instance().units()));
     play(window, "undo", {});
     EXPECT_TRUE(Application::instance().scene().nodes().empty());
   }
