@@ -9,6 +9,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "plugin/CommandListener.h"
 #include "plugin/RepositoryDialog.h"
 #include "repository/Parser2.h"
 #include "scene/BuildReport.h"
@@ -20,8 +21,28 @@ namespace ZORVEL {
 
 namespace {
 
+CommandListener* commandListener = nullptr;
+
+void Tell(Command command, std::initializer_list<unsigned int> uniques = {}, bool updateGui = false) {
+  if (commandListener != nullptr) commandListener->BeforeCommand(command, uniques, updateGui);
+}
+
 /// Set while the window rebuilds its tabs for a new pose.
 bool rebuildingTabs = false;
+
+/// Sets the flag for as long as it lives.
+class TabsRebuild {
+ public:
+  TabsRebuild() { rebuildingTabs = true; }
+  ~TabsRebuild() { rebuildingTabs = false; }
+  TabsRebuild(const TabsRebuild&) = delete;
+  TabsRebuild& operator=(const TabsRebuild&) = delete;
+};
+
+void RebuildTabs() {
+  const TabsRebuild rebuild;
+  MainWindow::RebuildTabs();
+}
 
 void LogError(const wchar_t* text) { Debug::AddDebugMessage(DEBUG_ERROR, text); }
 
@@ -76,7 +97,10 @@ void ClearElements() {
 
 }  // namespace
 
+void Commands::SetListener(CommandListener* listener) { commandListener = listener; }
+
 void Commands::CallMainWindow() {
+  Tell(Command::CallMainWindow);
   Debug::AddDebugMessage(DEBUG_INFO, L"CallMainWindow");
   if (ValidateData()) MainWindow::OpenMainWindow();
 }
@@ -99,6 +123,7 @@ void Commands::LoadData() {
 }
 
 void Commands::ReloadRepository() {
+  Tell(Command::ReloadRepository);
   // The text names another command; it is kept as it is.
   if (!SettingsAreLoaded()) return LogError(L"Commands::ValidateData could not load settings!");
   Selection2::Reset();
@@ -106,6 +131,7 @@ void Commands::ReloadRepository() {
 }
 
 void Commands::ResetRepository() {
+  Tell(Command::ResetRepository);
   Selection2::Reset();
   if (!SettingsAreLoaded()) return LogError(L"Commands::ResetRepository could not load settings!");
   if (SetPath()) ReplaceRepository();
@@ -123,14 +149,17 @@ bool Commands::SetPath() {
 }
 
 void Commands::CreateCharacter() {
+  Tell(Command::CreateCharacter);
   ExecuteMAXScriptScript(L"animButtonState=false");
   BuildReport report;
   INode* parent = CharacterBuilder::BuildSelectedCharacter(report);
+  if (commandListener != nullptr) commandListener->CharacterBuilt(report);
   if (parent == nullptr) return LogError(L"Commands::CreateCharacter could not create character");
   Placement::StartPlacement(parent);
 }
 
 void Commands::SetSelectedCharacterUnique(unsigned int character, bool updateGui) {
+  Tell(Command::SetSelectedCharacterUnique, {character}, updateGui);
   if (character == 0) return LogError(L"Commands::SetSelectedCharacterUnique: invalid unqiue");
   if (const wchar_t* id = IdOf(character)) {
     Selection2::SetCharacter(id);
@@ -140,6 +169,7 @@ void Commands::SetSelectedCharacterUnique(unsigned int character, bool updateGui
 }
 
 void Commands::SetSelectedClothUnique(unsigned int character, unsigned int cloth, bool updateGui) {
+  Tell(Command::SetSelectedClothUnique, {character, cloth}, updateGui);
   if (const wchar_t* id = IdOf(character)) Selection2::SetCharacter(id);
   if (const wchar_t* id = IdOf(cloth)) {
     Selection2::SetCloth(id);
@@ -151,28 +181,30 @@ void Commands::SetSelectedClothUnique(unsigned int character, unsigned int cloth
 }
 
 void Commands::SetSelectedPose(unsigned int pose, bool updateGui) {
+  Tell(Command::SetSelectedPose, {pose}, updateGui);
   if (rebuildingTabs) return;
   Selection2::SetPose(IdOf(pose));
   if (!updateGui) return;
-  rebuildingTabs = true;
-  MainWindow::RebuildTabs();
-  rebuildingTabs = false;
+  RebuildTabs();
   MainWindow::UpdateElementSelection();
 }
 
 void Commands::SetSelectedSkin(unsigned int skin, bool updateGui) {
+  Tell(Command::SetSelectedSkin, {skin}, updateGui);
   if (rebuildingTabs) return;
   Selection2::SetSkin(IdOf(skin));
   if (updateGui) MainWindow::UpdateElementSelection();
 }
 
 void Commands::SetSelectedStyle(unsigned int style, bool updateGui) {
+  Tell(Command::SetSelectedStyle, {style}, updateGui);
   if (rebuildingTabs) return;
   Selection2::SetStyle(IdOf(style));
   if (updateGui) MainWindow::UpdateElementSelection();
 }
 
 void Commands::SetSelectedAsset(unsigned int asset, bool updateGui) {
+  Tell(Command::SetSelectedAsset, {asset}, updateGui);
   if (rebuildingTabs || asset == 0) return;
   const AssetChoice choice = FindAsset(asset);
   if (choice.character == nullptr) return;
@@ -186,6 +218,7 @@ void Commands::SetSelectedAsset(unsigned int asset, bool updateGui) {
 }
 
 void Commands::SetDeselectedAsset(unsigned int asset, bool updateGui) {
+  Tell(Command::SetDeselectedAsset, {asset}, updateGui);
   if (asset == 0) return;
   const AssetChoice choice = FindAsset(asset);
   if (choice.character == nullptr) return;

@@ -2,10 +2,15 @@
 
 namespace ZORVEL {
 
+class CommandListener;
+
 /// The one door through which window and action act on the system. Main thread only. Elements are named by unique id, 0
 /// is none; `updateGui` says whether the window is refreshed afterwards. An unknown id changes no character, clothing
 /// or asset, and takes back the choice of pose, skin or style.
 namespace Commands {
+
+/// Null, as it is at first, for none. Whoever sets it takes it back before it goes.
+void SetListener(CommandListener* listener);
 
 void CallMainWindow();
 /// Loads the repository the first time, asking for its place when none is known. False when there is none to load.

@@ -7,6 +7,7 @@
 #include "core/Settings.h"
 #include "model/Data2.h"
 #include "plugin/ActionTable.h"
+#include "scene/Placement.h"
 #include "scene/SceneNotifications.h"
 #include "ui/MaxForm.h"
 #include "ui/PictureCache.h"
@@ -38,6 +39,7 @@ DWORD zorvel::Start() {
 
 void zorvel::Stop() {
   ZORVELActionTable::Deactivate();
+  Placement::Free();
   // No window may outlive the code of its events, no picture the toolkit.
   MaxForm::DeleteAll();
   PictureCache::Instance().Clear();

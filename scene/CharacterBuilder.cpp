@@ -88,7 +88,7 @@ INode* CharacterBuilder::BuildSelectedCharacter(BuildReport& report) {
   report = BuildReport();
   Debug::AddDebugMessage(DEBUG_INFO, L"Create Character from Selection...");
   Interface* host = GetCOREInterface();
-  host->ReplacePrompt(L"Create ZORVEL Character...");
+  host->DisplayTempPrompt(L"Create ZORVEL Character...");
   theHold.Begin();
   INode* parent = Build(report);
   if (parent == nullptr) {
@@ -96,7 +96,7 @@ INode* CharacterBuilder::BuildSelectedCharacter(BuildReport& report) {
     return nullptr;
   }
   theHold.Accept(L"ZORVEL Character");
-  host->ReplacePrompt(L"ZORVEL Character created");
+  host->DisplayTempPrompt(L"ZORVEL Character created");
   host->RedrawViews(host->GetTime(), REDRAW_NORMAL);
   return parent;
 }

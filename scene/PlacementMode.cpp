@@ -2,6 +2,8 @@
 
 #include <maxapi.h>
 
+#include "scene/Placement.h"
+
 namespace ZORVEL {
 
 namespace {
@@ -13,9 +15,6 @@ const int POINTS = 2;
 }  // namespace
 
 PlacementMode::PlacementMode() : m_foreground(nullptr) {}
-
-// The host must not be left with a mode that is unloaded.
-PlacementMode::~PlacementMode() { GetCOREInterface()->DeleteMode(this); }
 
 int PlacementMode::Class() { return MODIFY_COMMAND; }
 
@@ -30,8 +29,21 @@ ChangeForegroundCallback* PlacementMode::ChangeFGProc() { return &m_foreground; 
 
 BOOL PlacementMode::ChangeFG(CommandMode* oldMode) { return oldMode->ChangeFGProc() != &m_foreground ? TRUE : FALSE; }
 
-void PlacementMode::EnterMode() { GetCOREInterface()->PushPrompt(L"Place your ZORVEL Character"); }
+void PlacementMode::EnterMode() {
+  Ask(L"Place your ZORVEL Character");
+  // Somebody else's mode, for the view say, was on top in the middle of the turn.
+  if (Placement::GetStep() == PlacementStep::Rotate) AskForRotation();
+}
 
-void PlacementMode::ExitMode() { GetCOREInterface()->PopPrompt(); }
+void PlacementMode::ExitMode() {
+  for (; m_prompts > 0; --m_prompts) GetCOREInterface()->PopPrompt();
+}
+
+void PlacementMode::AskForRotation() { Ask(L"Rotate your ZORVEL Character"); }
+
+void PlacementMode::Ask(const wchar_t* prompt) {
+  GetCOREInterface()->PushPrompt(prompt);
+  ++m_prompts;
+}
 
 }  // namespace ZORVEL

@@ -10,7 +10,6 @@ namespace ZORVEL {
 class PlacementMode : public CommandMode {
  public:
   PlacementMode();
-  ~PlacementMode() override;
   PlacementMode(const PlacementMode&) = delete;
   PlacementMode& operator=(const PlacementMode&) = delete;
 
@@ -22,9 +21,16 @@ class PlacementMode : public CommandMode {
   void EnterMode() override;
   void ExitMode() override;
 
+  /// The prompt of the second step, over that of the first. Both go when the mode is left.
+  void AskForRotation();
+
  private:
+  void Ask(const wchar_t* prompt);
+
   PlacementProc m_proc;
   ChangeFGObject m_foreground;
+  /// How many of the host's prompts are this mode's.
+  int m_prompts = 0;
 };
 
 }  // namespace ZORVEL

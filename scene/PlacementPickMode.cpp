@@ -1,13 +1,13 @@
 #include "scene/PlacementPickMode.h"
 
-#include "scene/PlacementState.h"
+#include "scene/Placement.h"
 
 namespace ZORVEL {
 
 BOOL PlacementPickMode::Filter(INode* node) {
   Object* object = node->EvalWorldState(GetCOREInterface()->GetTime(), TRUE).obj;
   if (object != nullptr && object->SuperClassID() != GEOMOBJECT_CLASS_ID) return FALSE;
-  INode* placed = PlacementState::Get().node;
+  INode* placed = Placement::GetNode();
   if (placed == nullptr) return TRUE;
   if (node == placed) return FALSE;
   for (int i = 0; i < placed->NumberOfChildren(); ++i) {

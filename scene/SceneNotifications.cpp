@@ -4,7 +4,7 @@
 #include <notify.h>
 
 #include "core/Debug.h"
-#include "scene/PlacementState.h"
+#include "scene/Placement.h"
 #include "scene/ProxyObjectDatabase.h"
 
 namespace ZORVEL {
@@ -14,7 +14,7 @@ namespace {
 /// The objects of the old scene are gone, and so is the node that was being placed.
 void ForgetScene() {
   ProxyObjectDatabase::Clear();
-  PlacementState::Get().Clear();
+  Placement::End();
 }
 
 void AfterNewScene(void* /*param*/, NotifyInfo* /*info*/) {
@@ -35,7 +35,7 @@ void BeforeNodeDeleted(void* /*param*/, NotifyInfo* info) {
   Debug::AddDebugMessage(DEBUG_INFO, L"PreNodeDelete");
   INode* node = static_cast<INode*>(info->callParam);
   // Undo takes nodes away too, in the middle of a placement as at any time.
-  if (node == PlacementState::Get().node) PlacementState::Get().Clear();
+  if (node == Placement::GetNode()) Placement::End();
   const Object* object = node->GetObjectRef();
   if (object == nullptr) return;
   Debug::AddDebugMessage(DEBUG_INFO, L"got obj...");

@@ -3,7 +3,7 @@
 namespace ZORVEL {
 
 /// Keeps the register of proxy objects in step with the scene: a new or opened scene empties it, a node that goes is
-/// released.
+/// released. Ends the placement whose node goes.
 class SceneNotifications {
  public:
   SceneNotifications() = delete;

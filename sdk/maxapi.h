@@ -42,8 +42,8 @@ class Interface {
   virtual void SetTime(TimeValue t, BOOL redraw = TRUE) = 0;
   virtual void PushPrompt(const MCHAR* text) = 0;
   virtual void PopPrompt() = 0;
-  /// Changes the prompt on top in place.
-  virtual void ReplacePrompt(const MCHAR* text) = 0;
+  /// Shown for so many milliseconds; the stack of prompts stays as it is.
+  virtual void DisplayTempPrompt(const MCHAR* text, int msec = 1000) = 0;
   virtual void RedrawViews(TimeValue t, DWORD flags = REDRAW_NORMAL, ReferenceTarget* change = nullptr) = 0;
   virtual void SetAnimateButtonState(BOOL on) = 0;
   virtual BOOL IsAnimateEnabled() = 0;

@@ -40,6 +40,17 @@ void displayWindow(MainWindowClass& form) {
   form.UpdateTitle();
 }
 
+/// What fails in a refresh stays here: the command that asked for it has done its work by then.
+template <class Refresh>
+void RefreshWindow(const wchar_t* noWindow, Refresh refresh) {
+  try {
+    if (MainWindowClass::window == nullptr) return LogError(noWindow);
+    refresh(*MainWindowClass::window);
+  } catch (const std::exception&) {
+    // The window shows what it had; the next refresh makes it anew.
+  }
+}
+
 }  // namespace
 
 void MainWindow::OpenMainWindow() {
@@ -48,32 +59,30 @@ void MainWindow::OpenMainWindow() {
 }
 
 void MainWindow::Rebuild() {
-  if (MainWindowClass::window == nullptr) return LogError(L"MainWindow::Rebuild : no window..");
-  MainWindowClass::window->Rebuild();
-  MainWindowClass::window->UpdateTitle();
+  RefreshWindow(L"MainWindow::Rebuild : no window..", [](MainWindowClass& form) {
+    form.Rebuild();
+    form.UpdateTitle();
+  });
 }
 
 void MainWindow::RebuildTabs() {
-  if (MainWindowClass::window == nullptr) return LogError(L"MainWindow::RebuildTabs : no window..");
-  MainWindowClass::window->RebuildTabs();
+  RefreshWindow(L"MainWindow::RebuildTabs : no window..", [](MainWindowClass& form) { form.RebuildTabs(); });
 }
 
 void MainWindow::UpdateCharacterSelectionFromGUI() {
-  if (MainWindowClass::window == nullptr) {
-    return LogError(L"MainWindow::UpdateCharacterSelectionFromGUI : no window..");
-  }
-  MainWindowClass::window->UpdateCharacterSelectionFromGUI();
+  RefreshWindow(L"MainWindow::UpdateCharacterSelectionFromGUI : no window..",
+                [](MainWindowClass& form) { form.UpdateCharacterSelectionFromGUI(); });
 }
 
 void MainWindow::UpdateElementSelection() {
-  if (MainWindowClass::window == nullptr) return LogError(L"MainWindow::UpdateElementSelection : no window..");
-  MainWindowClass::window->UpdateElementSelection();
+  RefreshWindow(L"MainWindow::UpdateElementSelection : no window..",
+                [](MainWindowClass& form) { form.UpdateElementSelection(); });
 }
 
 // The text names the entry above; it is kept as it is.
 void MainWindow::UpdateInfo() {
-  if (MainWindowClass::window == nullptr) return LogError(L"MainWindow::UpdateElementSelection : no window..");
-  MainWindowClass::window->UpdateInfoField();
+  RefreshWindow(L"MainWindow::UpdateElementSelection : no window..",
+                [](MainWindowClass& form) { form.UpdateInfoField(); });
 }
 
 }  // namespace ZORVEL

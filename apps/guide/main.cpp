@@ -77,6 +77,8 @@ int main(int argc, char** argv) try {
   stage::applyDarkTheme(application);
   stage::StageOptions options;
   options.repository = argv[1];
+  // The module that an artist has.
+  options.module = QApplication::applicationDirPath().toStdString() + "/zorvel.gup";
   options.quit = true;
   stage::Stage stage(options);
   if (stage.run() != 0) return 1;

@@ -7,6 +7,7 @@
 
 #include "host/application/Application.h"
 #include "host/application/HostInterface.h"
+#include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
 #include "host/services/UndoStack.h"
 
@@ -48,5 +49,7 @@ void EditCommands::selectAll() {
 }
 
 void EditCommands::selectNone() { application().scene().clearSelection(); }
+
+void EditCommands::selectByMouse() { application().modes().returnToStandard(); }
 
 }  // namespace stage

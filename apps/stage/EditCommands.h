@@ -13,6 +13,8 @@ class EditCommands {
   static void deleteSelection();
   static void selectAll();
   static void selectNone();
+  /// Leaves the mode that is current for the host's own, in which a click selects.
+  static void selectByMouse();
 };
 
 }  // namespace stage

@@ -45,6 +45,8 @@ bool renew(Value& known, const Value& now) {
 }  // namespace
 
 HostWatch::HostWatch(QObject* parent) : QObject(parent) {
+  promptEnd_.setSingleShot(true);
+  connect(&promptEnd_, &QTimer::timeout, this, &HostWatch::check);
   if (auto* dispatcher = QAbstractEventDispatcher::instance()) {
     connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &HostWatch::check);
   }
@@ -55,10 +57,17 @@ void HostWatch::check() {
   if (renew(unit_, application().units().type())) emit unitChanged();
   if (renew(revision_, application().scene().revision())) emit sceneChanged();
   if (renew(undo_, undoNow())) emit undoChanged();
-  if (renew(prompt_, application().prompts().top())) emit promptChanged(QString::fromStdWString(prompt_));
+  checkPrompt();
   if (renew(buttons_, buttonsNow())) emit buttonsChanged();
   if (renew(mode_, application().modes().generation())) emit modeChanged();
   emit checked();
+}
+
+void HostWatch::checkPrompt() {
+  if (renew(prompt_, application().prompts().shown())) emit promptChanged(QString::fromStdWString(prompt_));
+  // Nothing else would wake the program when a temporary text has had its time.
+  const auto left = application().prompts().temporaryLeft();
+  if (left.count() > 0) promptEnd_.start(left);
 }
 
 void HostWatch::checkListener() {

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -36,10 +37,12 @@ class HostWatch : public QObject {
 
  private:
   void checkListener();
+  void checkPrompt();
 
   std::uint64_t revision_ = ~std::uint64_t{0};
   std::uint64_t mode_ = ~std::uint64_t{0};
   std::wstring prompt_ = L"\n";
+  QTimer promptEnd_;
   /// The names of what can be undone, a separator, and of what can be made again; empty before the first look.
   std::vector<std::wstring> undo_;
   std::size_t lines_ = 0;

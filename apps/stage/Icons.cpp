@@ -28,6 +28,10 @@ void drawDisk(QPainter& p) {
   p.drawRect(QRectF(8, 4, 7, 4.5));
 }
 
+void drawPointer(QPainter& p) {
+  p.drawPolygon(points({{7, 3.5}, {7, 18}, {10.5, 14.8}, {13, 20.5}, {15.5, 19.4}, {13, 13.8}, {17.6, 13.4}}));
+}
+
 void drawBackArrow(QPainter& p) {
   QPainterPath path(QPointF(5, 9));
   path.lineTo(14, 9);
@@ -94,6 +98,8 @@ void draw(QPainter& p, Icon which) {
       return drawFolder(p);
     case Icon::Save:
       return drawDisk(p);
+    case Icon::Select:
+      return drawPointer(p);
     case Icon::Undo:
       return drawBackArrow(p);
     case Icon::Redo:

@@ -9,7 +9,6 @@
 #include "host/actions/IconFolders.h"
 #include "host/application/Application.h"
 #include "host/files/PictureFile.h"
-#include "host/modes/CommandModes.h"
 #include "host/plugins/ModuleLoader.h"
 #include "host/services/Listener.h"
 
@@ -22,6 +21,13 @@ namespace {
 host::Application& application() { return host::Application::instance(); }
 
 fs::path programFolder() { return {QCoreApplication::applicationDirPath().toStdString()}; }
+
+/// The build that says why something is not built, where there is one.
+fs::path moduleBesideProgram() {
+  const fs::path diagnostic = programFolder() / "zorvel-diagnostic.gup";
+  std::error_code unknown;
+  return fs::exists(diagnostic, unknown) ? diagnostic : programFolder() / "zorvel.gup";
+}
 
 /// Until the viewport shows its best, or nothing more is to be expected of it.
 void waitForPicture(StageWindow& window) {
@@ -36,9 +42,7 @@ Stage::Stage(StageOptions options) : options_(std::move(options)), status_(EXIT_
 }
 
 Stage::~Stage() {
-  window_.log().follow({});
-  // A mode of the module must not be current any more when it goes.
-  application().modes().returnToStandard();
+  window_.follow({});
   application().modules().shutDown();
 }
 
@@ -70,16 +74,14 @@ void Stage::prepare() {
 }
 
 void Stage::loadModule() {
-  const fs::path module = options_.module.empty() ? programFolder() / "zorvel.gup" : options_.module;
+  const fs::path module = options_.module.empty() ? moduleBesideProgram() : options_.module;
   const fs::path beside = fs::absolute(module).parent_path();
   application().icons().set({beside / "icons", programFolder() / "icons"});
   const std::string error = application().modules().load(module);
   if (!error.empty()) return complain(QString::fromStdString(error), EXIT_UNREADABLE);
   // What it opens unasked, an info window say, waits in the menu.
   for (QWidget* opened : pluginWindows(window_)) opened->close();
-  const ModuleLog log = ModuleLog::of(module);
-  window_.log().follow(log);
-  if (log.records()) window_.resizeDocks({&window_.listener(), &window_.log()}, {1, 1}, Qt::Horizontal);
+  window_.follow(ModuleLog::of(module));
 }
 
 void Stage::runScripts() {

@@ -7,6 +7,7 @@
 #include "apps/stage/PluginWindows.h"
 #include "apps/stage/StageWindow.h"
 #include "host/application/Application.h"
+#include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
 #include "host/services/Accelerators.h"
 #include "host/services/UndoStack.h"
@@ -95,6 +96,16 @@ void StageMenus::addEditMenu() {
                          tr("Delete the selection with all that hangs on it"), this, &EditCommands::deleteSelection),
                      Icon::Delete);
   menu->addSeparator();
+  select_ = withIcon(
+      add(menu, tr("&Select by Mouse"), QKeySequence("Q"),
+          tr("A click selects again; a command that waits for the mouse ends"), this, &StageMenus::selectByMouse),
+      Icon::Select);
+  select_->setCheckable(true);
+  cancel_ = add(menu, tr("&Cancel Command"), QKeySequence("Esc"),
+                tr("Break off the command that waits for the mouse, as a right click does"), &window_.view(),
+                &ViewportWidget::cancelMode);
+  // The window whose button started the command may be the active one still.
+  cancel_->setShortcutContext(Qt::ApplicationShortcut);
   add(menu, tr("Select &All"), QKeySequence("Ctrl+A"), tr("Select everything"), this, &EditCommands::selectAll);
   add(menu, tr("Select &None"), QKeySequence("Ctrl+D"), tr("Select nothing"), this, &EditCommands::selectNone);
 }
@@ -140,6 +151,8 @@ void StageMenus::addToolBar() {
   bar->setIconSize({22, 22});
   bar->addActions({new_, open_, save_});
   bar->addSeparator();
+  bar->addAction(select_);
+  bar->addSeparator();
   bar->addActions({undo_, redo_, delete_});
   bar->addSeparator();
   bar->addActions({frame_, frameAll_});
@@ -165,11 +178,26 @@ void StageMenus::showUnit() {
   if (QAction* action = units_->actions().value(type)) action->setChecked(true);
 }
 
+void StageMenus::selectByMouse() {
+  EditCommands::selectByMouse();
+  // The click has unchecked the tool when it was chosen already.
+  showMode();
+}
+
+void StageMenus::showMode() {
+  const host::CommandModes& modes = host::Application::instance().modes();
+  const bool standard = &modes.current() == &modes.standard();
+  select_->setChecked(standard);
+  // At other times the key is anybody's.
+  cancel_->setEnabled(!standard);
+}
+
 void StageMenus::followAccelerators() {
   const bool act = host::Application::instance().accelerators().enabled();
   for (QAction* action : window_.findChildren<QAction*>()) {
+    if (action == cancel_ || !isOneKey(action->shortcut())) continue;
     // Bars never have the focus, so such a shortcut rests and still stands in its menu.
-    if (isOneKey(action->shortcut())) action->setShortcutContext(act ? Qt::WindowShortcut : Qt::WidgetShortcut);
+    action->setShortcutContext(act ? Qt::WindowShortcut : Qt::WidgetShortcut);
   }
 }
 

@@ -19,12 +19,15 @@ class StageMenus : public QObject {
 
   QAction& undoAction() const { return *undo_; }
   QAction& redoAction() const { return *redo_; }
+  QAction& selectAction() const { return *select_; }
 
  public slots:
   /// The steps that undo and redo would make stand in their texts.
   void showUndo();
   void showSelection();
   void showUnit();
+  /// Which tool the mouse is, and whether there is a mode to cancel.
+  void showMode();
   /// Shortcuts of one key without a modifier act only while the host's accelerators do.
   void followAccelerators();
 
@@ -38,6 +41,7 @@ class StageMenus : public QObject {
   void addCustomizeMenu();
   void addScriptingMenu();
   void addToolBar();
+  void selectByMouse();
 
   StageWindow& window_;
   QAction* new_ = nullptr;
@@ -45,6 +49,8 @@ class StageMenus : public QObject {
   QAction* save_ = nullptr;
   QAction* import_ = nullptr;
   QAction* picture_ = nullptr;
+  QAction* select_ = nullptr;
+  QAction* cancel_ = nullptr;
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;
   QAction* delete_ = nullptr;

@@ -11,7 +11,7 @@ namespace {
 
 const char* const footer =
     "In the viewport: middle button pans, Alt and middle (or left) button orbits, the wheel zooms, Z frames the "
-    "selection, Shift+Z everything.\n"
+    "selection, Shift+Z everything. Esc cancels a command that waits for the mouse, Q goes back to selecting.\n"
     "Without a display set QT_QPA_PLATFORM=offscreen and give --quit.\n"
     "Exit status: 0 clean, 1 a script was not understood or a file not written, 2 wrong usage, 3 module, scene or "
     "repository "
@@ -21,7 +21,10 @@ void describe(CLI::App& app, StageOptions& options) {
   app.add_option("SCENE", options.scene, "Scene file to open");
   app.add_option("--repository", options.repository,
                  "Repository for the plug-in to use; it gets settings of its own, the user's are left alone");
-  app.add_option("--module", options.module, "Plug-in module to load (zorvel.gup beside this program unless given)");
+  app.add_option(
+      "--module", options.module,
+      "Plug-in module to load; unless given the one beside this program: zorvel-diagnostic.gup, which says why "
+      "something is not built, or zorvel.gup");
   app.add_option("--script", options.scripts, "Line of script to run at start; may be repeated")
       ->type_size(1)
       ->allow_extra_args(false);

@@ -27,6 +27,7 @@ StageWindow::StageWindow()
       log_(new LogPanel(this)),
       prompt_(new PromptLine(this)),
       quickAccess_(new QuickAccessToolBar(this)),
+      builds_(new BuildNews(this)),
       menus_(nullptr),
       watch_(new HostWatch(this)) {
   setCentralWidget(view_);
@@ -65,6 +66,7 @@ void StageWindow::connectHost() {
   connect(watch_, &HostWatch::sceneChanged, menus_, &StageMenus::showSelection);
   connect(watch_, &HostWatch::sceneChanged, this, &StageWindow::showTitle);
   connect(watch_, &HostWatch::modeChanged, view_, &ViewportWidget::refresh);
+  connect(watch_, &HostWatch::modeChanged, menus_, &StageMenus::showMode);
   connect(watch_, &HostWatch::undoChanged, menus_, &StageMenus::showUndo);
   connect(watch_, &HostWatch::promptChanged, prompt_, &PromptLine::setPrompt);
   connect(watch_, &HostWatch::linesReported, listener_, &ListenerPanel::report);
@@ -75,6 +77,10 @@ void StageWindow::connectHost() {
     showTitle();
   });
   connect(watch_, &HostWatch::checked, log_, &LogPanel::refresh);
+  connect(watch_, &HostWatch::checked, builds_, &BuildNews::refresh);
+  connect(builds_, &BuildNews::explained, listener_, &ListenerPanel::report);
+  connect(builds_, &BuildNews::warned, prompt_, &PromptLine::warn);
+  connect(builds_, &BuildNews::said, prompt_, &PromptLine::say);
   connect(document_, &SceneDocument::replaced, this, &StageWindow::showTitle);
   connect(files_, &FileCommands::said, prompt_, &PromptLine::say);
   connect(files_, &FileCommands::progress, prompt_, &PromptLine::setProgress);
@@ -85,6 +91,12 @@ void StageWindow::connectHost() {
 }
 
 void StageWindow::catchUp() { watch_->check(); }
+
+void StageWindow::follow(const ModuleLog& log) {
+  log_->follow(log);
+  builds_->follow(log);
+  if (log.records()) resizeDocks({listener_, log_}, {1, 1}, Qt::Horizontal);
+}
 
 void StageWindow::becomeInteractive() {
   interactive_ = true;

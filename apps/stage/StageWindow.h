@@ -2,6 +2,7 @@
 
 #include <Qt/QmaxMainWindow.h>
 
+#include "apps/stage/BuildNews.h"
 #include "apps/stage/FileCommands.h"
 #include "apps/stage/HostWatch.h"
 #include "apps/stage/ModuleLog.h"
@@ -36,6 +37,8 @@ class StageWindow : public MaxSDK::QmaxMainWindow {
   QuickAccessToolBar& quickAccess() const { return *quickAccess_; }
   LogPanel& log() const { return *log_; }
 
+  /// Shows what that module records from now on; one that records nothing, nothing.
+  void follow(const ModuleLog& log);
   /// Brings everything shown up to date now, not only before the program waits.
   void catchUp();
   /// From now on a person is asked where a question is due, and the window is found again where it was left.
@@ -59,6 +62,7 @@ class StageWindow : public MaxSDK::QmaxMainWindow {
   LogPanel* log_;
   PromptLine* prompt_;
   QuickAccessToolBar* quickAccess_;
+  BuildNews* builds_;
   StageMenus* menus_;
   HostWatch* watch_;
   bool interactive_ = false;

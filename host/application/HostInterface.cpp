@@ -37,7 +37,9 @@ void HostInterface::PushPrompt(const MCHAR* text) { application().prompts().push
 
 void HostInterface::PopPrompt() { application().prompts().pop(); }
 
-void HostInterface::ReplacePrompt(const MCHAR* text) { application().prompts().replace(textOf(text)); }
+void HostInterface::DisplayTempPrompt(const MCHAR* text, int msec) {
+  application().prompts().showTemporary(textOf(text), Prompts::Milliseconds(msec));
+}
 
 void HostInterface::RedrawViews(TimeValue /*t*/, DWORD /*flags*/, ReferenceTarget* /*change*/) {
   if (application().redraw) application().redraw();

@@ -20,7 +20,7 @@ class HostInterface final : public Interface13 {
   void SetTime(TimeValue t, BOOL redraw) override;
   void PushPrompt(const MCHAR* text) override;
   void PopPrompt() override;
-  void ReplacePrompt(const MCHAR* text) override;
+  void DisplayTempPrompt(const MCHAR* text, int msec) override;
   void RedrawViews(TimeValue t, DWORD flags = REDRAW_NORMAL, ReferenceTarget* change = nullptr) override;
   void SetAnimateButtonState(BOOL on) override { animate_ = on; }
   BOOL IsAnimateEnabled() override { return animate_; }

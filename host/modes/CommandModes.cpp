@@ -10,11 +10,15 @@ CommandModes::CommandModes() : standard_(std::make_unique<StandardMode>()), stac
 
 CommandModes::~CommandModes() = default;
 
-// The stack is changed first, so that whoever asks while being left or entered sees what is to be.
 void CommandModes::replaceStack(std::vector<CommandMode*> stack) {
+  if (stack.back() != stack_.back()) return changeMode(std::move(stack));
+  stack_ = std::move(stack);
+}
+
+// The stack is changed first, so that whoever asks while being left or entered sees what is to be.
+void CommandModes::changeMode(std::vector<CommandMode*> stack) {
   CommandMode* before = stack_.back();
   stack_ = std::move(stack);
-  if (stack_.back() == before) return;
   const std::uint64_t generation = ++generation_;
   before->ExitMode();
   // Leaving may have made yet another mode current, which has been entered then.
@@ -29,12 +33,12 @@ void CommandModes::push(CommandMode* mode) {
 }
 
 void CommandModes::set(CommandMode* mode) {
-  if (mode == nullptr || mode == stack_.back()) return;
+  if (mode == nullptr) return;
   if (mode == standard_.get()) return returnToStandard();
   std::vector<CommandMode*> stack = stack_;
   if (stack.size() > 1) stack.pop_back();
   stack.push_back(mode);
-  replaceStack(std::move(stack));
+  changeMode(std::move(stack));
 }
 
 void CommandModes::pop() {

@@ -24,12 +24,12 @@ class CommandModes {
   CommandMode& current() const { return *stack_.back(); }
   CommandMode& standard() const { return *stack_.front(); }
   std::size_t depth() const { return stack_.size(); }
-  /// Rises whenever another mode becomes current.
+  /// Rises whenever a mode becomes current, be it the same one again.
   std::uint64_t generation() const { return generation_; }
 
   void push(CommandMode* mode);
-  /// Takes the place of the mode on top, the standard mode excepted. Setting the mode that is current already changes
-  /// nothing: it is neither left nor entered again.
+  /// Takes the place of the mode on top, the standard mode excepted. A mode that is current already is left and entered
+  /// again; the standard mode is not.
   void set(CommandMode* mode);
   /// The standard mode stays.
   void pop();
@@ -42,7 +42,9 @@ class CommandModes {
   const std::vector<int>& executed() const { return executed_; }
 
  private:
+  /// Nobody is left or entered when the mode on top stays the same.
   void replaceStack(std::vector<CommandMode*> stack);
+  void changeMode(std::vector<CommandMode*> stack);
 
   std::unique_ptr<CommandMode> standard_;
   std::vector<CommandMode*> stack_;

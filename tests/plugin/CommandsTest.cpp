@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "core/Settings.h"
 #include "host/application/Application.h"
 #include "host/services/FileDialog.h"
@@ -155,7 +157,7 @@ TEST_F(CommandFacade, WhatTheWindowSendsWhileItRebuildsItsTabsForAPoseIsIgnored)
   Selection2::AddAsset(static_cast<int>(asset(3)));
   Selection2::SetSkin(nullptr);
   int rebuilds = 0;
-  // The window answers a rebuild with events of its own, in the middle of it.
+  // The window answers a rebuild with events of its own, in the middle of it, and then runs out of memory.
   ZORVEL::LogStore::SetListener([&](ZORVEL::DEBUG_TYPE, const wchar_t* text) {
     if (std::wstring(text) != L"MainWindow::RebuildTabs : no window..") return;
     ++rebuilds;
@@ -164,8 +166,9 @@ TEST_F(CommandFacade, WhatTheWindowSendsWhileItRebuildsItsTabsForAPoseIsIgnored)
     Commands::SetSelectedStyle(style, true);
     Commands::SetSelectedAsset(bag, true);
     Commands::SetDeselectedAsset(asset(3), false);
+    throw std::bad_alloc();
   });
-  Commands::SetSelectedPose(pose, true);
+  EXPECT_NO_THROW(Commands::SetSelectedPose(pose, true));
   ZORVEL::LogStore::SetListener({});
   EXPECT_EQ(rebuilds, 1);
   EXPECT_STREQ(Selection2::GetPose(), L"p2");

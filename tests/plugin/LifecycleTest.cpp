@@ -3,10 +3,12 @@
 
 #include "core/Settings.h"
 #include "host/application/Application.h"
+#include "host/modes/CommandModes.h"
 #include "host/scripting/ScriptRunner.h"
 #include "host/services/Notifications.h"
 #include "model/Data2.h"
 #include "plugin/zorvel.h"
+#include "scene/Placement.h"
 #include "tests/support/LocalAppData.h"
 #include "tests/support/LogStoreFixture.h"
 
@@ -23,6 +25,8 @@ class Lifecycle : public support::LogStoreFixture {
  protected:
   static std::size_t registrations() { return host::Application::instance().notifications().count(); }
 
+  static host::CommandModes& modes() { return host::Application::instance().modes(); }
+
   support::LocalAppData appData_;
 };
 
@@ -33,7 +37,9 @@ TEST_F(Lifecycle, StartsWithoutItsActionTableAndStopsMoreThanOnce) {
   EXPECT_EQ(registrations(), before + 3);
   EXPECT_NE(ZORVEL::Settings::GetSingleton(), nullptr);
   ZORVEL::Data2::AddCharacter();
+  ZORVEL::Placement::StartPlacement(GetCOREInterface()->GetRootNode());
   plugin->Stop();
+  EXPECT_EQ(&modes().current(), &modes().standard()) << "stopped in the middle of a placement";
   EXPECT_EQ(registrations(), before);
   EXPECT_EQ(ZORVEL::Data2::GetCharacterCount(), 0);
   EXPECT_FALSE(ZORVEL::LogStore::Exists());

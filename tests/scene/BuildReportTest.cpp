@@ -12,6 +12,7 @@
 #include "model/Data2.h"
 #include "model/Selection2.h"
 #include "scene/BuildFindings.h"
+#include "scene/BuildSummary.h"
 #include "tests/support/LoadedRepositoryFixture.h"
 
 namespace {
@@ -53,6 +54,7 @@ class BuildReports : public support::LoadedRepositoryFixture {
     }
     return lines;
   }
+  std::string summary() const { return host::toUtf8(ZORVEL::BuildSummary::Describe(report())); }
   std::vector<FindingKind> kinds() const {
     std::vector<FindingKind> result;
     for (const ZORVEL::BuildFinding& finding : BuildFindings::Describe(report())) result.push_back(finding.kind);
@@ -66,6 +68,7 @@ TEST_F(BuildReports, NameElementMeshPlaceAndMaterialOfEveryPiece) {
   addAsset(L"g1", L"g1m1");
   build();
   EXPECT_THAT(findings(), IsEmpty());
+  EXPECT_EQ(summary(), "");
   const struct {
     ElementKind kind;
     const wchar_t* ids;
@@ -122,6 +125,7 @@ TEST_F(BuildReports, SayWhyNothingWasBuilt) {
   ZORVEL::Settings::FreeSettings();
   EXPECT_EQ(build(), nullptr);
   EXPECT_EQ(findings(), Lines{"Nothing was built: the settings that hold the repository's path are not loaded."});
+  EXPECT_EQ(summary(), "Nothing was built: the settings that hold the repository's path are not loaded");
   expectComplaints({L"Settings::GetPath - singleton is nullptr"});
 }
 
@@ -167,6 +171,7 @@ TEST_F(BuildReports, NameWhatTheHostOrTheSelectionDoesNotGive) {
   Selection2::AddAsset(7);
   build();
   EXPECT_EQ(findings(), Lines{"Asset: left out: the selection's number 7 names nothing that is loaded."});
+  EXPECT_EQ(summary(), "Built without: asset");
   host::Application::instance().reset();
   host::Application::instance().classes().setRendererPresent(false);
   build();
@@ -187,6 +192,7 @@ TEST_F(BuildReports, NameMeshesAndTexturesThatAreNotOnDiskAndAskForSharedOnesNoM
                           R"(Mandatory asset "Seat" (a2): the mesh R:\anna\seat\asset.vrmesh cannot be read.)",
                           R"(Clothing "Summer" (k1): the texture R:maps\blue.png is missing.)"));
   EXPECT_THAT(kinds(), Each(FindingKind::Bare));
+  EXPECT_EQ(summary(), "Built without: mesh of body, mesh of Seat, textures of Summer");
   build();
   EXPECT_THAT(findings(), IsEmpty());
   for (const BuiltPiece& piece : report().pieces) {
@@ -213,6 +219,7 @@ TEST_F(BuildReports, NameWhatIsWithoutAMaterialAndWhereItWasSearchedFor) {
                           R"(Asset "Bag" (a1): no material: it has no "material".)",
                           R"(Shared asset "Bench" (g1): the material "Pine" is in no library; searched: )"
                           R"(R:\global_assets\bench\materials.mat (cannot be read), R:\global_assets\materials.mat.)"));
+  EXPECT_EQ(summary(), "Built without: material of body, material of Summer, material of Bag, material of Bench");
 }
 
 TEST_F(BuildReports, NameWhatHasNoPlace) {
@@ -224,6 +231,7 @@ TEST_F(BuildReports, NameWhatHasNoPlace) {
   const std::string noRow = R"(no row of the asset matrix for the pose "p2"; it is at the origin, without a material.)";
   EXPECT_THAT(findings(), ElementsAre(R"(Asset "Bag" (a1): )" + noRow, R"(Shared asset "Bench" (g1): )" + noRow));
   EXPECT_THAT(kinds(), Each(FindingKind::Unplaced));
+  EXPECT_EQ(summary(), "Built without: place of Bag, place of Bench");
   expectComplaints({L"could not find asset matrix..."});
   repository().edit(R"(globalID="g1")", R"(globalID="g2")");
   reload();

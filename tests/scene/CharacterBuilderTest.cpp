@@ -87,7 +87,8 @@ TEST_F(CharacterBuild, MakesEveryPieceWithItsFileMaterialPropertiesLayerAndGroup
     EXPECT_EQ(node->IsGroupMember() != FALSE, node != head);
   }
   EXPECT_EQ(undo().undoNames(), std::vector<std::wstring>{L"ZORVEL Character"});
-  EXPECT_EQ(Application::instance().prompts().top(), L"ZORVEL Character created");
+  EXPECT_EQ(Application::instance().prompts().shown(), L"ZORVEL Character created");
+  EXPECT_EQ(Application::instance().prompts().top(), L"") << "nobody's prompt is overwritten";
 }
 
 TEST_F(CharacterBuild, PlacesParentGroupAndAssetsAsComputedByHand) {

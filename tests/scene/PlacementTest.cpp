@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 #include <max.h>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "host/application/Application.h"
 #include "host/meshes/Mesh.h"
@@ -16,14 +18,13 @@
 #include "host/services/UndoStack.h"
 #include "host/view/Viewports.h"
 #include "scene/PlacementPickMode.h"
-#include "scene/PlacementState.h"
 #include "tests/support/LoadedRepositoryFixture.h"
 
 namespace {
 
 using host::Application;
 using host::Node;
-using ZORVEL::Placement::StartPlacement;
+using ZORVEL::Placement;
 
 constexpr int WIDTH = 800;
 constexpr int HEIGHT = 600;
@@ -42,25 +43,39 @@ class PlacementByMouse : public support::LoadedRepositoryFixture {
  protected:
   void SetUp() override {
     LoadedRepositoryFixture::SetUp();
+    promptsBefore_ = prompts().depth();
     view_ = &Application::instance().viewports().open(WIDTH, HEIGHT);
     view_->lookAt(Point3(0, 0, 50), 1500.0F, 0.3F, 0.7F);
     feed_ = std::make_unique<host::MouseFeed>(Application::instance().modes(), view_->GetHWnd());
     clearLog();
   }
   void TearDown() override {
-    Application::instance().modes().returnToStandard();
-    ZORVEL::PlacementState::Get() = ZORVEL::PlacementState();
+    Placement::Free();
+    expectOver();
     Application::instance().viewports().close(view_->GetHWnd());
     LoadedRepositoryFixture::TearDown();
   }
 
   static host::Scene& scene() { return Application::instance().scene(); }
   static host::UndoStack& undo() { return Application::instance().undo(); }
-  static const std::wstring& prompt() { return Application::instance().prompts().top(); }
+  static host::CommandModes& modes() { return Application::instance().modes(); }
+  static host::Prompts& prompts() { return Application::instance().prompts(); }
+  static const std::wstring& prompt() { return prompts().shown(); }
+  /// Nothing is placed, and nothing asks for it.
+  void expectOver() const {
+    EXPECT_EQ(Placement::GetNode(), nullptr);
+    EXPECT_EQ(Placement::GetStep(), ZORVEL::PlacementStep::Idle);
+    EXPECT_EQ(&modes().current(), &modes().standard());
+    EXPECT_EQ(prompts().depth(), promptsBefore_);
+  }
+  static int endCommands() {
+    const std::vector<int>& all = modes().executed();
+    return static_cast<int>(std::count(all.begin(), all.end(), host::CommandModes::STANDARD_MODE_COMMAND));
+  }
 
   INode* start() {
     INode* parent = build();
-    StartPlacement(parent);
+    Placement::StartPlacement(parent);
     return parent;
   }
   IPoint2 pixelOf(const Point3& world) const {
@@ -93,6 +108,7 @@ class PlacementByMouse : public support::LoadedRepositoryFixture {
 
   host::Viewport* view_ = nullptr;
   std::unique_ptr<host::MouseFeed> feed_;
+  std::size_t promptsBefore_ = 0;
 };
 
 TEST_F(PlacementByMouse, StandsOnTheGroundWhereNothingElseIsAndNeverOnItself) {
@@ -184,9 +200,8 @@ TEST_F(PlacementByMouse, TurnsByPixelsAndEndsOnTheGroupsHead) {
   EXPECT_EQ(head->GetNodeTM(0).GetTrans(), place);
   EXPECT_EQ(parent->GetChildNode(0)->GetNodeTM(0).GetTrans(), bodyBefore);
   EXPECT_NE(parent->Selected(), 0);
-  EXPECT_EQ(Application::instance().modes().executed().back(), 91);
-  EXPECT_EQ(&Application::instance().modes().current(), &Application::instance().modes().standard());
-  EXPECT_EQ(prompt(), L"Place your ZORVEL Character") << "two prompts are pushed, one is popped";
+  EXPECT_EQ(modes().executed().back(), 91);
+  expectOver();
   EXPECT_TRUE(undo().undo());
   EXPECT_TRUE(scene().nodes().empty());
   EXPECT_TRUE(undo().redo());
@@ -198,30 +213,38 @@ TEST_F(PlacementByMouse, ARightClickInEitherStepDeletesCharacterAndGroupAndUndoD
     start();
     moveTo({100, 50, 0});
     if (clicked) click(pixelOf({100, 50, 0}));
+    const int ended = endCommands();
     feed_->rightClick(0, {10, 10});
     EXPECT_TRUE(scene().nodes().empty());
-    EXPECT_EQ(&Application::instance().modes().current(), &Application::instance().modes().standard());
+    EXPECT_EQ(endCommands(), ended + 1) << "the deletion ends it no second time";
+    expectOver();
     undo().undo();
     EXPECT_TRUE(scene().nodes().empty());
     undo().redo();
     EXPECT_TRUE(scene().nodes().empty());
   }
   clearLog();
-  Application::instance().modes().set(nullptr);
   ASSERT_NE(build(), nullptr) << "the register points at nothing that is gone";
   EXPECT_EQ(countLogged(L"use instance..."), 0);
 }
 
-TEST_F(PlacementByMouse, ASecondStartForgetsTheFirstNodeWhereItStands) {
-  INode* first = start();
-  moveTo({100, 50, 0});
-  const Point3 left = first->GetNodeTM(0).GetTrans();
-  INode* second = start();
-  expectLogged(ZORVEL::DEBUG_WARNING, L"Placement::StartPlacement node alreay set!");
-  moveTo({-150, -50, 0});
-  EXPECT_EQ(first->GetNodeTM(0).GetTrans(), left);
-  expectAt(second, {-150, -50, 0});
-  EXPECT_EQ(Application::instance().modes().depth(), 2U) << "once on top of the standard mode";
+TEST_F(PlacementByMouse, ASecondStartInEitherStepForgetsTheFirstNodeWhereItStandsAndAsksForAPlaceAgain) {
+  for (const bool clicked : {false, true}) {
+    INode* first = start();
+    moveTo({100, 50, 0});
+    if (clicked) click(pixelOf({100, 50, 0}));
+    const Point3 left = first->GetNodeTM(0).GetTrans();
+    INode* second = start();
+    expectLogged(ZORVEL::DEBUG_WARNING, L"Placement::StartPlacement node alreay set!");
+    EXPECT_EQ(prompt(), L"Place your ZORVEL Character");
+    EXPECT_EQ(prompts().depth(), promptsBefore_ + 1) << "once";
+    EXPECT_EQ(modes().depth(), 2U) << "once on top of the standard mode";
+    moveTo({-150, -50, 0});
+    EXPECT_EQ(first->GetNodeTM(0).GetTrans(), left);
+    expectAt(second, {-150, -50, 0});
+    feed_->rightClick(0, {10, 10});
+    expectOver();
+  }
 }
 
 TEST_F(PlacementByMouse, LateMovesAfterTheEndChangeNothing) {
@@ -238,28 +261,70 @@ TEST_F(PlacementByMouse, LateMovesAfterTheEndChangeNothing) {
   EXPECT_TRUE(scene().nodes().empty());
 }
 
-TEST_F(PlacementByMouse, ForgetsANodeThatANewSceneAnOpenedFileOrUndoTakesAway) {
+TEST_F(PlacementByMouse, EndsWhenANewSceneAnOpenedFileUndoOrADeletionTakesTheNodeAway) {
   FileIOType type = IOTYPE_MAX;
-  const std::function<void()> ways[] = {[] { Application::instance().newScene(); },
-                                        [] {
-                                          undo().undo();
-                                          undo().clear();
-                                        },
-                                        [&] {
-                                          BroadcastNotification(NOTIFY_FILE_POST_OPEN, &type);
-                                          Application::instance().reset();
-                                        }};
+  const std::function<void(INode*)> ways[] = {[](INode*) { Application::instance().newScene(); },
+                                              [](INode*) {
+                                                undo().undo();
+                                                undo().clear();
+                                              },
+                                              [&](INode*) {
+                                                BroadcastNotification(NOTIFY_FILE_POST_OPEN, &type);
+                                                Application::instance().reset();
+                                              },
+                                              [](INode* node) { GetCOREInterface()->DeleteNode(node, TRUE, FALSE); }};
+  int way = 0;
   for (const auto& takeAway : ways) {
-    start();
-    moveTo({100, 50, 0});
-    takeAway();
-    EXPECT_EQ(ZORVEL::PlacementState::Get().node, nullptr);
-    feed_->move(0, {300, 300});
-    expectLogged(ZORVEL::DEBUG_ERROR, L"No node selected for placement");
-    click({300, 300});
-    feed_->rightClick(0, {300, 300});
-    EXPECT_TRUE(scene().nodes().empty());
+    SCOPED_TRACE(way++);
+    for (const bool clicked : {false, true}) {
+      INode* node = start();
+      moveTo({100, 50, 0});
+      if (clicked) click(pixelOf({100, 50, 0}));
+      takeAway(node);
+      expectOver();
+      Application::instance().newScene();
+    }
   }
+}
+
+/// Somebody else's mode for the view, which the user puts on top for a while.
+class ViewMode : public CommandMode {
+ public:
+  int Class() override { return 1; }
+  int ID() override { return 1; }
+  MouseCallBack* MouseProc(int* /*numPoints*/) override { return nullptr; }
+  ChangeForegroundCallback* ChangeFGProc() override { return nullptr; }
+  BOOL ChangeFG(CommandMode* /*oldMode*/) override { return FALSE; }
+  void EnterMode() override { GetCOREInterface()->PushPrompt(L"Pan"); }
+  void ExitMode() override { GetCOREInterface()->PopPrompt(); }
+};
+
+TEST_F(PlacementByMouse, GoesOnAfterAnotherModeOnTopAndEndsBelowIt) {
+  ViewMode pan;
+  start();
+  moveTo({100, 50, 0});
+  click(pixelOf({100, 50, 0}));
+  modes().push(&pan);
+  EXPECT_EQ(prompts().depth(), promptsBefore_ + 1) << "the other mode's";
+  modes().pop();
+  EXPECT_EQ(prompt(), L"Rotate your ZORVEL Character");
+  modes().push(&pan);
+  undo().undo();
+  EXPECT_EQ(&modes().current(), &pan) << "which is none of its business";
+  modes().pop();
+  expectOver();
+}
+
+TEST_F(PlacementByMouse, TheModeIsHandedBackAlsoWhileItIsCurrent) {
+  Placement::Free();
+  start();
+  CommandMode* mode = GetCOREInterface()->GetCommandMode();
+  EXPECT_EQ(mode->ID(), 0x782F67);
+  Placement::Free();
+  expectOver();
+  EXPECT_FALSE(scene().nodes().empty()) << "the character stays";
+  start();
+  EXPECT_EQ(prompt(), L"Place your ZORVEL Character") << "and a new one can be made";
 }
 
 }  // namespace

@@ -80,6 +80,35 @@ TEST_F(PlacingByHand, ARightClickLeavesNothingBehindAndUndoAfterItDoesNoHarm) {
   EXPECT_EQ(window().nodes().tree().topLevelItemCount(), static_cast<int>(before));
 }
 
+TEST_F(PlacingByHand, EscapeCancelsInEitherStepAndTheSelectToolLeavesTheCharacterWhereItIs) {
+  const QAction& select = window().menus().selectAction();
+  const std::size_t before = scene().nodes().size();
+  EXPECT_TRUE(select.isChecked());
+  for (const bool clicked : {false, true}) {
+    createCharacter();
+    move(pixelOf(onGround));
+    if (clicked) click(pixelOf(onGround));
+    EXPECT_FALSE(select.isChecked());
+    key(Qt::Key_Escape);
+    EXPECT_EQ(scene().nodes().size(), before);
+    EXPECT_TRUE(standardMode());
+    EXPECT_TRUE(select.isChecked());
+    EXPECT_EQ(window().promptLine().prompt(), "Ready");
+  }
+  createCharacter();
+  move(pixelOf(onGround));
+  for (int twice = 0; twice < 2; ++twice) {
+    key(Qt::Key_Q);
+    EXPECT_TRUE(standardMode());
+    EXPECT_TRUE(select.isChecked());
+  }
+  key(Qt::Key_Escape);
+  EXPECT_GT(scene().nodes().size(), before) << "there is nothing to cancel any more";
+  click(pixelOf(Point3(210, 150, 75)));
+  EXPECT_FALSE(scene().selection().empty());
+  EXPECT_EQ(window().promptLine().prompt(), "Ready");
+}
+
 TEST_F(PlacingByHand, NavigatingInTheMiddleOfAPlacementIsNoneOfItsBusiness) {
   createCharacter();
   move(pixelOf(onGround));

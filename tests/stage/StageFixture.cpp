@@ -4,10 +4,8 @@
 #include <cmath>
 
 #include "host/application/Application.h"
-#include "host/modes/CommandModes.h"
-#include "host/scene/Scene.h"
 #include "plugin/Commands.h"
-#include "scene/PlacementState.h"
+#include "scene/Placement.h"
 
 namespace support {
 
@@ -24,8 +22,7 @@ void StageFixture::SetUp() {
 }
 
 void StageFixture::TearDown() {
-  host::Application::instance().modes().returnToStandard();
-  ZORVEL::PlacementState::Get() = ZORVEL::PlacementState();
+  ZORVEL::Placement::Free();
   window_.reset();
   LoadedRepositoryFixture::TearDown();
 }

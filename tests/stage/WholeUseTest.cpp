@@ -15,6 +15,7 @@
 #include "apps/stage/Stage.h"
 #include "host/application/Application.h"
 #include "host/formats/SceneJson.h"
+#include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
 #include "host/services/Prompts.h"
 #include "host/services/UndoStack.h"
@@ -37,12 +38,15 @@ move    430 330 9 0 Place your ZORVEL Character
 click   430 330 9 0 Rotate your ZORVEL Character
 move    480 330 9 0.5 Rotate your ZORVEL Character
 move    530 300 9 1 Rotate your ZORVEL Character
-click   530 300 9 1 Place your ZORVEL Character
-undo    0   0   4 0 Place your ZORVEL Character
-redo    0   0   9 0 Place your ZORVEL Character
+click   530 300 9 1 Ready
+undo    0   0   4 0 Ready
+redo    0   0   9 0 Ready
 create  0   0   14 0 Place your ZORVEL Character
 move    300 320 14 0 Place your ZORVEL Character
-cancel  300 320 9 0 ZORVEL Character created
+cancel  300 320 9 0 Ready
+create  0   0   14 0 Place your ZORVEL Character
+escape  0   0   9 0 Ready
+create  0   0   14 0 Place your ZORVEL Character
 )";
 
 class WholeUse : public testing::Test {
@@ -88,6 +92,8 @@ class WholeUse : public testing::Test {
     if (what == "action") window.quickAccess().actions().front()->trigger();
     if (what == "choose") support::ManagerWindow().chooseCloth("Anna", "Summer");
     if (what == "create") support::ManagerWindow().create();
+    // The button that was pressed is in the window that is active.
+    if (what == "escape") QTest::keyClick(support::ManagerWindow::find()->windowHandle(), Qt::Key_Escape);
     // A window manager makes active what is clicked.
     window.activateWindow();
     if (what == "move") QTest::mouseMove(window.windowHandle(), place);
@@ -110,9 +116,9 @@ class WholeUse : public testing::Test {
 TEST_F(WholeUse, RunsFromTheActionToUndoAsItWasRecorded) {
   const support::SmallRepository repository;
   repository.writePictures();
-  stage::Stage stage(options(repository));
-  ASSERT_EQ(stage.run(), 0);
-  stage::StageWindow& window = stage.window();
+  std::optional<stage::Stage> stage(options(repository));
+  ASSERT_EQ(stage->run(), 0);
+  stage::StageWindow& window = stage->window();
   lookAtGround(window);
   std::istringstream recording(RECORDING);
   std::string what;
@@ -128,7 +134,10 @@ TEST_F(WholeUse, RunsFromTheActionToUndoAsItWasRecorded) {
     EXPECT_EQ(window.promptLine().prompt().toStdString(), prompt) << "step " << step;
     keepPicture(window, step);
   }
-  EXPECT_EQ(Application::instance().undo().undoNames().size(), 2U) << "the cancelled character's step does no harm";
+  EXPECT_EQ(Application::instance().undo().undoNames().size(), 4U) << "the cancelled character's step does no harm";
+  stage.reset();
+  EXPECT_EQ(Application::instance().prompts().top(), L"") << "closed in the middle of a placement";
+  EXPECT_EQ(&Application::instance().modes().current(), &Application::instance().modes().standard());
 }
 
 /// Where two scenes differ first; empty when they are the same but for the handles of nodes and rounding.
@@ -192,8 +201,6 @@ TEST_F(WholeUse, WhatIsChosenByClicksIsTheSceneThatTheCommandLineMakesFromTheSam
     ASSERT_EQ(stage.run(), 0);
     stage::StageWindow& window = stage.window();
     lookAtGround(window);
-    // A material of the scene goes before one of the same name in a library.
-    removeSurroundings();
     EXPECT_EQ(support::ManagerWindow::find(), nullptr);
     play(window, "action", {});
     support::ManagerWindow manager;
@@ -216,12 +223,40 @@ TEST_F(WholeUse, WhatIsChosenByClicksIsTheSceneThatTheCommandLineMakesFromTheSam
     for (const char* step : {"move", "click"}) play(window, step, QPoint(430, 330));
     for (const char* step : {"move", "click"}) play(window, step, QPoint(500, 310));
     place = placeOfLast();
+    // The command line has none. What they are made of must not have gone into the character.
+    removeSurroundings();
     byHand = Json::parse(host::sceneJson(Application::instance().scene(), Application::instance().units()));
     play(window, "undo", {});
     EXPECT_TRUE(Application::instance().scene().nodes().empty());
   }
   EXPECT_GT(place.GetTrans().Length(), 10.0F);
   EXPECT_EQ(difference(byHand, builtByCommandLine(repository, place, turnOf(place))), "");
+}
+
+TEST_F(WholeUse, AfterEachCreateThePersonReadsWhatTheCharacterLacksAndWhy) {
+  const support::SmallRepository repository;
+  repository.mend();
+  repository.writePictures();
+  repository.edit(R"(id="p1" name="Standing")", R"(id="p1")");
+  stage::Stage stage(options(repository));
+  ASSERT_EQ(stage.run(), 0);
+  stage::StageWindow& window = stage.window();
+  lookAtGround(window);
+  for (const char* step : {"action", "choose"}) play(window, step, {});
+  std::filesystem::remove(repository.folder().path() / "anna/summer/k1_p1.vrmesh");
+  play(window, "create", {});
+  EXPECT_EQ(window.promptLine().message().toStdString(), "Built without: body, a2, mesh of Summer — see Listener");
+  const QString reasons = window.listener().text();
+  EXPECT_TRUE(reasons.contains("-- Body (p1): left out: it has no \"name\".\n")) << reasons.toStdString();
+  EXPECT_TRUE(reasons.contains("Clothing \"Summer\" (k1): the mesh ")) << reasons.toStdString();
+  EXPECT_TRUE(reasons.contains("k1_p1.vrmesh is missing.")) << reasons.toStdString();
+  keepPicture(window, 50);
+  play(window, "escape", {});
+
+  support::ManagerWindow().clickPicture("Walking");
+  play(window, "create", {});
+  EXPECT_EQ(window.promptLine().message().toStdString(), "Character built");
+  EXPECT_EQ(window.listener().text(), reasons) << "nothing to add";
 }
 
 TEST_F(WholeUse, TheInfoWindowWaitsInTheMenuAndGoesWithTheModule) {

@@ -35,7 +35,7 @@ TEST_F(CharacterTreeWidget, AClickChoosesACharacterAndAnotherOneChoosesItAgain) 
   clickNode(node("Anna"));
   EXPECT_EQ(selection(), "c1 - - - -");
   const QStringList twice = {"character c1, refresh", "character c1, refresh"};
-  EXPECT_EQ(support::CommandLog::Take(), twice) << "after the selection, and after the click";
+  EXPECT_EQ(commands().take(), twice) << "after the selection, and after the click";
   expectLogged(ZORVEL::DEBUG_INFO, L"Click on TreeView...");
   expectLogged(ZORVEL::DEBUG_INFO, L"Select Character...");
   clickNode(node("Anna", "Dress"));
@@ -44,9 +44,9 @@ TEST_F(CharacterTreeWidget, AClickChoosesACharacterAndAnotherOneChoosesItAgain) 
   EXPECT_EQ(countLogged(L"Select Character..."), 0);
   clearLog();
   clickNode(node("Anna"));
-  support::CommandLog::Clear();
+  commands().clear();
   clickNode(node("Anna"));
-  EXPECT_EQ(support::CommandLog::Take(), QStringList("character c1, refresh"));
+  EXPECT_EQ(commands().take(), QStringList("character c1, refresh"));
   EXPECT_EQ(selection(), "c1 - - - -");
   EXPECT_EQ(countLogged(L"Click on TreeView..."), 1);
   EXPECT_EQ(countLogged(L"Select Character..."), 2);
@@ -55,13 +55,13 @@ TEST_F(CharacterTreeWidget, AClickChoosesACharacterAndAnotherOneChoosesItAgain) 
 TEST_F(CharacterTreeWidget, AClickOnAClothingChoosesItWithItsCharacterOnceAndTheFirstOfEverythingWithIt) {
   open();
   clickNode(node("Ben"));
-  support::CommandLog::Clear();
+  commands().clear();
   clickNode(node("Anna", "Blouse"));
   const QStringList sent = {
       "cloth c1 kb, refresh", "pose p1", "skin s1", "style m1", "asset a2", "asset a4", "asset a5", "asset g1m2"};
-  EXPECT_EQ(support::CommandLog::Take(), sent);
+  EXPECT_EQ(commands().take(), sent);
   clickNode(node("Anna", "Blouse"));
-  EXPECT_EQ(support::CommandLog::Take(), QStringList()) << "it is chosen already";
+  EXPECT_EQ(commands().take(), QStringList()) << "it is chosen already";
   EXPECT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2");
   clickNode(node("Ben", "Number 1"));
   EXPECT_EQ(selection(), "c2 k1 - s1 -") << "the skin stays, though this character has no such skin";

@@ -80,15 +80,15 @@ TEST_F(ClothingStrip, TheWheelScrollsWhatIsUnderThePointerWhateverHasTheKeyboard
 TEST_F(ClothingStrip, AClickChoosesTheClothingWhetherItIsThereOrNot) {
   open();
   clickNode(node("Anna"));
-  support::CommandLog::Clear();
+  commands().clear();
   click(picture("Dress"));
-  EXPECT_EQ(support::CommandLog::Take().front(), "cloth c1 kd, refresh");
+  EXPECT_EQ(commands().take().front(), "cloth c1 kd, refresh");
   EXPECT_TRUE(strip().isHidden());
   EXPECT_TRUE(tabs().isVisible());
   clickNode(node("Anna"));
-  support::CommandLog::Clear();
+  commands().clear();
   click(picture("Coat"));
-  EXPECT_EQ(support::CommandLog::Take(), QStringList("cloth c1 kc, refresh")) << "in no pose, so nothing goes with it";
+  EXPECT_EQ(commands().take(), QStringList("cloth c1 kc, refresh")) << "in no pose, so nothing goes with it";
   EXPECT_EQ(selection(), "c1 kc - - -");
   EXPECT_EQ(names("Pose"), (QStringList{"Walking", "Standing", "Sitting"}));
   EXPECT_EQ(names("Skin"), QStringList());

@@ -11,7 +11,6 @@
 namespace {
 
 namespace Commands = ZORVEL::Commands;
-using support::CommandLog;
 
 class ElementPages : public support::WindowFixture {
  protected:
@@ -114,7 +113,7 @@ TEST_F(ElementPages, KeepOneOfPosesSkinsAndStyles) {
   clickPicture("Fabric", "Red");
   EXPECT_EQ(checked("Skin"), QStringList("Light"));
   EXPECT_EQ(checked("Fabric"), QStringList("Red"));
-  EXPECT_EQ(CommandLog::Take(), QStringList()) << "none is given up for nothing";
+  EXPECT_EQ(commands().take(), QStringList()) << "none is given up for nothing";
   clickBox("Skin", "Dark");
   EXPECT_EQ(checked("Skin"), QStringList("Dark"));
   clickBox("Skin", "Dark");
@@ -122,7 +121,7 @@ TEST_F(ElementPages, KeepOneOfPosesSkinsAndStyles) {
   clickPicture("Fabric", "Green");
   clickBox("Fabric", "Green");
   EXPECT_EQ(checked("Fabric"), QStringList("Green"));
-  EXPECT_EQ(CommandLog::Take(), (QStringList{"skin s2, refresh", "style m2, refresh"}));
+  EXPECT_EQ(commands().take(), (QStringList{"skin s2, refresh", "style m2, refresh"}));
   EXPECT_EQ(selection(), "c1 kb p1 s2 m2 a2 a5 g1m2");
   Commands::SetSelectedSkin(static_cast<unsigned int>(ZORVEL::Data2::GetUnique(anna().GetSkin(L"s1"))), true);
   EXPECT_EQ(checked("Skin"), QStringList("Light"));
@@ -138,7 +137,7 @@ TEST_F(ElementPages, FollowTheRulesOfTheirCategories) {
   EXPECT_EQ(checked("Things"), (QStringList{"Bag : Leather", "Lamp"}));
   clickBox("Hats", "Bowler");
   EXPECT_EQ(checked("Hats"), QStringList("Bowler")) << "required";
-  EXPECT_EQ(CommandLog::Take(),
+  EXPECT_EQ(commands().take(),
             (QStringList{"asset a1m2, refresh", "asset a3, refresh", "without a2, refresh", "without a5, refresh"}));
   EXPECT_EQ(checked("Seats"), QStringList("Bench : Pine"));
   clickBox("Shoes", "Boot");
@@ -180,12 +179,12 @@ TEST_F(ElementPages, APoseRebuildsTheOtherPagesAndNothingStaleReachesTheChoice) 
   clickBox("Skin", "Dark");
   clickBox("Fabric", "Green");
   clickBox("Shoes", "Boot");
-  CommandLog::Clear();
+  commands().clear();
   const QWidget* poses = page("Pose").GetControl();
   const QCheckBox* box = element("Pose", "Sitting").GetCheckBox();
   const QWidget* skins = page("Skin").GetControl();
   clickBox("Pose", "Sitting");
-  EXPECT_EQ(CommandLog::Take(), (QStringList{"pose p3, refresh", "skin s1", "style m1", "asset a4", "asset g1m2"}))
+  EXPECT_EQ(commands().take(), (QStringList{"pose p3, refresh", "skin s1", "style m1", "asset a4", "asset g1m2"}))
       << "the pages begin anew, and what they would choose is refused";
   EXPECT_EQ(selection(), "c1 kb p3 s2 m2 a2 a5 a6");
   EXPECT_EQ(tabs().currentIndex(), 0);
@@ -207,7 +206,7 @@ TEST_F(ElementPages, APoseWhoseMeshHasGoneMakesTheRestUnavailable) {
   support::OpenedAddresses opened;
   files().remove("anna/blouse/kb_p3.vrmesh");
   clickBox("Pose", "Sitting");
-  EXPECT_EQ(CommandLog::Take(), (QStringList{"pose p3, refresh", "asset a4"}));
+  EXPECT_EQ(commands().take(), (QStringList{"pose p3, refresh", "asset a4"}));
   EXPECT_EQ(selection(), "c1 kb p3 s1 m1 a2 a5 g1m2");
   for (const char* title : {"Skin", "Fabric", "Things", "Hats", "Shoes", "Seats"}) {
     EXPECT_EQ(page(title).GetElements().front()->GetCheckBox(), nullptr) << title;

@@ -26,7 +26,6 @@
 namespace {
 
 using host::Application;
-using support::CommandLog;
 using ZORVEL::MainWindowClass;
 using ZORVEL::Selection2;
 
@@ -84,11 +83,11 @@ TEST_F(MainWindowForm, OpensOnceAndAnewAfterItWasClosed) {
   EXPECT_EQ(window().minimumSize(), QSize(525 - 16, 500 - 39));
   expectLogged(ZORVEL::DEBUG_INFO, L"MainWindow::OpenMainWindow : create...");
   window().showMinimized();
-  CommandLog::Clear();
+  commands().clear();
   open();
   EXPECT_EQ(&window(), first);
   EXPECT_FALSE(window().isMinimized());
-  EXPECT_EQ(CommandLog::Take().mid(0, 3), (QStringList{"pose p1", "skin s1", "style m1"})) << "filled again";
+  EXPECT_EQ(commands().take().mid(0, 3), (QStringList{"pose p1", "skin s1", "style m1"})) << "filled again";
   expectLogged(ZORVEL::DEBUG_INFO, L"MainWindow::OpenMainWindow : display...");
   EXPECT_TRUE(window().close());
   EXPECT_EQ(MainWindowClass::window, nullptr);
@@ -188,7 +187,7 @@ TEST_F(MainWindowForm, BuildsTheChosenCharacterAndStartsPlacingIt) {
   openWithBlouse();
   const CommandMode* before = GetCOREInterface()->GetCommandMode();
   click(createButton());
-  EXPECT_EQ(CommandLog::Take(), QStringList("create"));
+  EXPECT_EQ(commands().take(), QStringList("create"));
   EXPECT_NE(GetCOREInterface()->GetINodeByName(L"ZORVEL Character Anna"), nullptr);
   EXPECT_NE(GetCOREInterface()->GetCommandMode(), before);
   EXPECT_TRUE(window().isVisible());
@@ -201,7 +200,7 @@ TEST_F(MainWindowForm, ItsMenuVisitsTheShopReloadsAndAsksForAnotherRepository) {
   EXPECT_EQ(opened.take().size(), 1);
   choose("Repository", "Reload");
   expectNothingChosen();
-  EXPECT_EQ(CommandLog::Take(), QStringList()) << "the old pages say nothing when they go";
+  EXPECT_EQ(commands().take(), QStringList()) << "the old pages say nothing when they go";
   clickNode(node("Anna", "Blouse"));
   EXPECT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2");
   clickNode(node("Anna"));
@@ -230,11 +229,11 @@ TEST_F(MainWindowForm, SurvivesAReloadInTheMiddleOfAClick) {
   settle();
   QTest::mouseRelease(window().windowHandle(), Qt::LeftButton, {}, place);
   settle();
-  EXPECT_EQ(CommandLog::Take(), QStringList());
+  EXPECT_EQ(commands().take(), QStringList());
   expectNothingChosen();
 
   clickNode(node("Anna", "Blouse"));
-  CommandLog::Clear();
+  commands().clear();
   files().folder().write("zorvel.xml", "<zorvel/>");
   bool reloaded = false;
   ZORVEL::LogStore::SetListener([&](ZORVEL::DEBUG_TYPE, const wchar_t* text) {
@@ -245,7 +244,7 @@ TEST_F(MainWindowForm, SurvivesAReloadInTheMiddleOfAClick) {
   clickBox("Pose", "Sitting");
   ZORVEL::LogStore::SetListener({});
   EXPECT_TRUE(reloaded);
-  EXPECT_EQ(CommandLog::Take(), QStringList("pose unknown, refresh"));
+  EXPECT_EQ(commands().take(), QStringList("pose unknown, refresh"));
   expectNothingChosen();
 }
 
@@ -255,7 +254,7 @@ TEST_F(MainWindowForm, TakesClicksOnRecordsThatAreNoLongerThere) {
   clickBox("Skin", "Dark");
   clickBox("Things", "Lamp");
   clickBox("Pose", "Sitting");
-  EXPECT_EQ(CommandLog::Take(),
+  EXPECT_EQ(commands().take(),
             (QStringList{"skin unknown, refresh", "asset unknown, refresh", "pose unknown, refresh"}));
   EXPECT_EQ(tabs().count(), 1);
   clickNode(node("Anna"));

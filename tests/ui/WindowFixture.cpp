@@ -37,7 +37,7 @@ void WindowFixture::SetUp() {
   ZORVEL::Settings::StorePath(files_.root().c_str());
   ASSERT_TRUE(ZORVEL::Commands::ValidateData());
   clearLog();
-  CommandLog::Clear();
+  commands().clear();
 }
 
 void WindowFixture::TearDown() {
@@ -63,7 +63,7 @@ void WindowFixture::openWithBlouse() {
   open();
   clickNode(node("Anna", "Blouse"));
   ASSERT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2");
-  CommandLog::Clear();
+  commands().clear();
 }
 
 void WindowFixture::settle() {

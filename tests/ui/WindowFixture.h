@@ -24,6 +24,7 @@ class WindowFixture : public LoadedRepositoryFixture {
   void TearDown() override;
 
   const WindowRepository& files() const { return files_; }
+  CommandLog& commands() { return commands_; }
   static ZORVEL::CharacterData& anna();
   static ZORVEL::MainWindowClass& window() { return *ZORVEL::MainWindowClass::window; }
   static ZORVEL::CharacterTree& tree() { return *window().GetCharacterWidget().GetControl(); }
@@ -35,7 +36,7 @@ class WindowFixture : public LoadedRepositoryFixture {
   static void open();
   /// Opens and clicks through the tree to Anna's blouse: pose p1, skin s1, style m1, assets a2, a5, g1m2. The commands
   /// so far are forgotten.
-  static void openWithBlouse();
+  void openWithBlouse();
   /// Handles what is waiting.
   static void settle();
 
@@ -68,6 +69,7 @@ class WindowFixture : public LoadedRepositoryFixture {
 
  private:
   WindowRepository files_;
+  CommandLog commands_;
 };
 
 }  // namespace support

@@ -7,8 +7,6 @@
 
 namespace {
 
-using support::CommandLog;
-
 class WindowKeyboard : public support::WindowFixture {
  protected:
   static const QWidget* focus() { return QApplication::focusWidget(); }
@@ -77,7 +75,7 @@ TEST_F(WindowKeyboard, KeysWalkThroughTheTabsAndPressTheButton) {
   focusByTab(createButton());
   key(Qt::Key_Space);
   key(Qt::Key_Return);
-  EXPECT_EQ(CommandLog::Take(), (QStringList{"create", "create"}));
+  EXPECT_EQ(commands().take(), (QStringList{"create", "create"}));
 }
 
 TEST_F(WindowKeyboard, AltOpensTheMenus) {

@@ -18,6 +18,7 @@ namespace {
 
 host::Scene& scene() { return host::Application::instance().scene(); }
 
+/// Names begin with "Stage": plug-ins take a material that the scene has before one of the same name in a library.
 Mtl* plainMaterial(const wchar_t* name, Color color) {
   Mtl* material = host::createMaterial(host::STANDARD_MATERIAL);
   material->SetName(name);
@@ -74,9 +75,9 @@ std::shared_ptr<const host::Mesh> table() {
 
 void addSurroundings() {
   using host::SurroundingsObject;
-  add(L"Steps", new SurroundingsObject(steps()), plainMaterial(L"Stone", {0.62F, 0.61F, 0.59F}), {-210, 120, 0});
-  add(L"Ramp", new SurroundingsObject(ramp()), plainMaterial(L"Slate", {0.42F, 0.49F, 0.55F}), {0, 170, 0});
-  add(L"Table", new SurroundingsObject(table()), plainMaterial(L"Oak", {0.66F, 0.49F, 0.33F}), {210, 150, 0});
+  add(L"Steps", new SurroundingsObject(steps()), plainMaterial(L"Stage Stone", {0.62F, 0.61F, 0.59F}), {-210, 120, 0});
+  add(L"Ramp", new SurroundingsObject(ramp()), plainMaterial(L"Stage Slate", {0.42F, 0.49F, 0.55F}), {0, 170, 0});
+  add(L"Table", new SurroundingsObject(table()), plainMaterial(L"Stage Oak", {0.66F, 0.49F, 0.33F}), {210, 150, 0});
   add(L"Lamp", new host::LampHelper, nullptr, {210, 150, 310});
 }
 

@@ -19,11 +19,15 @@ class PromptLine : public QStatusBar {
  public slots:
   void setPrompt(const QString& prompt);
   void say(const QString& message);
+  /// Says it so that it is noticed.
+  void warn(const QString& message);
   void setUnit(const QString& unit);
   /// Shown until 100.
   void setProgress(int percent);
 
  private:
+  void showMessageIn(const QColor& color, const QString& message);
+
   QLabel* prompt_;
   QLabel* message_;
   QProgressBar* progress_;

@@ -88,6 +88,16 @@ void ViewportWidget::frameAll() {
   refresh();
 }
 
+void ViewportWidget::cancelMode() {
+  host::CommandModes& modes = application().modes();
+  if (standardMode()) return;
+  const std::uint64_t generation = modes.generation();
+  if (feed_.buttonDown()) feed_.abort();
+  feed_.rightClick(0, {last_.x(), last_.y()});
+  if (modes.generation() == generation) modes.returnToStandard();
+  refresh();
+}
+
 void ViewportWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   QLinearGradient background(0, 0, 0, height());

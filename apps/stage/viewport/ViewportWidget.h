@@ -29,6 +29,9 @@ class ViewportWidget : public QWidget {
   /// Without a selection, everything.
   void frameSelection();
   void frameAll();
+  /// Ends the mode that is current, the host's own excepted: it is told of a right click, which is how modes are
+  /// cancelled, and left when it goes on all the same.
+  void cancelMode();
 
  protected:
   void paintEvent(QPaintEvent* event) override;

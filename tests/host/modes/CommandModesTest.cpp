@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <thread>
 
 #include "host/application/Application.h"
 #include "host/application/HostInterface.h"
@@ -65,11 +66,12 @@ TEST(CommandModes, EntersWhatBecomesCurrentAndLeavesWhatWas) {
   modes.push(nullptr);
   EXPECT_EQ(&modes.current(), &modes.standard());
   modes.set(&a);
-  EXPECT_EQ(modes.depth(), 2U);
-  modes.set(&a);
   modes.push(&b);
   modes.pop();
   EXPECT_THAT(takeFrom(record), ElementsAre("enter a", "exit a", "enter b", "exit b", "enter a"));
+  modes.set(&a);
+  EXPECT_EQ(modes.depth(), 2U);
+  EXPECT_THAT(takeFrom(record), ElementsAre("exit a", "enter a")) << "set anew";
 
   modes.push(&b);
   takeFrom(record);
@@ -197,10 +199,26 @@ TEST(HostInterface, HandsModesAndCommandsToTheStackAndLeavesPromptsAlone) {
   host->SetCommandMode(&mode);
   host->DeleteMode(&mode);
   EXPECT_EQ(host->GetCommandMode(), &application.modes().standard());
-  EXPECT_THAT(record, ElementsAre("enter m", "exit m", "enter m", "exit m", "enter m", "exit m"));
+  EXPECT_THAT(record, ElementsAre("enter m", "exit m", "enter m", "exit m", "enter m", "exit m", "enter m", "exit m"));
   EXPECT_EQ(application.prompts().depth(), prompts);
   EXPECT_EQ(application.prompts().top(), L"mine");
   host->PopPrompt();
+}
+
+TEST(Prompts, ATemporaryTextIsShownUntilItsTimeIsUpOrTheStackChanges) {
+  host::Prompts prompts;
+  prompts.push(L"question");
+  prompts.showTemporary(L"news", std::chrono::milliseconds(20));
+  EXPECT_EQ(prompts.shown(), L"news");
+  EXPECT_EQ(prompts.top(), L"question");
+  while (prompts.temporaryLeft().count() > 0) std::this_thread::sleep_for(prompts.temporaryLeft());
+  EXPECT_EQ(prompts.shown(), L"question");
+  prompts.showTemporary(L"news", std::chrono::hours(1));
+  prompts.push(L"next question");
+  EXPECT_EQ(prompts.shown(), L"next question");
+  prompts.showTemporary(L"news", std::chrono::hours(1));
+  prompts.pop();
+  EXPECT_EQ(prompts.shown(), L"question");
 }
 
 }  // namespace
