@@ -1,6 +1,6 @@
 #include "samples/props/Furniture.h"
 
-#include "samples/PropShapes.h"
+#include "samples/geometry/Primitives.h"
 #include "samples/props/PropPiece.h"
 
 namespace samples {

@@ -1,8 +1,9 @@
-#include "samples/Garment.h"
+#include "samples/clothing/Garment.h"
 
 #include <gtest/gtest.h>
 
-#include "samples/Wardrobe.h"
+#include "samples/body/BodyPieces.h"
+#include "samples/clothing/Wardrobe.h"
 #include "samples/people/People.h"
 
 namespace {

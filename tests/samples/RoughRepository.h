@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "samples/SampleRepository.h"
+#include "samples/repository/SampleRepository.h"
 
 namespace support {
 

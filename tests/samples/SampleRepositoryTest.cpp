@@ -1,4 +1,4 @@
-#include "samples/SampleRepository.h"
+#include "samples/repository/SampleRepository.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,125 @@
+#include "samples/repository/CharacterMaker.h"
+
+#include "host/meshes/MeshFileWriter.h"
+#include "samples/body/BodyPieces.h"
+#include "samples/repository/MaterialLibraryWriter.h"
+#include "samples/repository/Naming.h"
+
+namespace samples {
+namespace {
+
+namespace fs = std::filesystem;
+
+MaterialLibraryWriter& libraryFor(std::map<fs::path, MaterialLibraryWriter>& libraries, const fs::path& file,
+                                  const std::string& owner) {
+  return libraries.try_emplace(file, "D:\\textures\\" + owner).first->second;
+}
+
+}  // namespace
+
+JobQueue::Job meshJob(const fs::path& file, const std::string& name, MeshStore& store, double coarseness,
+                      std::function<std::vector<Piece>()> pieces) {
+  return [=, &store]() -> std::string {
+    host::Mesh mesh = meshPieces(pieces(), coarseness);
+    std::string failed;
+    if (!file.empty()) {
+      std::error_code error;
+      fs::create_directories(file.parent_path(), error);
+      failed = host::writeMeshFile(mesh, file, host::VertexPrecision::Compact);
+    }
+    store.put(name, std::move(mesh));
+    return failed;
+  };
+}
+
+CharacterMaker::CharacterMaker(CharacterDesign design, fs::path root)
+    : m_design(std::move(design)), m_root(std::move(root)) {
+  for (const Pose& pose : samplePoses(m_design.proportions.femininity)) {
+    m_poses.push_back({pose, std::make_shared<ImplicitBody>(Skeleton(m_design.proportions, pose), m_design.hair)});
+  }
+  placeAssets();
+}
+
+void CharacterMaker::placeAssets() {
+  for (const Posed& posed : m_poses) {
+    for (const AssetDesign& asset : m_design.assets) {
+      if (asset.kind == AssetDesign::Kind::Worn) continue;
+      if (!asset.onlyPose.empty() && asset.onlyPose != posed.pose.id) continue;
+      m_placements.push_back(
+          {poseId(m_design, posed.pose), assetId(m_design, asset.key), propPlacement(asset.prop, *posed.body)});
+    }
+  }
+}
+
+const CharacterMaker::Posed& CharacterMaker::posed(bool seated) const {
+  const auto found =
+      std::find_if(m_poses.begin(), m_poses.end(), [=](const Posed& posed) { return posed.pose.seated == seated; });
+  return found == m_poses.end() ? m_poses.front() : *found;
+}
+
+std::string CharacterMaker::outfitMesh(const OutfitDesign& outfit, const Pose& pose) const {
+  return m_design.key + "/" + outfit.key + "/" + outfitId(m_design, outfit) + "_" + poseId(m_design, pose) + ".vrmesh";
+}
+
+std::string CharacterMaker::assetMesh(const AssetDesign& asset, const Pose& pose) const {
+  if (asset.kind == AssetDesign::Kind::Global) return asset.global;
+  const bool worn = asset.kind == AssetDesign::Kind::Worn;
+  return m_design.key + "/" + asset.key + "/" + (worn ? poseId(m_design, pose) : "asset") + ".vrmesh";
+}
+
+void CharacterMaker::planMeshes(JobQueue& queue, MeshStore& store, double coarseness) const {
+  for (const Posed& posed : m_poses) {
+    const BodyPtr body = posed.body;
+    const std::string skin = bodyMesh(posed.pose);
+    queue.add(meshJob(m_root / skin, skin, store, coarseness, [body] { return bodyPieces(body); }));
+    for (const OutfitDesign& outfit : m_design.outfits) {
+      // Pictures of what is missing on purpose need its mesh, which is kept from the disk.
+      const bool hidden = !outfit.hasFolder || outfit.missingPose == posed.pose.id;
+      const std::string name = outfitMesh(outfit, posed.pose);
+      queue.add(meshJob(hidden ? fs::path() : m_root / name, name, store, coarseness,
+                        [body, kind = outfit.outfit] { return outfitPieces(body, kind); }));
+    }
+    for (const AssetDesign& asset : m_design.assets) {
+      if (asset.kind != AssetDesign::Kind::Worn) continue;
+      const std::string name = assetMesh(asset, posed.pose);
+      queue.add(meshJob(m_root / name, name, store, coarseness,
+                        [body, kind = asset.worn] { return wornPieces(body, kind); }));
+    }
+  }
+  for (const AssetDesign& asset : m_design.assets) {
+    if (asset.kind != AssetDesign::Kind::Prop) continue;
+    const std::string name = assetMesh(asset, m_poses.front().pose);
+    queue.add(
+        meshJob(m_root / name, name, store, coarseness,
+                [body = posed(asset.prop == Prop::Stool).body, prop = asset.prop] { return propPieces(prop, *body); }));
+  }
+}
+
+std::string CharacterMaker::writeLibraries() const {
+  const fs::path own = folder();
+  std::map<fs::path, MaterialLibraryWriter> libraries;
+  const auto add = [&](const std::string& element, const StyleDesign& style) {
+    const fs::path file = style.library == Library::Own         ? own / element / "materials.mat"
+                          : style.library == Library::Character ? own / "materials.mat"
+                                                                : own / "props.mat";
+    libraryFor(libraries, file, m_design.key).add(style.material);
+  };
+  for (const SkinDesign& skin : m_design.skins) {
+    libraryFor(libraries, own / "skin" / "skin.mat", m_design.key).add(skinMaterial(m_design, skin));
+  }
+  for (const OutfitDesign& outfit : m_design.outfits) {
+    if (!outfit.hasFolder) continue;
+    for (const StyleDesign& style : outfit.styles) add(outfit.key, style);
+  }
+  for (const AssetDesign& asset : m_design.assets) {
+    if (asset.kind == AssetDesign::Kind::Global) continue;
+    if (asset.styles.empty()) add(asset.key, asset.plain);
+    for (const StyleDesign& style : asset.styles) add(asset.key, style);
+  }
+  for (const auto& [file, library] : libraries) {
+    if (const std::string error = library.write(file); !error.empty()) return error;
+  }
+  return {};
+}
+
+}  // namespace samples
