@@ -3,11 +3,11 @@
 namespace samples {
 namespace {
 
-constexpr int kTrunk = 0;
-constexpr int kLeftArm = 2;
-constexpr int kRightArm = 3;
-constexpr int kLeftLeg = 4;
-constexpr int kRightLeg = 5;
+constexpr int TRUNK = 0;
+constexpr int LEFT_ARM = 2;
+constexpr int RIGHT_ARM = 3;
+constexpr int LEFT_LEG = 4;
+constexpr int RIGHT_LEG = 5;
 
 // On both sides of the plane that halves a bent joint the cloth is drawn together outside and apart inside, so that the
 // lengths along both bones meet there.
@@ -29,40 +29,40 @@ Wrapped wrapLimb(const Limb& limb, Side side, const Vec3& p, double girth) {
 }  // namespace
 
 ClothUnwrap::ClothUnwrap(std::shared_ptr<const ImplicitBody> body, Kind kind)
-    : m_body(std::move(body)), m_lap(m_body->skeleton()), m_kind(kind) {}
+    : body_(std::move(body)), lap_(body_->skeleton()), kind_(kind) {}
 
 int ClothUnwrap::panel(const Vec3& place, const Vec3&) const {
-  if (m_kind == Kind::Trousers) {
-    const Skeleton& skeleton = m_body->skeleton();
-    const double left = m_body->legDistance(Side::Left, place);
-    const double right = m_body->legDistance(Side::Right, place);
+  if (kind_ == Kind::Trousers) {
+    const Skeleton& skeleton = body_->skeleton();
+    const double left = body_->legDistance(Side::Left, place);
+    const double right = body_->legDistance(Side::Right, place);
     const bool high = skeleton.toRest(place).z > skeleton.restPelvis() - 0.04 * skeleton.stature();
     const bool isLeft = high ? skeleton.pelvis().local(place).x > 0 : left < right;
-    return isLeft ? kLeftLeg : kRightLeg;
+    return isLeft ? LEFT_LEG : RIGHT_LEG;
   }
   const double trunk = std::min(
-      {m_body->trunkDistance(place), m_body->legDistance(Side::Left, place), m_body->legDistance(Side::Right, place)});
+      {body_->trunkDistance(place), body_->legDistance(Side::Left, place), body_->legDistance(Side::Right, place)});
   for (const Side side : {Side::Left, Side::Right}) {
-    if (m_body->armDistance(side, place) < trunk - 0.8) return side == Side::Left ? kLeftArm : kRightArm;
+    if (body_->armDistance(side, place) < trunk - 0.8) return side == Side::Left ? LEFT_ARM : RIGHT_ARM;
   }
-  return kTrunk;
+  return TRUNK;
 }
 
 Wrapped ClothUnwrap::wrap(int panel, const Vec3& p) const {
-  const Skeleton& skeleton = m_body->skeleton();
+  const Skeleton& skeleton = body_->skeleton();
   switch (panel) {
-    case kLeftArm:
+    case LEFT_ARM:
       return wrapLimb(skeleton.arm(Side::Left), Side::Left, p, 40);
-    case kRightArm:
+    case RIGHT_ARM:
       return wrapLimb(skeleton.arm(Side::Right), Side::Right, p, 40);
-    case kLeftLeg:
+    case LEFT_LEG:
       return wrapLimb(skeleton.leg(Side::Left), Side::Left, p, 60);
-    case kRightLeg:
+    case RIGHT_LEG:
       return wrapLimb(skeleton.leg(Side::Right), Side::Right, p, 60);
     default:
       break;
   }
-  const Vec3 rest = m_kind == Kind::Dress ? m_lap.straight(p) : skeleton.toRest(p);
+  const Vec3 rest = kind_ == Kind::Dress ? lap_.straight(p) : skeleton.toRest(p);
   return wrapAround(rest.x, -rest.y, rest.z, 100);
 }
 

@@ -17,9 +17,9 @@ class ClothUnwrap : public Unwrap {
   Wrapped wrap(int panel, const Vec3& place) const override;
 
  private:
-  std::shared_ptr<const ImplicitBody> m_body;
-  Lap m_lap;
-  Kind m_kind;
+  std::shared_ptr<const ImplicitBody> body_;
+  Lap lap_;
+  Kind kind_;
 };
 
 }  // namespace samples

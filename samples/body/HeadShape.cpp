@@ -3,25 +3,25 @@
 namespace samples {
 
 HeadShape::HeadShape(const Skeleton& skeleton, HairStyle hair)
-    : m_height(skeleton.proportions().headHeight()), m_femininity(skeleton.proportions().femininity) {
+    : height_(skeleton.proportions().headHeight()), femininity_(skeleton.proportions().femininity) {
   const Frame& joint = skeleton.head();
-  m_frame = joint.at(joint.point(Vec3{0, -0.06, -0.20} * m_height));
+  frame_ = joint.at(joint.point(Vec3{0, -0.06, -0.20} * height_));
   auto head = std::make_shared<BlobField>();
   addSkull(*head);
   addEyes(*head);
   addNoseAndMouth(*head);
   addEars(*head);
-  m_head = head;
-  m_hair = makeHair(hair, m_frame, m_height);
+  head_ = head;
+  hair_ = makeHair(hair, frame_, height_);
 }
 
 Frame HeadShape::at(double x, double y, double z, const Vec3& turned) const {
-  return m_frame.child(Frame::rotated(turned, Vec3{x, y, z} * m_height));
+  return frame_.child(Frame::rotated(turned, Vec3{x, y, z} * height_));
 }
 
 void HeadShape::addSkull(BlobField& field) const {
-  const double h = m_height;
-  const double f = m_femininity;
+  const double h = height_;
+  const double f = femininity_;
   field.addEllipsoid(at(0, 0.055, 0.635), size(0.325, 0.405, 0.355), 0);
   field.addEllipsoid(at(0, -0.085, 0.43), size(mix(0.268, 0.258, f), 0.268, 0.35), 0.10 * h);
   field.addEllipsoid(at(0, -0.12, 0.205), size(mix(0.205, 0.172, f), 0.200, 0.17), 0.12 * h);
@@ -37,7 +37,7 @@ void HeadShape::addSkull(BlobField& field) const {
 }
 
 void HeadShape::addEyes(BlobField& field) const {
-  const double h = m_height;
+  const double h = height_;
   for (const double s : {-1.0, 1.0}) {
     field.carveEllipsoid(at(s * 0.135, -0.400, 0.490, {0, 0, s * -14.0}), size(0.085, 0.075, 0.050), 0.06 * h);
     field.addEllipsoid(at(s * 0.133, -0.262, 0.490), size(0.074, 0.068, 0.060), 0.020 * h);
@@ -45,8 +45,8 @@ void HeadShape::addEyes(BlobField& field) const {
 }
 
 void HeadShape::addNoseAndMouth(BlobField& field) const {
-  const double h = m_height;
-  const double f = m_femininity;
+  const double h = height_;
+  const double f = femininity_;
   field.addCone(place(0, -0.318, 0.515), 0.028 * h, place(0, mix(-0.415, -0.400, f), 0.345), mix(0.041, 0.034, f) * h,
                 0.06 * h);
   for (const double s : {-1.0, 1.0}) {
@@ -59,7 +59,7 @@ void HeadShape::addNoseAndMouth(BlobField& field) const {
 }
 
 void HeadShape::addEars(BlobField& field) const {
-  const double h = m_height;
+  const double h = height_;
   for (const double s : {-1.0, 1.0}) {
     const Frame ear = at(s * 0.322, 0.055, 0.455, {-12, 0, s * 24.0});
     field.addEllipsoid(ear, size(0.030, 0.072, 0.115), 0.03 * h);

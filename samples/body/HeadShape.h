@@ -12,13 +12,13 @@ class HeadShape {
  public:
   HeadShape(const Skeleton& skeleton, HairStyle hair);
 
-  FieldPtr head() const { return m_head; }
-  FieldPtr hair() const { return m_hair; }
+  FieldPtr head() const { return head_; }
+  FieldPtr hair() const { return hair_; }
 
   /// Axes as the head's, origin at the chin's height; centimetres.
-  const Frame& frame() const { return m_frame; }
-  double height() const { return m_height; }
-  Vec3 place(double x, double y, double z) const { return m_frame.point(Vec3{x, y, z} * m_height); }
+  const Frame& frame() const { return frame_; }
+  double height() const { return height_; }
+  Vec3 place(double x, double y, double z) const { return frame_.point(Vec3{x, y, z} * height_); }
 
  private:
   void addSkull(BlobField& field) const;
@@ -27,13 +27,13 @@ class HeadShape {
   void addEars(BlobField& field) const;
 
   Frame at(double x, double y, double z, const Vec3& turned = {}) const;
-  Vec3 size(double x, double y, double z) const { return Vec3{x, y, z} * m_height; }
+  Vec3 size(double x, double y, double z) const { return Vec3{x, y, z} * height_; }
 
-  double m_height;
-  double m_femininity;
-  Frame m_frame;
-  FieldPtr m_head;
-  FieldPtr m_hair;
+  double height_;
+  double femininity_;
+  Frame frame_;
+  FieldPtr head_;
+  FieldPtr hair_;
 };
 
 }  // namespace samples

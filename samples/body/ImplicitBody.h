@@ -16,16 +16,16 @@ class ImplicitBody : public Field {
   ImplicitBody(const Skeleton& skeleton, HairStyle hair);
 
   double distance(const Vec3& point) const override;
-  Box bounds() const override { return m_bounds; }
+  Box bounds() const override { return bounds_; }
 
-  const Skeleton& skeleton() const { return m_skeleton; }
-  const HeadShape& headShape() const { return m_headShape; }
+  const Skeleton& skeleton() const { return skeleton_; }
+  const HeadShape& headShape() const { return headShape_; }
   /// The part that the point lies nearest to.
   BodyPart partAt(const Vec3& point) const;
 
   /// Trunk with chest, seat and shoulders, without neck and limbs.
   double trunkDistance(const Vec3& point) const;
-  double neckDistance(const Vec3& point) const { return m_neck->distance(point); }
+  double neckDistance(const Vec3& point) const { return neck_->distance(point); }
   /// Shoulder to wrist, hip to ankle.
   double armDistance(Side side, const Vec3& point) const;
   double legDistance(Side side, const Vec3& point) const;
@@ -43,16 +43,16 @@ class ImplicitBody : public Field {
   FieldPtr makeChestAndSeat() const;
   FieldPtr makeNeck() const;
 
-  Skeleton m_skeleton;
-  HeadShape m_headShape;
-  Trunk m_trunk;
-  FieldPtr m_chestAndSeat;
-  FieldPtr m_neck;
-  std::array<FieldPtr, 2> m_arms;
-  std::array<FieldPtr, 2> m_hands;
-  std::array<FieldPtr, 2> m_legs;
-  std::array<FieldPtr, 2> m_feet;
-  Box m_bounds;
+  Skeleton skeleton_;
+  HeadShape headShape_;
+  Trunk trunk_;
+  FieldPtr chestAndSeat_;
+  FieldPtr neck_;
+  std::array<FieldPtr, 2> arms_;
+  std::array<FieldPtr, 2> hands_;
+  std::array<FieldPtr, 2> legs_;
+  std::array<FieldPtr, 2> feet_;
+  Box bounds_;
 };
 
 }  // namespace samples

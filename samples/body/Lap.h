@@ -13,22 +13,22 @@ class Lap {
   /// crease between trunk and thighs halves their angle; the lengths on both its sides meet there.
   Vec3 straight(const Vec3& p) const;
   /// How far along the thighs, from 0 at the hips to 1 at the knees.
-  double along(const Vec3& p) const { return m_frame.local(p).z / m_knees; }
+  double along(const Vec3& p) const { return frame_.local(p).z / knees_; }
   /// Distance to the cloth stretched around both thighs: `ease` over the skin, `flare` more at the knees, folds of the
   /// depth `folds` there.
   double hull(const Vec3& p, double ease, double flare, double folds) const;
   /// Distance above the place that is so far along the thighs: positive beyond it.
-  double beyond(const Vec3& p, double length) const { return m_frame.local(p).z - length * m_knees; }
+  double beyond(const Vec3& p, double length) const { return frame_.local(p).z - length * knees_; }
   /// How much faster `straight` moves than the place itself, at most.
-  double stretch() const { return std::hypot(1.0, length(m_crease)); }
+  double stretch() const { return std::hypot(1.0, length(crease_)); }
 
  private:
-  const Skeleton m_skeleton;
-  Frame m_frame;
-  double m_knees;
-  double m_hips;
-  Vec3 m_crease;  ///< how much shorter the way down is for each centimetre aside or to the back
-  double m_thick;
+  const Skeleton skeleton_;
+  Frame frame_;
+  double knees_;
+  double hips_;
+  Vec3 crease_;  ///< how much shorter the way down is for each centimetre aside or to the back
+  double thick_;
 };
 
 }  // namespace samples

@@ -19,7 +19,7 @@ Vec3 bend(const Vec3& hip, const Vec3& ankle, double upper, double lower, const 
 
 }  // namespace
 
-Skeleton::Skeleton(const Proportions& proportions, const Pose& pose) : m_proportions(proportions), m_pose(pose) {
+Skeleton::Skeleton(const Proportions& proportions, const Pose& pose) : proportions_(proportions), pose_(pose) {
   poseTrunk();
   for (const Side side : {Side::Left, Side::Right}) {
     poseLeg(side);
@@ -29,27 +29,27 @@ Skeleton::Skeleton(const Proportions& proportions, const Pose& pose) : m_proport
 
 void Skeleton::poseTrunk() {
   const double legs = restPelvis() - ankleHeight();
-  const Vec3 offset = m_pose.pelvisOffset * legs;
-  const double height = ankleHeight() + legs * m_pose.pelvisHeight + offset.z;
-  m_pelvis = Frame::rotated(m_pose.pelvis, {offset.x, offset.y, height});
-  const double stoop = m_proportions.stoop;
-  m_spine = joint(m_pelvis, restSpine() - restPelvis(), m_pose.spine + Vec3{5, 0, 0} * stoop);
-  m_chest = joint(m_spine, restChest() - restSpine(), m_pose.chest + Vec3{9, 0, 0} * stoop);
+  const Vec3 offset = pose_.pelvisOffset * legs;
+  const double height = ankleHeight() + legs * pose_.pelvisHeight + offset.z;
+  pelvis_ = Frame::rotated(pose_.pelvis, {offset.x, offset.y, height});
+  const double stoop = proportions_.stoop;
+  spine_ = joint(pelvis_, restSpine() - restPelvis(), pose_.spine + Vec3{5, 0, 0} * stoop);
+  chest_ = joint(spine_, restChest() - restSpine(), pose_.chest + Vec3{9, 0, 0} * stoop);
   const double neckBack = 0.012 * stature();
-  m_neck = joint(m_chest, restNeck() - restChest(), m_pose.neck + Vec3{12, 0, 0} * stoop, neckBack);
-  m_head = joint(m_neck, restHead() - restNeck(), m_pose.head - Vec3{19, 0, 0} * stoop, -0.007 * stature());
+  neck_ = joint(chest_, restNeck() - restChest(), pose_.neck + Vec3{12, 0, 0} * stoop, neckBack);
+  head_ = joint(neck_, restHead() - restNeck(), pose_.head - Vec3{19, 0, 0} * stoop, -0.007 * stature());
 }
 
 void Skeleton::poseLeg(Side side) {
-  const LegPose& leg = side == Side::Left ? m_pose.leftLeg : m_pose.rightLeg;
-  Limb& limb = m_legs[static_cast<std::size_t>(side)];
+  const LegPose& leg = side == Side::Left ? pose_.leftLeg : pose_.rightLeg;
+  Limb& limb = legs_[static_cast<std::size_t>(side)];
   const double s = sign(side);
   const double hipDrop = 0.018 * stature();
   const double legs = restPelvis() - ankleHeight();
   limb.upperLength = 0.240 * stature();
   limb.lowerLength = restPelvis() - hipDrop - ankleHeight() - limb.upperLength;
 
-  const Vec3 hip = m_pelvis.point({s * m_proportions.between(0.050, 0.053) * stature(), 0.002 * stature(), -hipDrop});
+  const Vec3 hip = pelvis_.point({s * proportions_.between(0.050, 0.053) * stature(), 0.002 * stature(), -hipDrop});
   const Frame foot = Frame::rotated({-leg.footPitch, 0, s * leg.footYaw});
   const Vec3 ball{0, -ballForward(), -ankleHeight()};
   const Vec3 heel{0, heelBack(), -ankleHeight()};
@@ -67,18 +67,18 @@ void Skeleton::poseLeg(Side side) {
 }
 
 void Skeleton::poseArm(Side side) {
-  const ArmPose& arm = side == Side::Left ? m_pose.leftArm : m_pose.rightArm;
-  Limb& limb = m_arms[static_cast<std::size_t>(side)];
+  const ArmPose& arm = side == Side::Left ? pose_.leftArm : pose_.rightArm;
+  Limb& limb = arms_[static_cast<std::size_t>(side)];
   const double s = sign(side);
   limb.upperLength = 0.170 * stature();
   limb.lowerLength = 0.146 * stature();
 
-  const double halfWidth = m_proportions.between(0.096, 0.086) * m_proportions.shoulders * stature();
-  const Vec3 shoulder = m_chest.point({s * halfWidth, 0.012 * stature(), 0.808 * stature() - restChest()});
+  const double halfWidth = proportions_.between(0.096, 0.086) * proportions_.shoulders * stature();
+  const Vec3 shoulder = chest_.point({s * halfWidth, 0.012 * stature(), 0.808 * stature() - restChest()});
   // Down along the bone is Z of a limb, so the hanging arm is the trunk turned half about Y of the body, X mirrored.
   const Frame hanging{{-1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {}};
   const Frame swung =
-      m_chest.child(Frame::rotated({-arm.forward, 0, 0})).child(Frame::rotated({0, -s * arm.outward, 0}));
+      chest_.child(Frame::rotated({-arm.forward, 0, 0})).child(Frame::rotated({0, -s * arm.outward, 0}));
   limb.upper = swung.child(Frame::rotated({0, 0, -s * arm.twist})).child(hanging).at(shoulder);
   // Turning about X brings Z (down the arm) towards -Y (forward), which is how an elbow bends.
   limb.lower = limb.upper.child(Frame::rotated({arm.elbow, 0, 0}, {0, 0, limb.upperLength}));
@@ -91,7 +91,7 @@ Frame Skeleton::lap() const {
   const Limb& right = leg(Side::Right);
   const Vec3 hips = (left.upper.origin + right.upper.origin) * 0.5;
   const Vec3 z = normalized((left.lower.origin + right.lower.origin) * 0.5 - hips);
-  const Vec3 x = normalized(z * dot(m_pelvis.x, z) - m_pelvis.x);
+  const Vec3 x = normalized(z * dot(pelvis_.x, z) - pelvis_.x);
   return {x, cross(z, x), z, hips};
 }
 
@@ -102,9 +102,9 @@ Frame Skeleton::grip(Side side) const {
 }
 
 Vec3 Skeleton::toRest(const Vec3& world) const {
-  const Vec3 low = m_pelvis.local(world) + Vec3{0, 0, restPelvis()};
-  const Vec3 middle = m_spine.local(world) + Vec3{0, 0, restSpine()};
-  const Vec3 high = m_chest.local(world) + Vec3{0, 0, restChest()};
+  const Vec3 low = pelvis_.local(world) + Vec3{0, 0, restPelvis()};
+  const Vec3 middle = spine_.local(world) + Vec3{0, 0, restSpine()};
+  const Vec3 high = chest_.local(world) + Vec3{0, 0, restChest()};
   const double s = stature();
   const double toMiddle = smoothStep(0.565 * s, 0.635 * s, middle.z);
   const double toHigh = smoothStep(0.635 * s, 0.71 * s, middle.z);

@@ -32,19 +32,19 @@ class Skeleton {
  public:
   Skeleton(const Proportions& proportions, const Pose& pose);
 
-  const Proportions& proportions() const { return m_proportions; }
-  const Pose& pose() const { return m_pose; }
+  const Proportions& proportions() const { return proportions_; }
+  const Pose& pose() const { return pose_; }
   /// What the parts of the body are measured by: the stature, of a child less than that.
-  double stature() const { return m_proportions.bodyStature(); }
+  double stature() const { return proportions_.bodyStature(); }
 
   /// Axes as the whole body's (Z up, facing -Y), origin at the joint.
-  const Frame& pelvis() const { return m_pelvis; }
-  const Frame& spine() const { return m_spine; }
-  const Frame& chest() const { return m_chest; }
-  const Frame& neck() const { return m_neck; }
-  const Frame& head() const { return m_head; }
-  const Limb& arm(Side side) const { return m_arms[static_cast<std::size_t>(side)]; }
-  const Limb& leg(Side side) const { return m_legs[static_cast<std::size_t>(side)]; }
+  const Frame& pelvis() const { return pelvis_; }
+  const Frame& spine() const { return spine_; }
+  const Frame& chest() const { return chest_; }
+  const Frame& neck() const { return neck_; }
+  const Frame& head() const { return head_; }
+  const Limb& arm(Side side) const { return arms_[static_cast<std::size_t>(side)]; }
+  const Limb& leg(Side side) const { return legs_[static_cast<std::size_t>(side)]; }
   /// Between the hips, Z along the middle of both thighs, Y to their back: what a skirt follows.
   Frame lap() const;
   /// Centre of what the closed hand holds; Y points along the handle, -Z away from the forearm.
@@ -55,7 +55,7 @@ class Skeleton {
   double restSpine() const { return 0.60 * stature(); }
   double restChest() const { return 0.67 * stature(); }
   double restNeck() const { return stature() * 0.828; }
-  double restHead() const { return m_proportions.stature - 0.80 * m_proportions.headHeight(); }
+  double restHead() const { return proportions_.stature - 0.80 * proportions_.headHeight(); }
   double ankleHeight() const { return 0.044 * stature(); }
   double handLength() const { return 0.104 * stature(); }
   double heelBack() const { return 0.034 * stature(); }
@@ -69,15 +69,15 @@ class Skeleton {
   void poseLeg(Side side);
   void poseArm(Side side);
 
-  Proportions m_proportions;
-  Pose m_pose;
-  Frame m_pelvis;
-  Frame m_spine;
-  Frame m_chest;
-  Frame m_neck;
-  Frame m_head;
-  std::array<Limb, 2> m_arms;
-  std::array<Limb, 2> m_legs;
+  Proportions proportions_;
+  Pose pose_;
+  Frame pelvis_;
+  Frame spine_;
+  Frame chest_;
+  Frame neck_;
+  Frame head_;
+  std::array<Limb, 2> arms_;
+  std::array<Limb, 2> legs_;
 };
 
 }  // namespace samples

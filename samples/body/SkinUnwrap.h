@@ -13,8 +13,8 @@ class SkinUnwrap : public Unwrap {
   host::TexCoord coordinates(int panel, const Wrapped& wrapped) const override;
 
  private:
-  std::shared_ptr<const ImplicitBody> m_body;
-  ClothUnwrap m_limbs;
+  std::shared_ptr<const ImplicitBody> body_;
+  ClothUnwrap limbs_;
 };
 
 }  // namespace samples

@@ -13,7 +13,7 @@ class Trunk : public Field {
   explicit Trunk(const Skeleton& skeleton);
 
   double distance(const Vec3& point) const override;
-  Box bounds() const override { return m_bounds; }
+  Box bounds() const override { return bounds_; }
   /// As `distance`, of a point in the upright body.
   double restDistance(const Vec3& rest) const;
 
@@ -27,9 +27,9 @@ class Trunk : public Field {
   };
   Section sectionAt(double z) const;
 
-  const Skeleton m_skeleton;
-  std::vector<Section> m_sections;
-  Box m_bounds;
+  const Skeleton skeleton_;
+  std::vector<Section> sections_;
+  Box bounds_;
 };
 
 }  // namespace samples

@@ -3,14 +3,14 @@
 namespace samples {
 namespace {
 
-constexpr std::array<Side, 2> kSides = {Side::Left, Side::Right};
-constexpr double kWall = 1.3;
+constexpr std::array<Side, 2> SIDES = {Side::Left, Side::Right};
+constexpr double WALL = 1.3;
 // A depth for `openAt` that leaves no hollow.
-constexpr double kSolid = -2;
+constexpr double SOLID = -2;
 
 // Cuts the cloth where `cut` is positive, and hollows it so far from there that nobody sees the bottom.
 double openAt(double cloth, double cut, double depth) {
-  const double hollow = std::max(cloth + kWall, -(cut + depth));
+  const double hollow = std::max(cloth + WALL, -(cut + depth));
   return smoothMax(smoothMax(cloth, cut, 1.0), -hollow, 0.4);
 }
 
@@ -39,14 +39,14 @@ double overlapAt(const Vec3& straight, double overlap) {
 }  // namespace
 
 Garment::Garment(const ImplicitBody& body)
-    : m_body(std::make_shared<ImplicitBody>(body)), m_lap(std::make_shared<Lap>(body.skeleton())) {}
+    : body_(std::make_shared<ImplicitBody>(body)), lap_(std::make_shared<Lap>(body.skeleton())) {}
 
-FieldPtr Garment::make(Distance distance) const { return makeField(std::move(distance), m_body->bounds().grown(5)); }
+FieldPtr Garment::make(Distance distance) const { return makeField(std::move(distance), body_->bounds().grown(5)); }
 
 Garment::Distance Garment::hands(bool bareArms) const {
-  return [body = m_body, bareArms](const Vec3& p) {
+  return [body = body_, bareArms](const Vec3& p) {
     double d = -1e3;
-    for (const Side side : kSides) {
+    for (const Side side : SIDES) {
       d = std::max(d, 0.5 - body->handDistance(side, p));
       if (!bareArms) continue;
       d = std::max(d, std::min(0.4 - body->armDistance(side, p), body->skeleton().arm(side).lower.local(p).z));
@@ -56,7 +56,7 @@ Garment::Distance Garment::hands(bool bareArms) const {
 }
 
 Garment::Distance Garment::trunkCloth(const TopCut& cut) const {
-  return [body = m_body, lap = m_lap, cut](const Vec3& p) {
+  return [body = body_, lap = lap_, cut](const Vec3& p) {
     const double s = body->skeleton().stature();
     double d = body->trunkDistance(p) - cut.ease;
     if (d > 30) return d;
@@ -70,7 +70,7 @@ Garment::Distance Garment::trunkCloth(const TopCut& cut) const {
 }
 
 Garment::Distance Garment::sleeves(const TopCut& cut, Side side) const {
-  return [body = m_body, cut, side](const Vec3& p) {
+  return [body = body_, cut, side](const Vec3& p) {
     const Limb& arm = body->skeleton().arm(side);
     const double d = body->armDistance(side, p);
     if (d > 15) return d - 5;
@@ -87,7 +87,7 @@ Garment::Distance Garment::sleeves(const TopCut& cut, Side side) const {
 }
 
 Garment::Distance Garment::necklineCut(const TopCut& cut) const {
-  return [body = m_body, cut](const Vec3& p) {
+  return [body = body_, cut](const Vec3& p) {
     const double s = body->skeleton().stature();
     const Vec3 rest = body->skeleton().toRest(p);
     const double plane = (rest.z + cut.neckSlope * -rest.y - cut.collar * s) / std::hypot(1.0, cut.neckSlope);
@@ -102,8 +102,8 @@ Garment::Distance Garment::necklineCut(const TopCut& cut) const {
 
 Garment::Distance Garment::hood(const TopCut& cut) const {
   if (!cut.hood) return {};
-  const double s = m_body->skeleton().stature();
-  const Frame neck = m_body->skeleton().neck();
+  const double s = body_->skeleton().stature();
+  const Frame neck = body_->skeleton().neck();
   auto blob = std::make_shared<BlobField>();
   // Folded down: a thick roll around the neck, heavier at the back, open in front.
   constexpr int steps = 14;
@@ -131,43 +131,42 @@ FieldPtr Garment::top(const TopCut& cut) const {
   const auto roll = hood(cut);
   const auto away = hands(cut.sleeve <= 1.2);
   // What ends above the hips is hidden by what is worn below, and a lap closes what lies on it.
-  const bool isFilled = tuckedIn(cut) || m_body->skeleton().pose().seated;
-  return make(
-      [body = m_body, cut, isFilled, trunk, neckline, below = hem(cut), left, right, roll, away](const Vec3& p) {
-        double d = trunk(p);
-        const bool onTrunk = d < 25;
-        const double opening = onTrunk ? neckline(p) : 0;
-        if (onTrunk) {
-          const double hem = below(p);
-          if (cut.lapel > 0) d -= cut.lapelThickness * smoothStep(-cut.lapel, -cut.lapel + 0.8, opening);
-          d -= std::max(ribAt(opening, 0.6 * cut.rib), ribAt(hem, cut.rib));
-          d = smoothMax(openAt(d, hem, isFilled ? kSolid : 3.0), away(p), 0.8);
-        }
-        if (cut.sleeve > 0) {
-          d = body->joinArm(d, left(p), Side::Left, p);
-          d = body->joinArm(d, right(p), Side::Right, p);
-        }
-        if (d > 20) return d;
-        d = smoothMax(d, onTrunk ? opening : neckline(p), cut.lapel > 0 ? 0.4 : 1.4);
-        return roll ? smoothMin(d, roll(p), 1.2) : d;
-      });
+  const bool isFilled = tuckedIn(cut) || body_->skeleton().pose().seated;
+  return make([body = body_, cut, isFilled, trunk, neckline, below = hem(cut), left, right, roll, away](const Vec3& p) {
+    double d = trunk(p);
+    const bool onTrunk = d < 25;
+    const double opening = onTrunk ? neckline(p) : 0;
+    if (onTrunk) {
+      const double hem = below(p);
+      if (cut.lapel > 0) d -= cut.lapelThickness * smoothStep(-cut.lapel, -cut.lapel + 0.8, opening);
+      d -= std::max(ribAt(opening, 0.6 * cut.rib), ribAt(hem, cut.rib));
+      d = smoothMax(openAt(d, hem, isFilled ? SOLID : 3.0), away(p), 0.8);
+    }
+    if (cut.sleeve > 0) {
+      d = body->joinArm(d, left(p), Side::Left, p);
+      d = body->joinArm(d, right(p), Side::Right, p);
+    }
+    if (d > 20) return d;
+    d = smoothMax(d, onTrunk ? opening : neckline(p), cut.lapel > 0 ? 0.4 : 1.4);
+    return roll ? smoothMin(d, roll(p), 1.2) : d;
+  });
 }
 
 FieldPtr Garment::trousers(const TrouserCut& cut) const {
-  const double s = m_body->skeleton().stature();
+  const double s = body_->skeleton().stature();
   std::array<std::shared_ptr<BlobField>, 2> legs;
-  for (const Side side : kSides) {
-    const Limb& leg = m_body->skeleton().leg(side);
+  for (const Side side : SIDES) {
+    const Limb& leg = body_->skeleton().leg(side);
     auto blob = std::make_shared<BlobField>();
     const double knee = mix(0.036, cut.hemRadius, cut.length < 2 ? 1.0 : 0.4) * s;
     blob->addCone(leg.upper.point({0, 0, 0.02 * s}), 0.050 * s + cut.thigh, leg.lower.origin, knee, 0);
     blob->addCone(leg.lower.origin, knee, leg.lower.point({0, 0, leg.lowerLength + 4}), cut.hemRadius * s, 0.006 * s);
     legs[static_cast<std::size_t>(side)] = blob;
   }
-  return make([body = m_body, cut, legs, away = hands(true)](const Vec3& p) {
+  return make([body = body_, cut, legs, away = hands(true)](const Vec3& p) {
     const Skeleton& skeleton = body->skeleton();
     double d = body->trunkDistance(p) - cut.ease;
-    for (const Side side : kSides) {
+    for (const Side side : SIDES) {
       const Limb& leg = skeleton.leg(side);
       const double lower = leg.lower.local(p).z;
       const double folds = 0.11 * std::sin(0.9 * lower + 0.25 * p.x) * std::exp(-0.006 * lower * lower) +
@@ -186,11 +185,11 @@ FieldPtr Garment::trousers(const TrouserCut& cut) const {
 }
 
 Garment::Distance Garment::skirtCloth(const SkirtCut& cut) const {
-  return [body = m_body, lap = m_lap, cut](const Vec3& p) {
+  return [body = body_, lap = lap_, cut](const Vec3& p) {
     const Skeleton& skeleton = body->skeleton();
     double d = smoothMin(body->trunkDistance(p) - cut.ease, lap->hull(p, cut.ease, cut.flare, cut.folds), 3.5);
     // However wide the stride, no thigh comes through.
-    for (const Side side : kSides) {
+    for (const Side side : SIDES) {
       const double shin = skeleton.leg(side).lower.local(p).z;
       d = smoothMin(d, smoothMax(body->legDistance(side, p) - cut.ease, shin - 2.0, 1.0), 1.0);
     }
@@ -201,14 +200,14 @@ Garment::Distance Garment::skirtCloth(const SkirtCut& cut) const {
 }
 
 Garment::Distance Garment::hem(const TopCut& cut) const {
-  const double height = cut.hem * m_body->skeleton().stature();
-  return [lap = m_lap, height](const Vec3& p) { return (height - lap->straight(p).z) / lap->stretch(); };
+  const double height = cut.hem * body_->skeleton().stature();
+  return [lap = lap_, height](const Vec3& p) { return (height - lap->straight(p).z) / lap->stretch(); };
 }
 
 Garment::Distance Garment::hem(const SkirtCut& cut) const {
   // Beyond the knees a seated lap has nothing to lie on.
-  const double length = m_body->skeleton().pose().seated ? std::min(cut.length, 1.0) : cut.length;
-  return [lap = m_lap, length](const Vec3& p) { return lap->beyond(p, length); };
+  const double length = body_->skeleton().pose().seated ? std::min(cut.length, 1.0) : cut.length;
+  return [lap = lap_, length](const Vec3& p) { return lap->beyond(p, length); };
 }
 
 FieldPtr Garment::skirt(const SkirtCut& cut) const {
@@ -226,7 +225,7 @@ FieldPtr Garment::dress(const TopCut& topCut, const SkirtCut& skirtCut) const {
 
 FieldPtr Garment::tie(const TopCut& shirt, double until) const {
   const auto cloth = trunkCloth(shirt);
-  return make([body = m_body, cloth, until, shirt](const Vec3& p) {
+  return make([body = body_, cloth, until, shirt](const Vec3& p) {
     const Skeleton& skeleton = body->skeleton();
     const double s = skeleton.stature();
     const Vec3 rest = skeleton.toRest(p);
@@ -241,7 +240,7 @@ FieldPtr Garment::tie(const TopCut& shirt, double until) const {
 }
 
 FieldPtr Garment::belt(const TrouserCut& trousers) const {
-  return make([body = m_body, trousers](const Vec3& p) {
+  return make([body = body_, trousers](const Vec3& p) {
     const double s = body->skeleton().stature();
     const double height = std::abs(body->skeleton().toRest(p).z - (trousers.waist - 0.006) * s) - 0.010 * s;
     const double d = body->trunkDistance(p) - trousers.ease;
@@ -251,9 +250,9 @@ FieldPtr Garment::belt(const TrouserCut& trousers) const {
 
 FieldPtr Garment::buttons(const TopCut& cut, double aside, double from, double to, int count, double radius) const {
   const auto cloth = trunkCloth(cut);
-  const Skeleton& skeleton = m_body->skeleton();
+  const Skeleton& skeleton = body_->skeleton();
   const double s = skeleton.stature();
-  const FieldPtr surface = makeField(cloth, m_body->bounds());
+  const FieldPtr surface = makeField(cloth, body_->bounds());
   auto blob = std::make_shared<BlobField>();
   // Those on a seated lap lie in its folds.
   const double lowest = skeleton.pose().seated ? std::max(from, std::min(0.615, to)) : from;
@@ -273,7 +272,7 @@ FieldPtr Garment::buttons(const TopCut& cut, double aside, double from, double t
 FieldPtr Garment::zip(const TopCut& cut, double until) const {
   const auto cloth = trunkCloth(cut);
   const auto neckline = necklineCut(cut);
-  return make([body = m_body, lap = m_lap, cloth, neckline, until](const Vec3& p) {
+  return make([body = body_, lap = lap_, cloth, neckline, until](const Vec3& p) {
     const Vec3 rest = lap->straight(p);
     const double d = cloth(p);
     const double ends = std::max(neckline(p), until * body->skeleton().stature() - rest.z);

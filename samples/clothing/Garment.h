@@ -81,8 +81,8 @@ class Garment {
   Distance hands(bool bareArms) const;
   FieldPtr make(Distance distance) const;
 
-  std::shared_ptr<const ImplicitBody> m_body;
-  std::shared_ptr<const Lap> m_lap;
+  std::shared_ptr<const ImplicitBody> body_;
+  std::shared_ptr<const Lap> lap_;
 };
 
 }  // namespace samples

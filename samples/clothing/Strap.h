@@ -20,7 +20,7 @@ class Strap {
   Strap(std::vector<Vec3> path, const Field& body, const Size& size);
 
   double distance(const Vec3& point) const;
-  Box bounds() const { return m_bounds; }
+  Box bounds() const { return bounds_; }
 
  private:
   struct Place {
@@ -28,9 +28,9 @@ class Strap {
     Vec3 outward;
   };
 
-  Size m_size;
-  std::vector<Place> m_places;
-  Box m_bounds;
+  Size size_;
+  std::vector<Place> places_;
+  Box bounds_;
 };
 
 }  // namespace samples

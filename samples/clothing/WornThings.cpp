@@ -193,7 +193,7 @@ std::vector<Piece> scarf(const BodyPtr& body) {
   constexpr int steps = 20;
   Vec3 last;
   for (int i = 0; i <= steps; ++i) {
-    const double angle = 2 * kPi * i / steps;
+    const double angle = 2 * PI * i / steps;
     const double back = std::cos(angle) * 0.5 + 0.5;
     const Vec3 place =
         neck.point(Vec3{0.052 * std::sin(angle), -0.001 + 0.054 * std::cos(angle), mix(0.004, 0.020, back)} * s);

@@ -21,9 +21,9 @@ void BlobField::addCone(const Vec3& a, double radiusA, const Vec3& b, double rad
   shape.radiusA = radiusA;
   shape.radiusB = radiusB;
   shape.blend = blend;
-  m_shapes.push_back(shape);
-  m_bounds.add(a, radiusA + blend * 0.25);
-  m_bounds.add(b, radiusB + blend * 0.25);
+  shapes_.push_back(shape);
+  bounds_.add(a, radiusA + blend * 0.25);
+  bounds_.add(b, radiusB + blend * 0.25);
 }
 
 void BlobField::addEllipsoid(const Frame& frame, const Vec3& radii, double blend) {
@@ -32,8 +32,8 @@ void BlobField::addEllipsoid(const Frame& frame, const Vec3& radii, double blend
   shape.frame = frame;
   shape.radii = radii;
   shape.blend = blend;
-  m_shapes.push_back(shape);
-  m_bounds.add(frame.origin, std::max({radii.x, radii.y, radii.z}) + blend * 0.25);
+  shapes_.push_back(shape);
+  bounds_.add(frame.origin, std::max({radii.x, radii.y, radii.z}) + blend * 0.25);
 }
 
 void BlobField::carveEllipsoid(const Frame& frame, const Vec3& radii, double blend) {
@@ -43,7 +43,7 @@ void BlobField::carveEllipsoid(const Frame& frame, const Vec3& radii, double ble
   shape.frame = frame;
   shape.radii = radii;
   shape.blend = blend;
-  m_shapes.push_back(shape);
+  shapes_.push_back(shape);
 }
 
 double BlobField::Shape::distance(const Vec3& p) const {
@@ -54,7 +54,7 @@ double BlobField::Shape::distance(const Vec3& p) const {
 
 double BlobField::distance(const Vec3& p) const {
   double result = 1e6;
-  for (const Shape& shape : m_shapes) {
+  for (const Shape& shape : shapes_) {
     const double d = shape.distance(p);
     result = shape.carved ? smoothMax(result, -d, shape.blend) : smoothMin(result, d, shape.blend);
   }

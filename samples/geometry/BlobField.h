@@ -16,7 +16,7 @@ class BlobField : public Field {
   void carveEllipsoid(const Frame& frame, const Vec3& radii, double blend);
 
   double distance(const Vec3& point) const override;
-  Box bounds() const override { return m_bounds; }
+  Box bounds() const override { return bounds_; }
 
  private:
   struct Shape {
@@ -33,8 +33,8 @@ class BlobField : public Field {
     double distance(const Vec3& point) const;
   };
 
-  std::vector<Shape> m_shapes;
-  Box m_bounds;
+  std::vector<Shape> shapes_;
+  Box bounds_;
 };
 
 /// About the distance to an ellipsoid around the origin.

@@ -12,29 +12,29 @@ namespace samples {
 template <typename Item>
 class BucketQueue {
  public:
-  BucketQueue() : m_lines(kLines) {}
+  BucketQueue() : lines_(LINES) {}
 
   /// The item waits as if it were no cheaper than the last one taken.
-  void push(float cost, const Item& item) { m_lines[std::max(lineOf(cost), m_line)].push_back(item); }
+  void push(float cost, const Item& item) { lines_[std::max(lineOf(cost), line_)].push_back(item); }
 
   /// Whether an item of this cost would have to wait for others.
-  bool mustWait(float cost) const { return lineOf(cost) > m_line; }
+  bool mustWait(float cost) const { return lineOf(cost) > line_; }
 
   /// False when nobody waits.
   bool pop(Item& item) {
-    while (m_line < kLines && m_taken == m_lines[m_line].size()) {
-      m_lines[m_line] = {};
-      m_taken = 0;
-      ++m_line;
+    while (line_ < LINES && taken_ == lines_[line_].size()) {
+      lines_[line_] = {};
+      taken_ = 0;
+      ++line_;
     }
-    if (m_line == kLines) return false;
-    item = m_lines[m_line][m_taken++];
+    if (line_ == LINES) return false;
+    item = lines_[line_][taken_++];
     return true;
   }
 
  private:
   // Eight lines for each doubling of the cost: the upper bits of a positive float count just so.
-  static constexpr std::size_t kLines = 640;
+  static constexpr std::size_t LINES = 640;
   static std::size_t lineOf(float cost) {
     const float low = 1e-14F;
     const auto bits = [](float value) {
@@ -43,12 +43,12 @@ class BucketQueue {
       return word >> 20U;
     };
     const std::size_t line = bits(std::max(cost, low)) - bits(low);
-    return std::min(line, kLines - 1);
+    return std::min(line, LINES - 1);
   }
 
-  std::vector<std::vector<Item>> m_lines;
-  std::size_t m_line = 0;
-  std::size_t m_taken = 0;
+  std::vector<std::vector<Item>> lines_;
+  std::size_t line_ = 0;
+  std::size_t taken_ = 0;
 };
 
 }  // namespace samples

@@ -32,14 +32,14 @@ using FieldPtr = std::shared_ptr<const Field>;
 class FunctionField : public Field {
  public:
   using Function = std::function<double(const Vec3&)>;
-  FunctionField(Function function, const Box& box) : m_function(std::move(function)), m_bounds(box) {}
+  FunctionField(Function function, const Box& box) : function_(std::move(function)), bounds_(box) {}
 
-  double distance(const Vec3& point) const override { return m_function(point); }
-  Box bounds() const override { return m_bounds; }
+  double distance(const Vec3& point) const override { return function_(point); }
+  Box bounds() const override { return bounds_; }
 
  private:
-  Function m_function;
-  Box m_bounds;
+  Function function_;
+  Box bounds_;
 };
 
 FieldPtr makeField(FunctionField::Function function, const Box& box);

@@ -28,13 +28,13 @@ class FieldOctree {
 
   FieldOctree(const Field& field, const Sizes& sizes);
 
-  float value(std::uint32_t cube) const { return m_cubes[cube].value; }
-  Vec3 centre(std::uint32_t cube) const { return m_cubes[cube].centre; }
+  float value(std::uint32_t cube) const { return cubes_[cube].value; }
+  Vec3 centre(std::uint32_t cube) const { return cubes_[cube].centre; }
 
   /// Calls `visit` with every cell whose corners lie on both sides of the surface, always in the same order.
   template <typename Visit>
   void forEachCell(Visit visit) const {
-    if (m_cubes.front().sides == 3) meet({}, 0, visit);
+    if (cubes_.front().sides == 3) meet({}, 0, visit);
   }
 
  private:
@@ -66,10 +66,10 @@ class FieldOctree {
   template <typename Visit>
   void meet(const Cell& cubes, unsigned doubled, Visit& visit) const;
 
-  const Field& m_field;
-  Box m_bounds;
-  Sizes m_sizes;
-  std::vector<Cube> m_cubes;
+  const Field& field_;
+  Box bounds_;
+  Sizes sizes_;
+  std::vector<Cube> cubes_;
 };
 
 // `cubes` is a single cube, a row, a square or a block of cubes that touch: two along each axis whose bit is set in
@@ -81,9 +81,9 @@ void FieldOctree::meet(const Cell& cubes, unsigned doubled, Visit& visit) const 
   unsigned inside = 0, outside = 0, divided = 0;
   for (unsigned i = 0; i < 8; ++i) {
     // Of two neighbours, the children at their common side; of a single cube both halves.
-    const std::uint32_t children = m_cubes[cubes[i]].children;
+    const std::uint32_t children = cubes_[cubes[i]].children;
     parts[i] = children == 0 ? cubes[i] : children + (i ^ doubled);
-    const Cube& part = m_cubes[parts[i]];
+    const Cube& part = cubes_[parts[i]];
     inside |= (part.sides & 1U) << i;
     outside |= (part.sides >> 1U & 1U) << i;
     divided |= (part.children != 0 ? 1U : 0U) << i;

@@ -25,7 +25,7 @@ Frame Frame::aimed(const Vec3& origin, const Vec3& along, const Vec3& back) {
 }
 
 Vec3 Frame::angles() const {
-  constexpr double degrees = 180.0 / kPi;
+  constexpr double degrees = 180.0 / PI;
   const double b = std::asin(std::clamp(-x.z, -1.0, 1.0));
   return Vec3{std::atan2(y.z, z.z), b, std::atan2(x.y, x.x)} * degrees;
 }

@@ -16,7 +16,7 @@ class MarchingCubes {
 
   static const MarchingCubes& instance();
 
-  const std::vector<Loop>& loops(unsigned inside) const { return m_loops[inside]; }
+  const std::vector<Loop>& loops(unsigned inside) const { return loops_[inside]; }
   /// The two corners that an edge joins.
   static std::array<std::uint8_t, 2> corners(std::uint8_t edge);
   /// The corners of a side, around.
@@ -25,7 +25,7 @@ class MarchingCubes {
  private:
   MarchingCubes();
 
-  std::array<std::vector<Loop>, 256> m_loops;
+  std::array<std::vector<Loop>, 256> loops_;
 };
 
 }  // namespace samples

@@ -11,21 +11,20 @@ namespace samples {
 namespace {
 
 // How near a cut may come to a sample, in parts of the way to the next.
-constexpr double kLeast = 0.03;
+constexpr double LEAST = 0.03;
 
 // Joins the places where the surface cuts the lines between neighbouring samples.
 class Cutter {
  public:
-  Cutter(const Field& field, const FieldOctree& tree)
-      : m_field(field), m_tree(tree), m_cuts(MarchingCubes::instance()) {
-    m_vertices.reserve(60000);
+  Cutter(const Field& field, const FieldOctree& tree) : field_(field), tree_(tree), cuts_(MarchingCubes::instance()) {
+    vertices_.reserve(60000);
   }
 
   Surface run() {
-    m_tree.forEachCell([this](const FieldOctree::Cell& cell, unsigned inside) {
-      for (const MarchingCubes::Loop& loop : m_cuts.loops(inside)) addLoop(cell, loop);
+    tree_.forEachCell([this](const FieldOctree::Cell& cell, unsigned inside) {
+      for (const MarchingCubes::Loop& loop : cuts_.loops(inside)) addLoop(cell, loop);
     });
-    return std::move(m_surface);
+    return std::move(surface_);
   }
 
  private:
@@ -36,23 +35,23 @@ class Cutter {
   };
 
   void addLoop(const FieldOctree::Cell& cell, const MarchingCubes::Loop& loop) {
-    m_loop.clear();
+    loop_.clear();
     for (const std::uint8_t edge : loop) {
       const auto [first, second] = MarchingCubes::corners(edge);
       const Cut cut = cutBetween(cell[first], cell[second]);
-      if (m_loop.empty() || m_loop.back().vertex != cut.vertex) m_loop.push_back(cut);
+      if (loop_.empty() || loop_.back().vertex != cut.vertex) loop_.push_back(cut);
     }
-    while (m_loop.size() > 1 && m_loop.front().vertex == m_loop.back().vertex) m_loop.pop_back();
-    if (m_loop.size() < 3) return;
-    if (m_loop.size() == 3) return add(0, 1, 2);
-    if (m_loop.size() == 4 && addSquare(cell)) return;
+    while (loop_.size() > 1 && loop_.front().vertex == loop_.back().vertex) loop_.pop_back();
+    if (loop_.size() < 3) return;
+    if (loop_.size() == 3) return add(0, 1, 2);
+    if (loop_.size() == 4 && addSquare(cell)) return;
     addFan();
   }
 
   // A diagonal may not lie in a side of the cell, where the neighbour could have the same one.
   bool addSquare(const FieldOctree::Cell& cell) {
-    const bool first = !onOneSide(cell, m_loop[0], m_loop[2]);
-    const bool second = !onOneSide(cell, m_loop[1], m_loop[3]);
+    const bool first = !onOneSide(cell, loop_[0], loop_[2]);
+    const bool second = !onOneSide(cell, loop_[1], loop_[3]);
     if (!first && !second) return false;
     const auto diagonal = [this](std::size_t i) { return length(place(i) - place(i + 2)); };
     const bool useFirst = first && (!second || diagonal(0) <= diagonal(1));
@@ -78,25 +77,25 @@ class Cutter {
 
   void addFan() {
     Vec3 sum;
-    for (std::size_t i = 0; i < m_loop.size(); ++i) sum = sum + place(i);
-    const auto middle = static_cast<std::uint32_t>(m_surface.positions.size());
-    m_surface.positions.push_back(sum * (1.0 / static_cast<double>(m_loop.size())));
-    for (std::size_t i = 0; i < m_loop.size(); ++i) {
-      m_surface.triangles.push_back({m_loop[i].vertex, m_loop[(i + 1) % m_loop.size()].vertex, middle});
+    for (std::size_t i = 0; i < loop_.size(); ++i) sum = sum + place(i);
+    const auto middle = static_cast<std::uint32_t>(surface_.positions.size());
+    surface_.positions.push_back(sum * (1.0 / static_cast<double>(loop_.size())));
+    for (std::size_t i = 0; i < loop_.size(); ++i) {
+      surface_.triangles.push_back({loop_[i].vertex, loop_[(i + 1) % loop_.size()].vertex, middle});
     }
   }
 
-  const Vec3& place(std::size_t i) const { return m_surface.positions[m_loop[i].vertex]; }
+  const Vec3& place(std::size_t i) const { return surface_.positions[loop_[i].vertex]; }
 
   void add(std::size_t a, std::size_t b, std::size_t c) {
-    m_surface.triangles.push_back({m_loop[a].vertex, m_loop[b].vertex, m_loop[c].vertex});
+    surface_.triangles.push_back({loop_[a].vertex, loop_[b].vertex, loop_[c].vertex});
   }
 
   Cut cutBetween(std::uint32_t a, std::uint32_t b) {
     if (a > b) std::swap(a, b);
     const std::uint64_t key = static_cast<std::uint64_t>(a) << 32U | b;
-    const auto [found, added] = m_vertices.try_emplace(key, static_cast<std::uint32_t>(m_surface.positions.size()));
-    if (added) m_surface.positions.push_back(crossing(a, b));
+    const auto [found, added] = vertices_.try_emplace(key, static_cast<std::uint32_t>(surface_.positions.size()));
+    if (added) surface_.positions.push_back(crossing(a, b));
     return {a, b, found->second};
   }
 
@@ -104,54 +103,54 @@ class Cutter {
   // the samples, where the cuts of several lines would make triangles too small for a file's precision.
   Vec3 crossing(std::uint32_t a, std::uint32_t b) const {
     double from = 0, to = 1;
-    double valueFrom = static_cast<double>(m_tree.value(a)), valueTo = static_cast<double>(m_tree.value(b));
+    double valueFrom = static_cast<double>(tree_.value(a)), valueTo = static_cast<double>(tree_.value(b));
     const auto guess = [&] { return mix(from, to, std::clamp(valueFrom / (valueFrom - valueTo), 0.05, 0.95)); };
     const double t = guess();
-    const double value = m_field.distance(mix(m_tree.centre(a), m_tree.centre(b), t));
+    const double value = field_.distance(mix(tree_.centre(a), tree_.centre(b), t));
     const bool isFar = (value < 0) == (valueFrom < 0);
     (isFar ? from : to) = t;
     (isFar ? valueFrom : valueTo) = value;
-    return mix(m_tree.centre(a), m_tree.centre(b), std::clamp(guess(), kLeast, 1 - kLeast));
+    return mix(tree_.centre(a), tree_.centre(b), std::clamp(guess(), LEAST, 1 - LEAST));
   }
 
-  const Field& m_field;
-  const FieldOctree& m_tree;
-  const MarchingCubes& m_cuts;
-  Surface m_surface;
-  std::vector<Cut> m_loop;
-  std::unordered_map<std::uint64_t, std::uint32_t> m_vertices;
+  const Field& field_;
+  const FieldOctree& tree_;
+  const MarchingCubes& cuts_;
+  Surface surface_;
+  std::vector<Cut> loop_;
+  std::unordered_map<std::uint64_t, std::uint32_t> vertices_;
 };
 
 // Leaves out what is so small that it shows nothing but how the samples lay: bubbles where parts of a field meet.
 class SpeckRemover {
  public:
-  explicit SpeckRemover(Surface& surface) : m_surface(surface), m_joined(surface.positions.size()) {
-    std::iota(m_joined.begin(), m_joined.end(), 0U);
+  explicit SpeckRemover(Surface& surface) : surface_(surface), joined_(surface.positions.size()) {
+    std::iota(joined_.begin(), joined_.end(), 0U);
     for (const Surface::Triangle& triangle : surface.triangles) {
-      for (const std::uint32_t v : triangle) m_joined[whole(v)] = whole(triangle[0]);
+      for (const std::uint32_t v : triangle) joined_[whole(v)] = whole(triangle[0]);
     }
   }
 
   void removeSmallerThan(double size) {
-    std::vector<Box> boxes(m_joined.size());
-    for (std::uint32_t v = 0; v < m_joined.size(); ++v) boxes[whole(v)].add(m_surface.positions[v]);
+    std::vector<Box> boxes(joined_.size());
+    for (std::uint32_t v = 0; v < joined_.size(); ++v) boxes[whole(v)].add(surface_.positions[v]);
     const auto isSpeck = [&](const Surface::Triangle& triangle) {
       const Box& box = boxes[whole(triangle[0])];
       return length(box.high - box.low) < size;
     };
-    std::vector<Surface::Triangle>& all = m_surface.triangles;
+    std::vector<Surface::Triangle>& all = surface_.triangles;
     if (std::all_of(all.begin(), all.end(), isSpeck)) return;
     all.erase(std::remove_if(all.begin(), all.end(), isSpeck), all.end());
   }
 
  private:
   std::uint32_t whole(std::uint32_t v) {
-    while (m_joined[v] != v) v = m_joined[v] = m_joined[m_joined[v]];
+    while (joined_[v] != v) v = joined_[v] = joined_[joined_[v]];
     return v;
   }
 
-  Surface& m_surface;
-  std::vector<std::uint32_t> m_joined;
+  Surface& surface_;
+  std::vector<std::uint32_t> joined_;
 };
 
 // Brings vertices back onto the surface after simplifying; never far, so that no triangle turns over.

@@ -7,14 +7,14 @@
 namespace samples {
 
 /// One pattern tile is so many centimetres wide and high.
-constexpr double kTile = 10.0;
+constexpr double TILE = 10.0;
 
 /// Where a place lies on a wrapped cloth: `turn` is the angle around the limb in turns, -0.5 to 0.5, 0 opposite the
 /// seam.
 struct Wrapped {
   double turn = 0;
-  double length = 0;     ///< centimetres along the limb
-  double girth = kTile;  ///< centimetres around it, whole tiles; 0 for a flat chart, where `turn` counts centimetres
+  double length = 0;    ///< centimetres along the limb
+  double girth = TILE;  ///< centimetres around it, whole tiles; 0 for a flat chart, where `turn` counts centimetres
 };
 
 /// Wrapped around an axis that `along` runs along; opposite the seam x is 0 and y positive.

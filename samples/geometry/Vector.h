@@ -5,9 +5,9 @@
 
 namespace samples {
 
-constexpr double kPi = 3.14159265358979323846;
+constexpr double PI = 3.14159265358979323846;
 
-constexpr double radians(double degrees) { return degrees * kPi / 180.0; }
+constexpr double radians(double degrees) { return degrees * PI / 180.0; }
 
 /// A point or a direction; centimetres, Z up, unless said otherwise.
 struct Vec3 {

@@ -12,14 +12,14 @@ double caneLength(const ImplicitBody& body) { return 0.428 * body.skeleton().sta
 // It hangs straight down whatever the hand does, and only turns with it.
 Frame hanging(const Skeleton& skeleton) {
   const Frame grip = skeleton.grip(Side::Right);
-  return Frame::rotated({0, 0, std::atan2(-grip.y.x, grip.y.y) * 180 / kPi}, grip.origin);
+  return Frame::rotated({0, 0, std::atan2(-grip.y.x, grip.y.y) * 180 / PI}, grip.origin);
 }
 
 // The tip stands on the ground ahead of a hand that is lower than the stick is long.
 Frame leaningCane(const ImplicitBody& body) {
   const Vec3 hand = body.skeleton().grip(Side::Right).origin;
   const double tilt = std::acos(std::clamp((hand.z - 0.5) / caneLength(body), 0.0, 1.0));
-  return Frame::rotated({-tilt * 180 / kPi, 0, 0}, hand);
+  return Frame::rotated({-tilt * 180 / PI, 0, 0}, hand);
 }
 
 Frame beside(const Skeleton& skeleton, double left, double back, double turn) {
@@ -35,9 +35,9 @@ Frame suitcasePlacement(const ImplicitBody& body) {
   // Drawn behind: the handle's side faces the walker, tilted until the bar is in the hand and the wheels roll.
   const Vec3 hand = skeleton.grip(Side::Left).origin;
   const double wheel = 2.6;
-  const double tilt = std::acos(std::clamp((hand.z - wheel) / (kSuitcaseHandle - wheel), -1.0, 1.0));
-  Frame frame = Frame::rotated({0, 0, 90}).child(Frame::rotated({0, -tilt * 180 / kPi, 0}));
-  frame.origin = hand - frame.direction({-9, 0, kSuitcaseHandle});
+  const double tilt = std::acos(std::clamp((hand.z - wheel) / (SUITCASE_HANDLE - wheel), -1.0, 1.0));
+  Frame frame = Frame::rotated({0, 0, 90}).child(Frame::rotated({0, -tilt * 180 / PI, 0}));
+  frame.origin = hand - frame.direction({-9, 0, SUITCASE_HANDLE});
   return frame;
 }
 
@@ -51,7 +51,7 @@ Frame lampPostPlacement(const ImplicitBody& body) {
     for (double z = 0.45 * s; z < 0.88 * s; z += 1.5) {
       nearest = std::min(nearest, body.figureDistance({x, shoulder.y, z}));
     }
-    return nearest - kLampPostRadius;
+    return nearest - LAMP_POST_RADIUS;
   };
   double x = shoulder.x + 60;
   while (x > shoulder.x && clearance(x) > 1.0) x -= 0.25;

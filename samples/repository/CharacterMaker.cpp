@@ -33,64 +33,64 @@ JobQueue::Job meshJob(const fs::path& file, const std::string& name, MeshStore& 
 }
 
 CharacterMaker::CharacterMaker(CharacterDesign design, fs::path root)
-    : m_design(std::move(design)), m_root(std::move(root)) {
-  for (const Pose& pose : samplePoses(m_design.proportions.femininity)) {
-    m_poses.push_back({pose, std::make_shared<ImplicitBody>(Skeleton(m_design.proportions, pose), m_design.hair)});
+    : design_(std::move(design)), root_(std::move(root)) {
+  for (const Pose& pose : samplePoses(design_.proportions.femininity)) {
+    poses_.push_back({pose, std::make_shared<ImplicitBody>(Skeleton(design_.proportions, pose), design_.hair)});
   }
   placeAssets();
 }
 
 void CharacterMaker::placeAssets() {
-  for (const Posed& posed : m_poses) {
-    for (const AssetDesign& asset : m_design.assets) {
+  for (const Posed& posed : poses_) {
+    for (const AssetDesign& asset : design_.assets) {
       if (asset.kind == AssetDesign::Kind::Worn) continue;
       if (!asset.onlyPose.empty() && asset.onlyPose != posed.pose.id) continue;
-      m_placements.push_back(
-          {poseId(m_design, posed.pose), assetId(m_design, asset.key), propPlacement(asset.prop, *posed.body)});
+      placements_.push_back(
+          {poseId(design_, posed.pose), assetId(design_, asset.key), propPlacement(asset.prop, *posed.body)});
     }
   }
 }
 
 const CharacterMaker::Posed& CharacterMaker::posed(bool seated) const {
   const auto found =
-      std::find_if(m_poses.begin(), m_poses.end(), [=](const Posed& posed) { return posed.pose.seated == seated; });
-  return found == m_poses.end() ? m_poses.front() : *found;
+      std::find_if(poses_.begin(), poses_.end(), [=](const Posed& posed) { return posed.pose.seated == seated; });
+  return found == poses_.end() ? poses_.front() : *found;
 }
 
 std::string CharacterMaker::outfitMesh(const OutfitDesign& outfit, const Pose& pose) const {
-  return m_design.key + "/" + outfit.key + "/" + outfitId(m_design, outfit) + "_" + poseId(m_design, pose) + ".vrmesh";
+  return design_.key + "/" + outfit.key + "/" + outfitId(design_, outfit) + "_" + poseId(design_, pose) + ".vrmesh";
 }
 
 std::string CharacterMaker::assetMesh(const AssetDesign& asset, const Pose& pose) const {
   if (asset.kind == AssetDesign::Kind::Global) return asset.global;
   const bool worn = asset.kind == AssetDesign::Kind::Worn;
-  return m_design.key + "/" + asset.key + "/" + (worn ? poseId(m_design, pose) : "asset") + ".vrmesh";
+  return design_.key + "/" + asset.key + "/" + (worn ? poseId(design_, pose) : "asset") + ".vrmesh";
 }
 
 void CharacterMaker::planMeshes(JobQueue& queue, MeshStore& store, double coarseness) const {
-  for (const Posed& posed : m_poses) {
+  for (const Posed& posed : poses_) {
     const BodyPtr body = posed.body;
     const std::string skin = bodyMesh(posed.pose);
-    queue.add(meshJob(m_root / skin, skin, store, coarseness, [body] { return bodyPieces(body); }));
-    for (const OutfitDesign& outfit : m_design.outfits) {
+    queue.add(meshJob(root_ / skin, skin, store, coarseness, [body] { return bodyPieces(body); }));
+    for (const OutfitDesign& outfit : design_.outfits) {
       // Pictures of what is missing on purpose need its mesh, which is kept from the disk.
       const bool hidden = !outfit.hasFolder || outfit.missingPose == posed.pose.id;
       const std::string name = outfitMesh(outfit, posed.pose);
-      queue.add(meshJob(hidden ? fs::path() : m_root / name, name, store, coarseness,
+      queue.add(meshJob(hidden ? fs::path() : root_ / name, name, store, coarseness,
                         [body, kind = outfit.outfit] { return outfitPieces(body, kind); }));
     }
-    for (const AssetDesign& asset : m_design.assets) {
+    for (const AssetDesign& asset : design_.assets) {
       if (asset.kind != AssetDesign::Kind::Worn) continue;
       const std::string name = assetMesh(asset, posed.pose);
-      queue.add(meshJob(m_root / name, name, store, coarseness,
-                        [body, kind = asset.worn] { return wornPieces(body, kind); }));
+      queue.add(
+          meshJob(root_ / name, name, store, coarseness, [body, kind = asset.worn] { return wornPieces(body, kind); }));
     }
   }
-  for (const AssetDesign& asset : m_design.assets) {
+  for (const AssetDesign& asset : design_.assets) {
     if (asset.kind != AssetDesign::Kind::Prop) continue;
-    const std::string name = assetMesh(asset, m_poses.front().pose);
+    const std::string name = assetMesh(asset, poses_.front().pose);
     queue.add(
-        meshJob(m_root / name, name, store, coarseness,
+        meshJob(root_ / name, name, store, coarseness,
                 [body = posed(asset.prop == Prop::Stool).body, prop = asset.prop] { return propPieces(prop, *body); }));
   }
 }
@@ -102,16 +102,16 @@ std::string CharacterMaker::writeLibraries() const {
     const fs::path file = style.library == Library::Own         ? own / element / "materials.mat"
                           : style.library == Library::Character ? own / "materials.mat"
                                                                 : own / "props.mat";
-    libraryFor(libraries, file, m_design.key).add(style.material);
+    libraryFor(libraries, file, design_.key).add(style.material);
   };
-  for (const SkinDesign& skin : m_design.skins) {
-    libraryFor(libraries, own / "skin" / "skin.mat", m_design.key).add(skinMaterial(m_design, skin));
+  for (const SkinDesign& skin : design_.skins) {
+    libraryFor(libraries, own / "skin" / "skin.mat", design_.key).add(skinMaterial(design_, skin));
   }
-  for (const OutfitDesign& outfit : m_design.outfits) {
+  for (const OutfitDesign& outfit : design_.outfits) {
     if (!outfit.hasFolder) continue;
     for (const StyleDesign& style : outfit.styles) add(outfit.key, style);
   }
-  for (const AssetDesign& asset : m_design.assets) {
+  for (const AssetDesign& asset : design_.assets) {
     if (asset.kind == AssetDesign::Kind::Global) continue;
     if (asset.styles.empty()) add(asset.key, asset.plain);
     for (const StyleDesign& style : asset.styles) add(asset.key, style);

@@ -22,13 +22,13 @@ class CharacterMaker {
 
   CharacterMaker(CharacterDesign design, std::filesystem::path root);
 
-  const CharacterDesign& design() const { return m_design; }
-  const std::vector<Posed>& poses() const { return m_poses; }
-  const std::vector<PlacementRow>& placements() const { return m_placements; }
-  std::filesystem::path folder() const { return m_root / m_design.key; }
+  const CharacterDesign& design() const { return design_; }
+  const std::vector<Posed>& poses() const { return poses_; }
+  const std::vector<PlacementRow>& placements() const { return placements_; }
+  std::filesystem::path folder() const { return root_ / design_.key; }
 
   // Paths of meshes below the repository, which the store knows them by.
-  std::string bodyMesh(const Pose& pose) const { return m_design.key + "/" + pose.id + "/pose.vrmesh"; }
+  std::string bodyMesh(const Pose& pose) const { return design_.key + "/" + pose.id + "/pose.vrmesh"; }
   std::string outfitMesh(const OutfitDesign& outfit, const Pose& pose) const;
   std::string assetMesh(const AssetDesign& asset, const Pose& pose) const;
 
@@ -39,10 +39,10 @@ class CharacterMaker {
   void placeAssets();
   const Posed& posed(bool seated) const;
 
-  CharacterDesign m_design;
-  std::filesystem::path m_root;
-  std::vector<Posed> m_poses;
-  std::vector<PlacementRow> m_placements;
+  CharacterDesign design_;
+  std::filesystem::path root_;
+  std::vector<Posed> poses_;
+  std::vector<PlacementRow> placements_;
 };
 
 /// The mesh of the pieces, written to the file and put into the store under that name; `file` empty keeps it from the

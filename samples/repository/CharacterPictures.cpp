@@ -10,8 +10,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kCellWidth = 160;
-constexpr int kCellHeight = 320;
+constexpr int CELL_WIDTH = 160;
+constexpr int CELL_HEIGHT = 320;
 
 // All figures in one scale, so that the tall look tall.
 Previews::View upright(const ImplicitBody& body) {
@@ -37,26 +37,25 @@ const StyleDesign& styleOf(const AssetDesign& asset, const std::string& key) {
 
 void CharacterPictures::addAsset(Items& items, const CharacterMaker::Posed& posed, const AssetDesign& asset,
                                  const std::string& style) const {
-  const std::string mesh = m_maker.assetMesh(asset, posed.pose);
+  const std::string mesh = maker_.assetMesh(asset, posed.pose);
   if (asset.kind == AssetDesign::Kind::Worn) {
-    items.push_back(m_previews.item(m_store.find(mesh), styleOf(asset, style).material));
+    items.push_back(previews_.item(store_.find(mesh), styleOf(asset, style).material));
     return;
   }
   const Material* material = &styleOf(asset, style).material;
   if (asset.kind == AssetDesign::Kind::Global) {
-    for (const GlobalAssetDesign& global : m_globals) {
+    for (const GlobalAssetDesign& global : globals_) {
       if (globalId(global) != asset.global) continue;
       material = global.styles.empty() ? &global.plain.material : &global.styles.front().material;
     }
   }
-  items.push_back(m_previews.item(m_store.find(mesh), *material, propPlacement(asset.prop, *posed.body)));
+  items.push_back(previews_.item(store_.find(mesh), *material, propPlacement(asset.prop, *posed.body)));
 }
 
 CharacterPictures::Items CharacterPictures::figure(const CharacterMaker::Posed& posed, const Dressed& dressed) const {
-  const CharacterDesign& design = m_maker.design();
-  Items items = {m_previews.item(m_store.find(m_maker.bodyMesh(posed.pose)), skinMaterial(design, *dressed.skin))};
-  items.push_back(
-      m_previews.item(m_store.find(m_maker.outfitMesh(*dressed.outfit, posed.pose)), dressed.style->material));
+  const CharacterDesign& design = maker_.design();
+  Items items = {previews_.item(store_.find(maker_.bodyMesh(posed.pose)), skinMaterial(design, *dressed.skin))};
+  items.push_back(previews_.item(store_.find(maker_.outfitMesh(*dressed.outfit, posed.pose)), dressed.style->material));
   for (const OutfitDesign::Selected& selected : dressed.assets) {
     const AssetDesign* asset = design.asset(selected.asset);
     if (asset != nullptr) addAsset(items, posed, *asset, selected.style);
@@ -66,75 +65,75 @@ CharacterPictures::Items CharacterPictures::figure(const CharacterMaker::Posed& 
 }
 
 CharacterPictures::Dressed CharacterPictures::usual(const OutfitDesign& outfit) const {
-  return {&outfit, &outfit.styles.front(), &m_maker.design().skins.front(), outfit.selects};
+  return {&outfit, &outfit.styles.front(), &maker_.design().skins.front(), outfit.selects};
 }
 
 void CharacterPictures::plan(JobQueue& queue) const {
-  for (const OutfitDesign& outfit : m_maker.design().outfits) planOutfitPictures(queue, outfit);
+  for (const OutfitDesign& outfit : maker_.design().outfits) planOutfitPictures(queue, outfit);
   planSkinPictures(queue);
   planAssetPictures(queue);
 }
 
 std::vector<fs::path> CharacterPictures::stylePictures(const OutfitDesign& outfit, const StyleDesign& style) const {
-  const std::string name = previewName(styleId(outfitId(m_maker.design(), outfit), style));
-  std::vector<fs::path> files = {m_maker.folder() / "previews" / name};
-  if (outfit.hasFolder) files.push_back(m_maker.folder() / outfit.key / name);
+  const std::string name = previewName(styleId(outfitId(maker_.design(), outfit), style));
+  std::vector<fs::path> files = {maker_.folder() / "previews" / name};
+  if (outfit.hasFolder) files.push_back(maker_.folder() / outfit.key / name);
   return files;
 }
 
 void CharacterPictures::planOutfitPictures(JobQueue& queue, const OutfitDesign& outfit) const {
-  const fs::path folder = m_maker.folder();
-  const std::string id = outfitId(m_maker.design(), outfit);
-  for (const CharacterMaker::Posed& posed : m_maker.poses()) {
-    const std::string pose = poseId(m_maker.design(), posed.pose);
+  const fs::path folder = maker_.folder();
+  const std::string id = outfitId(maker_.design(), outfit);
+  for (const CharacterMaker::Posed& posed : maker_.poses()) {
+    const std::string pose = poseId(maker_.design(), posed.pose);
     std::vector<fs::path> files = {folder / "previews" / (id + "_" + pose + ".png")};
     // The same picture stands for the pose and for the first style.
-    if (&outfit == &m_maker.design().outfits.front()) files.push_back(folder / "previews" / previewName(pose));
-    if (&posed == &m_maker.poses().front()) addFiles(files, stylePictures(outfit, outfit.styles.front()));
+    if (&outfit == &maker_.design().outfits.front()) files.push_back(folder / "previews" / previewName(pose));
+    if (&posed == &maker_.poses().front()) addFiles(files, stylePictures(outfit, outfit.styles.front()));
     queue.add([this, files, &posed, &outfit] {
-      return writePicture(m_previews.take(figure(posed, usual(outfit)), upright(*posed.body), 100, 300), files);
+      return writePicture(previews_.take(figure(posed, usual(outfit)), upright(*posed.body), 100, 300), files);
     });
   }
-  const CharacterMaker::Posed& first = m_maker.poses().front();
+  const CharacterMaker::Posed& first = maker_.poses().front();
   for (const StyleDesign& style : outfit.styles) {
     if (&style == &outfit.styles.front()) continue;
     const std::vector<fs::path> files = stylePictures(outfit, style);
     queue.add([this, files, &first, &outfit, &style] {
       Dressed dressed = usual(outfit);
       dressed.style = &style;
-      return writePicture(m_previews.take(figure(first, dressed), upright(*first.body), 100, 300), files);
+      return writePicture(previews_.take(figure(first, dressed), upright(*first.body), 100, 300), files);
     });
   }
   std::vector<fs::path> files = {folder / "previews" / previewName(id)};
-  if (&outfit == &m_maker.design().outfits.front()) files.push_back(folder / "previews" / "preview.png");
+  if (&outfit == &maker_.design().outfits.front()) files.push_back(folder / "previews" / "preview.png");
   queue.add([this, files, &first, &outfit] {
-    return writePicture(m_previews.take(figure(first, usual(outfit)), upright(*first.body), 110, 330), files);
+    return writePicture(previews_.take(figure(first, usual(outfit)), upright(*first.body), 110, 330), files);
   });
 }
 
 void CharacterPictures::planSkinPictures(JobQueue& queue) const {
-  const fs::path folder = m_maker.folder();
-  for (const SkinDesign& skin : m_maker.design().skins) {
-    const std::string name = previewName(skinId(m_maker.design(), skin));
+  const fs::path folder = maker_.folder();
+  for (const SkinDesign& skin : maker_.design().skins) {
+    const std::string name = previewName(skinId(maker_.design(), skin));
     queue.add([this, folder, name, &skin] {
-      const CharacterMaker::Posed& posed = m_maker.poses().front();
-      Dressed dressed = usual(m_maker.design().outfits.front());
+      const CharacterMaker::Posed& posed = maker_.poses().front();
+      Dressed dressed = usual(maker_.design().outfits.front());
       dressed.skin = &skin;
       dressed.assets.clear();
       const HeadShape& head = posed.body->headShape();
       const Previews::View view{head.place(0, 0, 0.36), 1.85 * head.height(), 20, 2, false};
-      return writePicture(m_previews.take(figure(posed, dressed), view, 150, 150),
+      return writePicture(previews_.take(figure(posed, dressed), view, 150, 150),
                           {folder / "skin" / name, folder / "previews" / name});
     });
   }
 }
 
 void CharacterPictures::planAssetPictures(JobQueue& queue) const {
-  const fs::path folder = m_maker.folder();
-  for (const AssetDesign& asset : m_maker.design().assets) {
+  const fs::path folder = maker_.folder();
+  for (const AssetDesign& asset : maker_.design().assets) {
     if (asset.kind == AssetDesign::Kind::Global) continue;
-    const std::string id = assetId(m_maker.design(), asset.key);
-    const std::string mesh = m_maker.assetMesh(asset, m_maker.poses().front().pose);
+    const std::string id = assetId(maker_.design(), asset.key);
+    const std::string mesh = maker_.assetMesh(asset, maker_.poses().front().pose);
     const std::vector<StyleDesign>& styles = asset.styles;
     for (std::size_t i = 0; i < std::max<std::size_t>(styles.size(), 1); ++i) {
       const StyleDesign* style = styles.empty() ? &asset.plain : &styles[i];
@@ -148,8 +147,8 @@ void CharacterPictures::planAssetPictures(JobQueue& queue) const {
         files.push_back(folder / "previews" / previewName(id));
       }
       queue.add([this, mesh, style, files] {
-        const Items items = {m_previews.item(m_store.find(mesh), style->material)};
-        return writePicture(m_previews.take(items, Previews::around(items, 1), 150, 150), files);
+        const Items items = {previews_.item(store_.find(mesh), style->material)};
+        return writePicture(previews_.take(items, Previews::around(items, 1), 150, 150), files);
       });
     }
   }
@@ -157,7 +156,7 @@ void CharacterPictures::planAssetPictures(JobQueue& queue) const {
 
 // Every style of the outfit in turn, and one thing of each kind that the outfit does not choose or refuse itself.
 CharacterPictures::Dressed CharacterPictures::sheetDress(std::size_t row, std::size_t column) const {
-  const CharacterDesign& design = m_maker.design();
+  const CharacterDesign& design = maker_.design();
   const OutfitDesign& outfit = design.outfits[row];
   Dressed dressed = usual(outfit);
   dressed.style = &outfit.styles[column % outfit.styles.size()];
@@ -184,33 +183,33 @@ CharacterPictures::Dressed CharacterPictures::sheetDress(std::size_t row, std::s
 }
 
 void CharacterPictures::planContactSheet(JobQueue& queue, const fs::path& file) {
-  const std::vector<CharacterMaker::Posed>& poses = m_maker.poses();
-  const std::size_t rows = m_maker.design().outfits.size();
-  m_sheet =
-      QImage(kCellWidth * static_cast<int>(poses.size()), kCellHeight * static_cast<int>(rows), QImage::Format_RGB32);
+  const std::vector<CharacterMaker::Posed>& poses = maker_.poses();
+  const std::size_t rows = maker_.design().outfits.size();
+  sheet_ =
+      QImage(CELL_WIDTH * static_cast<int>(poses.size()), CELL_HEIGHT * static_cast<int>(rows), QImage::Format_RGB32);
   // Jobs run at the same time, and none of them may be the one that copies the picture.
-  auto* bits = m_sheet.bits();
-  const auto stride = m_sheet.bytesPerLine();
+  auto* bits = sheet_.bits();
+  const auto stride = sheet_.bytesPerLine();
   for (std::size_t row = 0; row < rows; ++row) {
     for (std::size_t column = 0; column < poses.size(); ++column) {
       queue.add([this, row, column, bits, stride]() -> std::string {
-        const CharacterMaker::Posed& posed = m_maker.poses()[column];
+        const CharacterMaker::Posed& posed = maker_.poses()[column];
         Previews::View view = upright(*posed.body);
-        view.height *= m_maker.design().proportions.stature / 175;
-        view.target.z *= m_maker.design().proportions.stature / 175;
-        const QImage cell = m_previews.take(figure(posed, sheetDress(row, column)), view, kCellWidth, kCellHeight);
-        const auto left = static_cast<qptrdiff>(column) * kCellWidth * 4;
-        for (int y = 0; y < kCellHeight; ++y) {
-          const auto line = static_cast<qptrdiff>(row) * kCellHeight + y;
-          std::copy_n(cell.constScanLine(y), kCellWidth * 4, bits + line * stride + left);
+        view.height *= maker_.design().proportions.stature / 175;
+        view.target.z *= maker_.design().proportions.stature / 175;
+        const QImage cell = previews_.take(figure(posed, sheetDress(row, column)), view, CELL_WIDTH, CELL_HEIGHT);
+        const auto left = static_cast<qptrdiff>(column) * CELL_WIDTH * 4;
+        for (int y = 0; y < CELL_HEIGHT; ++y) {
+          const auto line = static_cast<qptrdiff>(row) * CELL_HEIGHT + y;
+          std::copy_n(cell.constScanLine(y), CELL_WIDTH * 4, bits + line * stride + left);
         }
         return {};
       });
     }
   }
-  m_sheetFile = file;
+  sheetFile_ = file;
 }
 
-std::string CharacterPictures::writeContactSheet() const { return writePicture(m_sheet, {m_sheetFile}); }
+std::string CharacterPictures::writeContactSheet() const { return writePicture(sheet_, {sheetFile_}); }
 
 }  // namespace samples

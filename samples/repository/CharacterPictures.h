@@ -10,7 +10,7 @@ class CharacterPictures {
  public:
   CharacterPictures(const CharacterMaker& maker, const std::vector<GlobalAssetDesign>& globals, const MeshStore& store,
                     const Previews& previews)
-      : m_maker(maker), m_globals(globals), m_store(store), m_previews(previews) {}
+      : maker_(maker), globals_(globals), store_(store), previews_(previews) {}
 
   /// All that the window shows.
   void plan(JobQueue& queue) const;
@@ -39,12 +39,12 @@ class CharacterPictures {
   void planSkinPictures(JobQueue& queue) const;
   void planAssetPictures(JobQueue& queue) const;
 
-  const CharacterMaker& m_maker;
-  const std::vector<GlobalAssetDesign>& m_globals;
-  const MeshStore& m_store;
-  const Previews& m_previews;
-  QImage m_sheet;
-  std::filesystem::path m_sheetFile;
+  const CharacterMaker& maker_;
+  const std::vector<GlobalAssetDesign>& globals_;
+  const MeshStore& store_;
+  const Previews& previews_;
+  QImage sheet_;
+  std::filesystem::path sheetFile_;
 };
 
 }  // namespace samples

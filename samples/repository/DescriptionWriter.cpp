@@ -41,24 +41,24 @@ std::string shop(const std::string& id) { return "https://shop.example.com/item?
 }  // namespace
 
 void DescriptionWriter::start(const std::string& element, const Attributes& attributes) {
-  m_text += std::string(static_cast<std::size_t>(m_depth) * 2, ' ') + "<" + element;
-  for (const auto& [name, value] : attributes) m_text += " " + name + "=\"" + escaped(value) + "\"";
+  text_ += std::string(static_cast<std::size_t>(depth_) * 2, ' ') + "<" + element;
+  for (const auto& [name, value] : attributes) text_ += " " + name + "=\"" + escaped(value) + "\"";
 }
 
 void DescriptionWriter::open(const std::string& element, const Attributes& attributes) {
   start(element, attributes);
-  m_text += ">\n";
-  ++m_depth;
+  text_ += ">\n";
+  ++depth_;
 }
 
 void DescriptionWriter::close(const std::string& element) {
-  --m_depth;
-  m_text += std::string(static_cast<std::size_t>(m_depth) * 2, ' ') + "</" + element + ">\n";
+  --depth_;
+  text_ += std::string(static_cast<std::size_t>(depth_) * 2, ' ') + "</" + element + ">\n";
 }
 
 void DescriptionWriter::empty(const std::string& element, const Attributes& attributes) {
   start(element, attributes);
-  m_text += "/>\n";
+  text_ += "/>\n";
 }
 
 void DescriptionWriter::addGlobalAssets(const std::vector<GlobalAssetDesign>& assets) {
@@ -196,7 +196,7 @@ void DescriptionWriter::addMatrix(const std::vector<PlacementRow>& placements) {
 }
 
 std::string DescriptionWriter::text() const {
-  return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<zorvel>\n" + m_text + "</zorvel>\n";
+  return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<zorvel>\n" + text_ + "</zorvel>\n";
 }
 
 }  // namespace samples

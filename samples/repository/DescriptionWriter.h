@@ -41,8 +41,8 @@ class DescriptionWriter {
   void addStyles(const std::string& ownerId, const std::vector<StyleDesign>& styles);
   void addMatrix(const std::vector<PlacementRow>& placements);
 
-  std::string m_text;
-  int m_depth = 1;
+  std::string text_;
+  int depth_ = 1;
 };
 
 }  // namespace samples

@@ -10,11 +10,11 @@
 namespace samples {
 
 JobQueue::JobQueue(unsigned threads)
-    : m_threads(threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency())) {}
+    : threads_(threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency())) {}
 
 std::string JobQueue::run(const Progress& progress) {
-  const std::vector<Job> jobs = std::move(m_jobs);
-  m_jobs.clear();
+  const std::vector<Job> jobs = std::move(jobs_);
+  jobs_.clear();
   std::vector<std::string> errors(jobs.size());
   std::atomic<std::size_t> next{0};
   std::mutex mutex;
@@ -29,7 +29,7 @@ std::string JobQueue::run(const Progress& progress) {
     }
   };
   std::vector<std::thread> threads;
-  for (unsigned i = 0; i < m_threads; ++i) threads.emplace_back(work);
+  for (unsigned i = 0; i < threads_; ++i) threads.emplace_back(work);
   std::unique_lock<std::mutex> lock(mutex);
   for (std::size_t told = 0; told < jobs.size();) {
     finished.wait(lock, [&] { return done > told; });

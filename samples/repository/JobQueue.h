@@ -15,14 +15,14 @@ class JobQueue {
 
   explicit JobQueue(unsigned threads);
 
-  void add(Job job) { m_jobs.push_back(std::move(job)); }
+  void add(Job job) { jobs_.push_back(std::move(job)); }
   /// Does all jobs and forgets them. Answers the error of the first job, in the order in which they were added, that
   /// had one. Progress is told in the calling thread.
   [[nodiscard]] std::string run(const Progress& progress);
 
  private:
-  unsigned m_threads;
-  std::vector<Job> m_jobs;
+  unsigned threads_;
+  std::vector<Job> jobs_;
 };
 
 }  // namespace samples

@@ -54,7 +54,7 @@ Json toJson(const Material& material, const std::string& folder) {
 
 std::string MaterialLibraryWriter::text() const {
   Json json = {{"format", "zorvel-material-library"}, {"version", 1}, {"materials", Json::array()}};
-  for (const Material& material : m_materials) json["materials"].push_back(toJson(material, m_textureFolder));
+  for (const Material& material : materials_) json["materials"].push_back(toJson(material, textureFolder_));
   return json.dump(1) + "\n";
 }
 

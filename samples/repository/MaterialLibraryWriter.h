@@ -12,17 +12,17 @@ namespace samples {
 /// on, as libraries in the wild do.
 class MaterialLibraryWriter {
  public:
-  explicit MaterialLibraryWriter(std::string textureFolder) : m_textureFolder(std::move(textureFolder)) {}
+  explicit MaterialLibraryWriter(std::string textureFolder) : textureFolder_(std::move(textureFolder)) {}
 
-  void add(const Material& material) { m_materials.push_back(material); }
-  bool isEmpty() const { return m_materials.empty(); }
+  void add(const Material& material) { materials_.push_back(material); }
+  bool isEmpty() const { return materials_.empty(); }
   std::string text() const;
   /// Answers an empty text, or what went wrong.
   [[nodiscard]] std::string write(const std::filesystem::path& file) const;
 
  private:
-  std::string m_textureFolder;
-  std::vector<Material> m_materials;
+  std::string textureFolder_;
+  std::vector<Material> materials_;
 };
 
 }  // namespace samples

@@ -9,6 +9,7 @@
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
 #include "samples/geometry/Random.h"
+#include "samples/geometry/Vector.h"
 
 namespace samples {
 namespace {
@@ -62,9 +63,9 @@ void addBush(host::Mesh& mesh, const Point3& centre, float radius, Random& rando
   constexpr int sides = 36;
   const auto first = static_cast<std::uint32_t>(mesh.positions.size());
   for (int ring = 0; ring <= rings; ++ring) {
-    const double latitude = M_PI * ring / rings;
+    const double latitude = PI * ring / rings;
     for (int side = 0; side < sides; ++side) {
-      const double longitude = 2 * M_PI * side / sides;
+      const double longitude = 2 * PI * side / sides;
       const auto length = static_cast<float>(radius * (0.90 + 0.13 * random.next()));
       mesh.positions.push_back(centre + Point3(static_cast<float>(std::sin(latitude) * std::cos(longitude)),
                                                static_cast<float>(std::sin(latitude) * std::sin(longitude)),

@@ -60,8 +60,8 @@ host::ViewItem Previews::item(std::shared_ptr<const host::Mesh> mesh, const Mate
   host::ViewItem item;
   item.mesh = std::move(mesh);
   item.toWorld = Matrix3(toPoint(place.x), toPoint(place.y), toPoint(place.z), toPoint(place.origin));
-  if (material.kind != Material::Kind::Multi) item.surfaces = {toSurface(material, m_textures)};
-  for (const Material& part : material.parts) item.surfaces.push_back(toSurface(part, m_textures));
+  if (material.kind != Material::Kind::Multi) item.surfaces = {toSurface(material, textures_)};
+  for (const Material& part : material.parts) item.surfaces.push_back(toSurface(part, textures_));
   return item;
 }
 
@@ -76,14 +76,14 @@ QImage Previews::take(std::vector<host::ViewItem> items, const View& view, int w
   host::RenderOptions options;
   options.width = width;
   options.height = height;
-  options.samples = m_samples;
+  options.samples = samples_;
   options.enough = 4;
   options.ground = view.ground;
   options.background = host::RenderOptions::Background::Plain;
   options.backgroundColor = QColor(56, 57, 60);
   options.threads = 1;
   const QImage picture = host::render(scene, camera, options);
-  return m_samples > 2 ? withoutGrain(picture) : picture;
+  return samples_ > 2 ? withoutGrain(picture) : picture;
 }
 
 Previews::View Previews::around(const std::vector<host::ViewItem>& items, double widthByHeight) {

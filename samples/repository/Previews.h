@@ -17,7 +17,7 @@ namespace samples {
 class Previews {
  public:
   using Textures = std::map<std::string, std::shared_ptr<const host::Texture>>;
-  Previews(Textures textures, int samplesPerPixel) : m_textures(std::move(textures)), m_samples(samplesPerPixel) {}
+  Previews(Textures textures, int samplesPerPixel) : textures_(std::move(textures)), samples_(samplesPerPixel) {}
 
   /// One mesh as a picture shows it.
   host::ViewItem item(std::shared_ptr<const host::Mesh> mesh, const Material& material, const Frame& place = {}) const;
@@ -37,8 +37,8 @@ class Previews {
   static QImage notAvailable(int width, int height);
 
  private:
-  Textures m_textures;
-  int m_samples;
+  Textures textures_;
+  int samples_;
 };
 
 }  // namespace samples

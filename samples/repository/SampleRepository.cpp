@@ -17,11 +17,11 @@ namespace fs = std::filesystem;
 class Writer {
  public:
   Writer(const fs::path& folder, const SampleOptions& options, const SampleProgress& progress)
-      : m_root(folder),
-        m_options(options),
-        m_progress(progress),
-        m_globals(globalAssetDesigns()),
-        m_people(people(std::clamp(options.characters, 1, 1000))) {}
+      : root_(folder),
+        options_(options),
+        progress_(progress),
+        globals_(globalAssetDesigns()),
+        people_(people(std::clamp(options.characters, 1, 1000))) {}
 
   std::string run() {
     using Step = std::string (Writer::*)();
@@ -35,38 +35,38 @@ class Writer {
 
  private:
   void tell(double share) const {
-    if (m_progress) m_progress(share);
+    if (progress_) progress_(share);
   }
   JobQueue::Progress part(double from, double to) const {
     return [this, from, to](double share) { tell(mix(from, to, share)); };
   }
 
   std::string writeTextures() {
-    JobQueue queue(m_options.threads);
+    JobQueue queue(options_.threads);
     Previews::Textures textures;
-    const auto images = drawTextures(m_options.seed, m_options.coarseness, m_people);
+    const auto images = drawTextures(options_.seed, options_.coarseness, people_);
     for (const auto& [name, image] : images) {
       textures[name] = std::make_shared<host::Texture>(image);
-      queue.add([this, file = m_root / "maps" / name, &picture = image] { return writePicture(picture, {file}); });
+      queue.add([this, file = root_ / "maps" / name, &picture = image] { return writePicture(picture, {file}); });
     }
-    m_previews = std::make_unique<Previews>(std::move(textures), m_options.previewSamples);
+    previews_ = std::make_unique<Previews>(std::move(textures), options_.previewSamples);
     return queue.run(part(0, 0.04));
   }
 
   std::string writeGlobalAssets() {
-    JobQueue meshes(m_options.threads);
-    const auto body = std::make_shared<ImplicitBody>(Skeleton(m_people.front().proportions, samplePoses(1).front()),
-                                                     HairStyle::Short);
-    for (const GlobalAssetDesign& asset : m_globals) {
+    JobQueue meshes(options_.threads);
+    const auto body =
+        std::make_shared<ImplicitBody>(Skeleton(people_.front().proportions, samplePoses(1).front()), HairStyle::Short);
+    for (const GlobalAssetDesign& asset : globals_) {
       if (!asset.hasFolder) continue;
-      meshes.add(meshJob(globalFolder(asset) / "asset.vrmesh", globalId(asset), m_shared, m_options.coarseness,
+      meshes.add(meshJob(globalFolder(asset) / "asset.vrmesh", globalId(asset), shared_, options_.coarseness,
                          [&asset, body] { return propPieces(asset.prop, *body); }));
     }
     if (std::string error = meshes.run(part(0.04, 0.08)); !error.empty()) return error;
-    JobQueue pictures(m_options.threads);
-    for (const GlobalAssetDesign& asset : m_globals) planGlobalPictures(pictures, asset);
-    pictures.add([this] { return writePicture(Previews::notAvailable(110, 330), {m_root / "overlay110x330.png"}); });
-    pictures.add([this] { return writePicture(Previews::notAvailable(100, 300), {m_root / "overlay100x300.png"}); });
+    JobQueue pictures(options_.threads);
+    for (const GlobalAssetDesign& asset : globals_) planGlobalPictures(pictures, asset);
+    pictures.add([this] { return writePicture(Previews::notAvailable(110, 330), {root_ / "overlay110x330.png"}); });
+    pictures.add([this] { return writePicture(Previews::notAvailable(100, 300), {root_ / "overlay100x300.png"}); });
     return pictures.run(part(0.08, 0.1));
   }
 
@@ -78,50 +78,50 @@ class Writer {
       if (!asset.styles.empty()) files.push_back(globalFolder(asset) / previewName(styleId(globalId(asset), *style)));
       if (i == 0) files.push_back(globalFolder(asset) / "preview.png");
       queue.add([this, &asset, style, files] {
-        const std::vector<host::ViewItem> items = {m_previews->item(m_shared.find(globalId(asset)), style->material)};
-        return writePicture(m_previews->take(items, Previews::around(items, 1), 150, 150), files);
+        const std::vector<host::ViewItem> items = {previews_->item(shared_.find(globalId(asset)), style->material)};
+        return writePicture(previews_->take(items, Previews::around(items, 1), 150, 150), files);
       });
     }
   }
 
   // One after the other, so that a repository of many does not keep the meshes of all.
   std::string writeCharacters() {
-    m_description.addGlobalAssets(m_globals);
-    const double step = 0.9 / static_cast<double>(m_people.size());
-    for (std::size_t i = 0; i < m_people.size(); ++i) {
+    description_.addGlobalAssets(globals_);
+    const double step = 0.9 / static_cast<double>(people_.size());
+    for (std::size_t i = 0; i < people_.size(); ++i) {
       const double from = 0.1 + step * static_cast<double>(i);
-      if (std::string error = writeCharacter(m_people[i], from, from + step); !error.empty()) return error;
+      if (std::string error = writeCharacter(people_[i], from, from + step); !error.empty()) return error;
     }
     return {};
   }
 
   std::string writeCharacter(const CharacterDesign& design, double from, double to) {
-    const CharacterMaker maker(design, m_root);
-    MeshStore store(m_shared);
-    JobQueue queue(m_options.threads);
-    maker.planMeshes(queue, store, m_options.coarseness);
+    const CharacterMaker maker(design, root_);
+    MeshStore store(shared_);
+    JobQueue queue(options_.threads);
+    maker.planMeshes(queue, store, options_.coarseness);
     if (std::string error = queue.run(part(from, mix(from, to, 0.7))); !error.empty()) return error;
-    CharacterPictures pictures(maker, m_globals, store, *m_previews);
+    CharacterPictures pictures(maker, globals_, store, *previews_);
     pictures.plan(queue);
-    const bool sheet = !m_options.contactSheets.empty();
-    if (sheet) pictures.planContactSheet(queue, m_options.contactSheets / (design.key + ".png"));
+    const bool sheet = !options_.contactSheets.empty();
+    if (sheet) pictures.planContactSheet(queue, options_.contactSheets / (design.key + ".png"));
     if (std::string error = queue.run(part(mix(from, to, 0.7), to)); !error.empty()) return error;
     if (std::string error = sheet ? pictures.writeContactSheet() : ""; !error.empty()) return error;
-    m_description.addCharacter(design, maker.placements());
+    description_.addCharacter(design, maker.placements());
     return maker.writeLibraries();
   }
 
   std::string writeTexts() {
     if (std::string error = writeGlobalLibraries(); !error.empty()) return error;
-    if (std::string error = writeTextFile(m_root / "README.md", repositoryReadme(m_people, m_globals, m_options.seed));
+    if (std::string error = writeTextFile(root_ / "README.md", repositoryReadme(people_, globals_, options_.seed));
         !error.empty())
       return error;
-    return writeTextFile(m_root / "zorvel.xml", m_description.text());
+    return writeTextFile(root_ / "zorvel.xml", description_.text());
   }
 
   std::string writeGlobalLibraries() const {
     MaterialLibraryWriter shared("D:\\textures\\shared");
-    for (const GlobalAssetDesign& asset : m_globals) {
+    for (const GlobalAssetDesign& asset : globals_) {
       MaterialLibraryWriter own("D:\\textures\\shared");
       std::vector<StyleDesign> styles = asset.styles;
       if (styles.empty()) styles.push_back(asset.plain);
@@ -129,19 +129,19 @@ class Writer {
       if (!asset.hasFolder || own.isEmpty()) continue;
       if (std::string error = own.write(globalFolder(asset) / "materials.mat"); !error.empty()) return error;
     }
-    return shared.write(m_root / "global_assets" / "materials.mat");
+    return shared.write(root_ / "global_assets" / "materials.mat");
   }
 
-  fs::path globalFolder(const GlobalAssetDesign& asset) const { return m_root / "global_assets" / asset.key; }
+  fs::path globalFolder(const GlobalAssetDesign& asset) const { return root_ / "global_assets" / asset.key; }
 
-  fs::path m_root;
-  SampleOptions m_options;
-  SampleProgress m_progress;
-  std::vector<GlobalAssetDesign> m_globals;
-  std::vector<CharacterDesign> m_people;
-  MeshStore m_shared;
-  DescriptionWriter m_description;
-  std::unique_ptr<Previews> m_previews;
+  fs::path root_;
+  SampleOptions options_;
+  SampleProgress progress_;
+  std::vector<GlobalAssetDesign> globals_;
+  std::vector<CharacterDesign> people_;
+  MeshStore shared_;
+  DescriptionWriter description_;
+  std::unique_ptr<Previews> previews_;
 };
 
 }  // namespace

@@ -9,20 +9,20 @@
 namespace samples {
 namespace {
 
-constexpr double kTurn = 2 * kPi;
+constexpr double TURN = 2 * PI;
 
 // Smooth noise that repeats after `cells` cells, from -1 to 1.
 class TileNoise {
  public:
-  TileNoise(std::uint64_t seed, int cells) : m_cells(cells) {
+  TileNoise(std::uint64_t seed, int cells) : cells_(cells) {
     Random random(seed + static_cast<std::uint64_t>(cells) * 7919U);
-    m_values.resize(static_cast<std::size_t>(cells) * static_cast<std::size_t>(cells));
-    for (double& value : m_values) value = random.between(-1, 1);
+    values_.resize(static_cast<std::size_t>(cells) * static_cast<std::size_t>(cells));
+    for (double& value : values_) value = random.between(-1, 1);
   }
 
   double at(double u, double v) const {
-    const double x = (u - std::floor(u)) * m_cells;
-    const double y = (v - std::floor(v)) * m_cells;
+    const double x = (u - std::floor(u)) * cells_;
+    const double y = (v - std::floor(v)) * cells_;
     const int ix = static_cast<int>(x), iy = static_cast<int>(y);
     const double tx = smoothStep(0, 1, x - ix), ty = smoothStep(0, 1, y - iy);
     return mix(mix(value(ix, iy), value(ix + 1, iy), tx), mix(value(ix, iy + 1), value(ix + 1, iy + 1), tx), ty);
@@ -30,12 +30,12 @@ class TileNoise {
 
  private:
   double value(int x, int y) const {
-    return m_values[static_cast<std::size_t>(y % m_cells) * static_cast<std::size_t>(m_cells) +
-                    static_cast<std::size_t>(x % m_cells)];
+    return values_[static_cast<std::size_t>(y % cells_) * static_cast<std::size_t>(cells_) +
+                   static_cast<std::size_t>(x % cells_)];
   }
 
-  int m_cells;
-  std::vector<double> m_values;
+  int cells_;
+  std::vector<double> values_;
 };
 
 struct Tone {
@@ -60,7 +60,7 @@ struct Tone {
 double threads(double u, double v, int count) {
   const double x = u * count, y = v * count;
   const bool over = ((static_cast<int>(std::floor(x)) + static_cast<int>(std::floor(y))) & 1) != 0;
-  const double round = std::abs(std::sin(kPi * (over ? x : y)));
+  const double round = std::abs(std::sin(PI * (over ? x : y)));
   return 0.86 + 0.14 * std::sqrt(round);
 }
 
@@ -73,41 +73,41 @@ double band(double position, double width, double softness = 0.02) {
 
 template <typename Paint>
 QImage Textures::paint(Paint paint) const {
-  QImage image(m_size, m_size, QImage::Format_RGB32);
-  for (int y = 0; y < m_size; ++y) {
+  QImage image(size_, size_, QImage::Format_RGB32);
+  for (int y = 0; y < size_; ++y) {
     auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-    for (int x = 0; x < m_size; ++x) line[x] = paint((x + 0.5) / m_size, 1 - (y + 0.5) / m_size).rgb();
+    for (int x = 0; x < size_; ++x) line[x] = paint((x + 0.5) / size_, 1 - (y + 0.5) / size_).rgb();
   }
   return image;
 }
 
 QImage Textures::weave() const {
-  const TileNoise noise(m_seed + 1, 64);
+  const TileNoise noise(seed_ + 1, 64);
   return paint([&](double u, double v) { return Tone().shaded(threads(u, v, 64) + 0.02 * noise.at(u, v)); });
 }
 
 QImage Textures::knit() const {
-  const TileNoise noise(m_seed + 2, 32);
+  const TileNoise noise(seed_ + 2, 32);
   return paint([&](double u, double v) {
-    const double rib = std::abs(std::sin(kPi * u * 20));
-    const double stitch = std::abs(std::sin(kPi * (v * 28 + 0.35 * std::sin(kTurn * u * 20))));
+    const double rib = std::abs(std::sin(PI * u * 20));
+    const double stitch = std::abs(std::sin(PI * (v * 28 + 0.35 * std::sin(TURN * u * 20))));
     return Tone().shaded(0.80 + 0.13 * std::sqrt(rib) + 0.07 * stitch + 0.02 * noise.at(u, v));
   });
 }
 
 QImage Textures::leather() const {
-  const TileNoise coarse(m_seed + 3, 24);
-  const TileNoise fine(m_seed + 4, 96);
+  const TileNoise coarse(seed_ + 3, 24);
+  const TileNoise fine(seed_ + 4, 96);
   return paint([&](double u, double v) {
     return Tone().shaded(0.92 - 0.07 * std::abs(coarse.at(u, v)) + 0.05 * fine.at(u, v));
   });
 }
 
 QImage Textures::denim(const QColor& color) const {
-  const TileNoise wash(m_seed + 5, 6);
-  const TileNoise yarn(m_seed + 6, 128);
+  const TileNoise wash(seed_ + 5, 6);
+  const TileNoise yarn(seed_ + 6, 128);
   return paint([&](double u, double v) {
-    const double twill = 0.5 + 0.5 * std::sin(kTurn * (u * 60 + v * 60));
+    const double twill = 0.5 + 0.5 * std::sin(TURN * (u * 60 + v * 60));
     const double tone = 0.86 + 0.12 * twill + 0.06 * wash.at(u, v) + 0.07 * yarn.at(u, v);
     return Tone(color).shaded(tone).towards({0.85, 0.88, 0.92}, 0.10 * (1 - twill));
   });
@@ -141,28 +141,28 @@ QImage Textures::dots(const QColor& base, const QColor& dot, int count, double r
 }
 
 QImage Textures::tweed(const QColor& base, const QColor& fleck) const {
-  const TileNoise coarse(m_seed + 7, 40);
-  const TileNoise fine(m_seed + 8, 128);
+  const TileNoise coarse(seed_ + 7, 40);
+  const TileNoise fine(seed_ + 8, 128);
   return paint([&](double u, double v) {
     const double zig = std::abs(std::fmod(v * 16, 2.0) - 1.0);
-    const double bone = 0.5 + 0.5 * std::sin(kTurn * (u * 16 + zig * 0.9));
+    const double bone = 0.5 + 0.5 * std::sin(TURN * (u * 16 + zig * 0.9));
     const Tone tone = Tone(base).towards(Tone(fleck), 0.30 * bone + 0.25 * std::max(coarse.at(u, v), 0.0));
     return tone.shaded(0.95 + 0.10 * fine.at(u, v));
   });
 }
 
 QImage Textures::quilt(const QColor& base) const {
-  const TileNoise creases(m_seed + 15, 48);
+  const TileNoise creases(seed_ + 15, 48);
   return paint([&](double u, double v) {
-    const double a = std::abs(std::sin(kPi * (u + v) * 3)), b = std::abs(std::sin(kPi * (u - v) * 3));
+    const double a = std::abs(std::sin(PI * (u + v) * 3)), b = std::abs(std::sin(PI * (u - v) * 3));
     const double puff = std::sqrt(std::min(a, b));
     return Tone(base).shaded(0.72 + 0.32 * puff + 0.05 * creases.at(u, v));
   });
 }
 
 QImage Textures::felt() const {
-  const TileNoise patches(m_seed + 16, 20);
-  const TileNoise fibres(m_seed + 17, 128);
+  const TileNoise patches(seed_ + 16, 20);
+  const TileNoise fibres(seed_ + 17, 128);
   return paint(
       [&](double u, double v) { return Tone().shaded(0.93 + 0.03 * patches.at(u, v) + 0.05 * fibres.at(u, v)); });
 }
@@ -181,7 +181,7 @@ QImage Textures::flowers(const QColor& base, const QColor& petal, const QColor& 
     double size;
     double turn;
   };
-  Random random(m_seed + 9);
+  Random random(seed_ + 9);
   std::vector<Flower> flowers;
   constexpr int rows = 3;
   for (int i = 0; i < rows * rows; ++i) {
@@ -193,7 +193,7 @@ QImage Textures::flowers(const QColor& base, const QColor& petal, const QColor& 
     for (const Flower& flower : flowers) {
       const double dx = u - flower.x - std::round(u - flower.x), dy = v - flower.y - std::round(v - flower.y);
       const double r = std::hypot(dx, dy) / flower.size;
-      const double edge = 0.72 + 0.28 * std::cos(5 * std::atan2(dy, dx) + kTurn * flower.turn);
+      const double edge = 0.72 + 0.28 * std::cos(5 * std::atan2(dy, dx) + TURN * flower.turn);
       tone = tone.towards(Tone(petal).shaded(0.85 + 0.15 * r), 1 - smoothStep(edge - 0.05, edge + 0.05, r));
       tone = tone.towards(Tone(heart), 1 - smoothStep(0.22, 0.28, r));
     }
@@ -202,19 +202,18 @@ QImage Textures::flowers(const QColor& base, const QColor& petal, const QColor& 
 }
 
 QImage Textures::wood(const QColor& base) const {
-  const TileNoise bend(m_seed + 10, 4);
-  const TileNoise grain(m_seed + 11, 64);
+  const TileNoise bend(seed_ + 10, 4);
+  const TileNoise grain(seed_ + 11, 64);
   return paint([&](double u, double v) {
-    const double ring = std::sin(kTurn * (u * 5 + 0.35 * bend.at(u, v)));
+    const double ring = std::sin(TURN * (u * 5 + 0.35 * bend.at(u, v)));
     return Tone(base).shaded(0.90 + 0.08 * ring + 0.05 * grain.at(u, v * 0.25));
   });
 }
 
 QImage Textures::straw(const QColor& base) const {
-  const TileNoise noise(m_seed + 12, 48);
+  const TileNoise noise(seed_ + 12, 48);
   return paint([&](double u, double v) {
-    const double plait =
-        std::abs(std::sin(kPi * (u * 18 + 0.5 * std::floor(v * 14)))) * std::abs(std::sin(kPi * v * 14));
+    const double plait = std::abs(std::sin(PI * (u * 18 + 0.5 * std::floor(v * 14)))) * std::abs(std::sin(PI * v * 14));
     return Tone(base).shaded(0.78 + 0.24 * std::sqrt(plait) + 0.05 * noise.at(u, v));
   });
 }
@@ -261,7 +260,7 @@ Tone paintEye(Tone tone, const FacePlace& p, double side, const Face& face) {
 Tone paintBrow(Tone tone, const FacePlace& p, double side, const Face& face) {
   const double t = (p.x * side - 0.065) / 0.165;
   if (t < -0.05 || t > 1.05) return tone;
-  const double line = 0.560 + 0.030 * std::sin(kPi * std::clamp(t * 0.75 + 0.05, 0.0, 1.0)) - 0.006 * t;
+  const double line = 0.560 + 0.030 * std::sin(PI * std::clamp(t * 0.75 + 0.05, 0.0, 1.0)) - 0.006 * t;
   const double thick = mix(face.lashes ? 0.010 : 0.015, 0.004, std::clamp(t, 0.0, 1.0));
   const double d = std::abs(p.z - line) / thick;
   const double ends = smoothStep(-0.05, 0.08, t) * (1 - smoothStep(0.9, 1.05, t));
@@ -309,7 +308,7 @@ Tone paintAge(Tone tone, const FacePlace& p, const Face& face) {
 Tone paintFace(Tone tone, double u, double v, const Face& face) {
   const double height = (v - 0.5) / 0.5 * 1.2 - 0.1;
   // Around the head the face's surface is about 0.36 of a head's height away from the axis.
-  const FacePlace p{std::sin(kTurn * (u - 0.5)) * 0.36, height};
+  const FacePlace p{std::sin(TURN * (u - 0.5)) * 0.36, height};
   if (std::abs(u - 0.5) > 0.25) return tone;
   const Tone blush = Tone(face.skin).towards({0.82, 0.30, 0.26}, 0.45);
   for (const double side : {-1.0, 1.0}) {
@@ -332,11 +331,11 @@ double freckleAt(const TileNoise& spots, double u, double v) {
 }  // namespace
 
 QImage Textures::skin(const Face& face) const {
-  const TileNoise patches(m_seed + 13, 12);
-  const TileNoise pores(m_seed + 14, 160);
-  const TileNoise spots(m_seed + 18, 110);
-  const int size = m_size;
-  Textures large(m_seed, size * 2);
+  const TileNoise patches(seed_ + 13, 12);
+  const TileNoise pores(seed_ + 14, 160);
+  const TileNoise spots(seed_ + 18, 110);
+  const int size = size_;
+  Textures large(seed_, size * 2);
   return large.paint([&](double u, double v) {
     Tone tone = Tone(face.skin).shaded(1 + 0.018 * patches.at(u, v) + 0.015 * pores.at(u, v));
     tone = tone.towards({0.80, 0.42, 0.36}, 0.03 + 0.03 * patches.at(u + 0.37, v));

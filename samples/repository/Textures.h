@@ -12,7 +12,7 @@ namespace samples {
 /// Pictures for materials, drawn by computation. All but the skin are tiles that repeat without a seam.
 class Textures {
  public:
-  explicit Textures(std::uint64_t seed, int size = 512) : m_seed(seed), m_size(size) {}
+  explicit Textures(std::uint64_t seed, int size = 512) : seed_(seed), size_(size) {}
 
   /// Near white, to be multiplied with a material's colour: threads of cloth, grain of leather.
   QImage weave() const;
@@ -40,8 +40,8 @@ class Textures {
   template <typename Paint>
   QImage paint(Paint paint) const;
 
-  std::uint64_t m_seed;
-  int m_size;
+  std::uint64_t seed_;
+  int size_;
 };
 
 }  // namespace samples

@@ -75,14 +75,14 @@ class EveryCombination : public support::LogStoreTest {
       character.GetAssetsForCategory(assets, character.GetContainerElement(ZORVEL::CATEGORIES, i));
       for (const DataContainer* asset : assets) {
         if (!asset->GetFastFlag(ZORVEL::FLAG_VALID)) {
-          m_missing.insert(idOf(asset));
+          missing_.insert(idOf(asset));
           continue;
         }
         for (int style = 0; style < asset->GetChildCount(); ++style) {
           Selection2::AddAsset(Data2::GetUnique(asset->GetChild(style)));
         }
         if (asset->GetChildCount() == 0) Selection2::AddAsset(Data2::GetUnique(asset));
-        m_offered.insert(idOf(asset));
+        offered_.insert(idOf(asset));
       }
     }
   }
@@ -95,19 +95,19 @@ class EveryCombination : public support::LogStoreTest {
     for (host::Node* node : scene.nodes()) {
       const auto* proxy = dynamic_cast<host::ProxyObject*>(node->GetObjectRef());
       if (proxy == nullptr) continue;
-      if (!proxy->problem().empty()) m_missing.insert(nameOf(proxy->fileName()));
+      if (!proxy->problem().empty()) missing_.insert(nameOf(proxy->fileName()));
       EXPECT_NE(node->GetMtl(), nullptr) << node->GetName() << " in " << Selection2::GetPose();
-      ++m_pieces;
+      ++pieces_;
     }
     host::Application::instance().reset();
   }
 
-  std::set<std::wstring> m_missing;
-  std::set<std::wstring> m_offered;
-  int m_pieces = 0;
+  std::set<std::wstring> missing_;
+  std::set<std::wstring> offered_;
+  int pieces_ = 0;
 
  private:
-  support::LocalAppData m_appData;
+  support::LocalAppData appData_;
 };
 
 TEST_F(EveryCombination, OfClothingPoseStyleSkinAndAssetsHasItsMeshesAndMaterialsButThoseLeftOutOnPurpose) {
@@ -117,7 +117,7 @@ TEST_F(EveryCombination, OfClothingPoseStyleSkinAndAssetsHasItsMeshesAndMaterial
     for (int cloth = 0; cloth < character.GetCount(ZORVEL::CLOTH); ++cloth) {
       const DataContainer& worn = *character.GetContainerElement(ZORVEL::CLOTH, cloth);
       if (!worn.GetFastFlag(ZORVEL::FLAG_VALID)) {
-        m_missing.insert(idOf(&worn));
+        missing_.insert(idOf(&worn));
         continue;
       }
       for (int pose = 0; pose < character.GetCount(ZORVEL::POSES); ++pose) {
@@ -125,10 +125,10 @@ TEST_F(EveryCombination, OfClothingPoseStyleSkinAndAssetsHasItsMeshesAndMaterial
       }
     }
   }
-  EXPECT_EQ(m_missing,
+  EXPECT_EQ(missing_,
             (std::set<std::wstring>{L"anna_raincoat", L"bruno_hoodie_bruno_sitting.vrmesh", L"global_umbrella"}));
-  EXPECT_GT(m_offered.size(), 50U);
-  EXPECT_GT(m_pieces, 3000);
+  EXPECT_GT(offered_.size(), 50U);
+  EXPECT_GT(pieces_, 3000);
 }
 
 }  // namespace

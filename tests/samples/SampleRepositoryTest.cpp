@@ -63,22 +63,22 @@ class MeshEdges {
       welded.push_back(numbers.try_emplace({p.x, p.y, p.z}, static_cast<int>(numbers.size())).first->second);
     }
     for (const auto& triangle : mesh.triangles) {
-      for (std::size_t i = 0; i < 3; ++i) ++m_directed[{welded[triangle[i]], welded[triangle[(i + 1) % 3]]}];
+      for (std::size_t i = 0; i < 3; ++i) ++directed_[{welded[triangle[i]], welded[triangle[(i + 1) % 3]]}];
     }
   }
 
   /// Whether every edge has as many triangles on one side as on the other, so that none is left open. More than one on
   /// each is no hole: sheets touch where vertices nearer than the file's precision have become one.
   bool closed() const {
-    for (const auto& [edge, count] : m_directed) {
-      const auto back = m_directed.find({edge.second, edge.first});
-      if (back == m_directed.end() || back->second != count) return false;
+    for (const auto& [edge, count] : directed_) {
+      const auto back = directed_.find({edge.second, edge.first});
+      if (back == directed_.end() || back->second != count) return false;
     }
     return true;
   }
 
  private:
-  std::map<std::pair<int, int>, int> m_directed;
+  std::map<std::pair<int, int>, int> directed_;
 };
 
 double volume(const host::Mesh& mesh) {
