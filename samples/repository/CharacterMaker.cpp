@@ -1,9 +1,9 @@
 #include "samples/repository/CharacterMaker.h"
 
-#include "host/meshes/MeshFileWriter.h"
 #include "samples/body/BodyPieces.h"
 #include "samples/repository/MaterialLibraryWriter.h"
 #include "samples/repository/Naming.h"
+#include "samples/repository/RepositoryFiles.h"
 
 namespace samples {
 namespace {
@@ -21,12 +21,7 @@ JobQueue::Job meshJob(const fs::path& file, const std::string& name, MeshStore& 
                       std::function<std::vector<Piece>()> pieces) {
   return [=, &store]() -> std::string {
     host::Mesh mesh = meshPieces(pieces(), coarseness);
-    std::string failed;
-    if (!file.empty()) {
-      std::error_code error;
-      fs::create_directories(file.parent_path(), error);
-      failed = host::writeMeshFile(mesh, file, host::VertexPrecision::Compact);
-    }
+    std::string failed = file.empty() ? std::string() : writeMesh(mesh, file);
     store.put(name, std::move(mesh));
     return failed;
   };

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "samples/repository/Naming.h"
-#include "samples/repository/PictureFile.h"
+#include "samples/repository/RepositoryFiles.h"
 
 namespace samples {
 namespace {
@@ -91,7 +91,7 @@ void CharacterPictures::planOutfitPictures(JobQueue& queue, const OutfitDesign& 
     if (&outfit == &maker_.design().outfits.front()) files.push_back(folder / "previews" / previewName(pose));
     if (&posed == &maker_.poses().front()) addFiles(files, stylePictures(outfit, outfit.styles.front()));
     queue.add([this, files, &posed, &outfit] {
-      return writePicture(previews_.take(figure(posed, usual(outfit)), upright(*posed.body), 100, 300), files);
+      return writePictures(previews_.take(figure(posed, usual(outfit)), upright(*posed.body), 100, 300), files);
     });
   }
   const CharacterMaker::Posed& first = maker_.poses().front();
@@ -101,13 +101,13 @@ void CharacterPictures::planOutfitPictures(JobQueue& queue, const OutfitDesign& 
     queue.add([this, files, &first, &outfit, &style] {
       Dressed dressed = usual(outfit);
       dressed.style = &style;
-      return writePicture(previews_.take(figure(first, dressed), upright(*first.body), 100, 300), files);
+      return writePictures(previews_.take(figure(first, dressed), upright(*first.body), 100, 300), files);
     });
   }
   std::vector<fs::path> files = {folder / "previews" / previewName(id)};
   if (&outfit == &maker_.design().outfits.front()) files.push_back(folder / "previews" / "preview.png");
   queue.add([this, files, &first, &outfit] {
-    return writePicture(previews_.take(figure(first, usual(outfit)), upright(*first.body), 110, 330), files);
+    return writePictures(previews_.take(figure(first, usual(outfit)), upright(*first.body), 110, 330), files);
   });
 }
 
@@ -122,8 +122,8 @@ void CharacterPictures::planSkinPictures(JobQueue& queue) const {
       dressed.assets.clear();
       const HeadShape& head = posed.body->headShape();
       const Previews::View view{head.place(0, 0, 0.36), 1.85 * head.height(), 20, 2, false};
-      return writePicture(previews_.take(figure(posed, dressed), view, 150, 150),
-                          {folder / "skin" / name, folder / "previews" / name});
+      return writePictures(previews_.take(figure(posed, dressed), view, 150, 150),
+                           {folder / "skin" / name, folder / "previews" / name});
     });
   }
 }
@@ -148,7 +148,7 @@ void CharacterPictures::planAssetPictures(JobQueue& queue) const {
       }
       queue.add([this, mesh, style, files] {
         const Items items = {previews_.item(store_.find(mesh), style->material)};
-        return writePicture(previews_.take(items, Previews::around(items, 1), 150, 150), files);
+        return writePictures(previews_.take(items, Previews::around(items, 1), 150, 150), files);
       });
     }
   }
@@ -210,6 +210,6 @@ void CharacterPictures::planContactSheet(JobQueue& queue, const fs::path& file) 
   sheetFile_ = file;
 }
 
-std::string CharacterPictures::writeContactSheet() const { return writePicture(sheet_, {sheetFile_}); }
+std::string CharacterPictures::writeContactSheet() const { return writePictures(sheet_, {sheetFile_}); }
 
 }  // namespace samples

@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "samples/repository/TextFile.h"
+#include "samples/repository/RepositoryFiles.h"
 
 namespace samples {
 namespace {
@@ -58,8 +58,6 @@ std::string MaterialLibraryWriter::text() const {
   return json.dump(1) + "\n";
 }
 
-std::string MaterialLibraryWriter::write(const std::filesystem::path& file) const {
-  return writeTextFile(file, text());
-}
+std::string MaterialLibraryWriter::write(const std::filesystem::path& file) const { return writeText(file, text()); }
 
 }  // namespace samples

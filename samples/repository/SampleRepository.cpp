@@ -4,9 +4,8 @@
 #include "samples/repository/CharacterPictures.h"
 #include "samples/repository/MaterialLibraryWriter.h"
 #include "samples/repository/Naming.h"
-#include "samples/repository/PictureFile.h"
+#include "samples/repository/RepositoryFiles.h"
 #include "samples/repository/RepositoryReadme.h"
-#include "samples/repository/TextFile.h"
 #include "samples/repository/TextureSet.h"
 
 namespace samples {
@@ -47,7 +46,7 @@ class Writer {
     const auto images = drawTextures(options_.seed, options_.coarseness, people_);
     for (const auto& [name, image] : images) {
       textures[name] = std::make_shared<host::Texture>(image);
-      queue.add([this, file = root_ / "maps" / name, &picture = image] { return writePicture(picture, {file}); });
+      queue.add([this, file = root_ / "maps" / name, &picture = image] { return writePictures(picture, {file}); });
     }
     previews_ = std::make_unique<Previews>(std::move(textures), options_.previewSamples);
     return queue.run(part(0, 0.04));
@@ -65,8 +64,8 @@ class Writer {
     if (std::string error = meshes.run(part(0.04, 0.08)); !error.empty()) return error;
     JobQueue pictures(options_.threads);
     for (const GlobalAssetDesign& asset : globals_) planGlobalPictures(pictures, asset);
-    pictures.add([this] { return writePicture(Previews::notAvailable(110, 330), {root_ / "overlay110x330.png"}); });
-    pictures.add([this] { return writePicture(Previews::notAvailable(100, 300), {root_ / "overlay100x300.png"}); });
+    pictures.add([this] { return writePictures(Previews::notAvailable(110, 330), {root_ / "overlay110x330.png"}); });
+    pictures.add([this] { return writePictures(Previews::notAvailable(100, 300), {root_ / "overlay100x300.png"}); });
     return pictures.run(part(0.08, 0.1));
   }
 
@@ -79,7 +78,7 @@ class Writer {
       if (i == 0) files.push_back(globalFolder(asset) / "preview.png");
       queue.add([this, &asset, style, files] {
         const std::vector<host::ViewItem> items = {previews_->item(shared_.find(globalId(asset)), style->material)};
-        return writePicture(previews_->take(items, Previews::around(items, 1), 150, 150), files);
+        return writePictures(previews_->take(items, Previews::around(items, 1), 150, 150), files);
       });
     }
   }
@@ -113,10 +112,10 @@ class Writer {
 
   std::string writeTexts() {
     if (std::string error = writeGlobalLibraries(); !error.empty()) return error;
-    if (std::string error = writeTextFile(root_ / "README.md", repositoryReadme(people_, globals_, options_.seed));
+    if (std::string error = writeText(root_ / "README.md", repositoryReadme(people_, globals_, options_.seed));
         !error.empty())
       return error;
-    return writeTextFile(root_ / "zorvel.xml", description_.text());
+    return writeText(root_ / "zorvel.xml", description_.text());
   }
 
   std::string writeGlobalLibraries() const {
