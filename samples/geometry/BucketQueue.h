@@ -1,53 +1,53 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
+#include <cmath>
 #include <vector>
 
 namespace samples {
 
-/// Items waiting by cost, the cheapest first; those whose costs differ by less than an eighth wait in line as they
-/// came.
+/// Items waiting by cost, the cheapest first; those whose costs differ by less than an eighth wait together, in the
+/// order in which they came.
 template <typename Item>
 class BucketQueue {
  public:
-  BucketQueue() : lines_(LINES) {}
+  BucketQueue() : buckets_(bucketOf(HIGHEST_COST) + 1) {}
 
   /// The item waits as if it were no cheaper than the last one taken.
-  void push(float cost, const Item& item) { lines_[std::max(lineOf(cost), line_)].push_back(item); }
+  void push(float cost, const Item& item) { buckets_[std::max(bucketOf(cost), first_)].push_back(item); }
 
   /// Whether an item of this cost would have to wait for others.
-  bool mustWait(float cost) const { return lineOf(cost) > line_; }
+  bool mustWait(float cost) const { return bucketOf(cost) > first_; }
 
-  /// False when nobody waits.
+  /// False when nobody waits; the queue is spent then.
   bool pop(Item& item) {
-    while (line_ < LINES && taken_ == lines_[line_].size()) {
-      lines_[line_] = {};
+    while (first_ < buckets_.size() && taken_ == buckets_[first_].size()) {
+      buckets_[first_] = {};
       taken_ = 0;
-      ++line_;
+      ++first_;
     }
-    if (line_ == LINES) return false;
-    item = lines_[line_][taken_++];
+    if (first_ == buckets_.size()) return false;
+    item = buckets_[first_][taken_++];
     return true;
   }
 
  private:
-  // Eight lines for each doubling of the cost: the upper bits of a positive float count just so.
-  static constexpr std::size_t LINES = 640;
-  static std::size_t lineOf(float cost) {
-    const float low = 1e-14F;
-    const auto bits = [](float value) {
-      std::uint32_t word = 0;
-      std::memcpy(&word, &value, sizeof word);
-      return word >> 20U;
-    };
-    const std::size_t line = bits(std::max(cost, low)) - bits(low);
-    return std::min(line, LINES - 1);
+  static constexpr float LOWEST_COST = 1e-14F;
+  static constexpr float HIGHEST_COST = 1e10F;
+
+  // Eight buckets for each doubling of the cost.
+  static std::size_t bucketOf(float cost) {
+    static const int lowest = eighths(LOWEST_COST);
+    return static_cast<std::size_t>(eighths(std::clamp(cost, LOWEST_COST, HIGHEST_COST)) - lowest);
+  }
+  static int eighths(float cost) {
+    int doublings = 0;
+    const float fraction = std::frexp(cost, &doublings);
+    return 8 * doublings + static_cast<int>(16 * fraction);
   }
 
-  std::vector<std::vector<Item>> lines_;
-  std::size_t line_ = 0;
+  std::vector<std::vector<Item>> buckets_;
+  std::size_t first_ = 0;
   std::size_t taken_ = 0;
 };
 
