@@ -63,19 +63,20 @@ class Collapser {
     }
   }
 
-  bool tryCollapse(std::uint32_t a, std::uint32_t b) {
+  // A place that turns no triangle over may change the shape more than the best one, and waits for its turn then.
+  void tryCollapse(std::uint32_t a, std::uint32_t b) {
     dropDead(a);
     dropDead(b);
-    const Vec3 place = placeFor(a, b).place;
-    if (!keepsClosed(a, b)) return false;
+    if (!keepsClosed(a, b)) return;
     const Vec3 middle = (surface_.positions[a] + surface_.positions[b]) * 0.5;
-    for (const Vec3& candidate : {place, middle, surface_.positions[a], surface_.positions[b]}) {
-      if (turnsOver(a, b, candidate) || turnsOver(b, a, candidate)) continue;
-      collapse(a, b, candidate);
+    for (const Vec3& place : {placeFor(a, b).place, middle, surface_.positions[a], surface_.positions[b]}) {
+      if (turnsOver(a, b, place) || turnsOver(b, a, place)) continue;
+      const auto now = static_cast<float>(costAt(a, b, place));
+      if (queue_.mustWait(now)) return queue_.push(now, {a, b, stamps_[a] + stamps_[b]});
+      collapse(a, b, place);
       left_ -= 2;
-      return true;
+      return;
     }
-    return false;
   }
 
   struct Merge {
@@ -87,11 +88,21 @@ class Collapser {
     Quadric sum = quadrics_[a];
     sum.add(quadrics_[b]);
     const Vec3 middle = (surface_.positions[a] + surface_.positions[b]) * 0.5;
-    const double edge = length(surface_.positions[a] - surface_.positions[b]);
     Vec3 place = sum.minimum().value_or(middle);
+    const double edge = length(surface_.positions[a] - surface_.positions[b]);
     if (length(place - middle) > edge) place = middle;
-    // The edge's length breaks the tie on flat parts, so that triangles there stay of a kind.
-    return {place, sum.at(place) + evenness_ * edge * edge * (sum.xx + sum.yy + sum.zz)};
+    return {place, costOf(sum, place, edge)};
+  }
+
+  double costAt(std::uint32_t a, std::uint32_t b, const Vec3& place) const {
+    Quadric sum = quadrics_[a];
+    sum.add(quadrics_[b]);
+    return costOf(sum, place, length(surface_.positions[a] - surface_.positions[b]));
+  }
+
+  // The edge's length breaks the tie on flat parts, so that triangles there stay of a kind.
+  double costOf(const Quadric& sum, const Vec3& place, double edge) const {
+    return sum.at(place) + evenness_ * edge * edge * (sum.xx + sum.yy + sum.zz);
   }
 
   // A candidate's cost is brought up to date only when its turn comes: merging makes its surroundings dearer, so until

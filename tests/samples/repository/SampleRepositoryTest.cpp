@@ -10,7 +10,7 @@
 
 #include "host/meshes/MeshFile.h"
 #include "samples/people/People.h"
-#include "tests/samples/RoughRepository.h"
+#include "tests/samples/repository/RoughRepository.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {

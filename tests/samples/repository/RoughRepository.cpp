@@ -1,4 +1,4 @@
-#include "tests/samples/RoughRepository.h"
+#include "tests/samples/repository/RoughRepository.h"
 
 #include <QXmlStreamReader>
 #include <fstream>

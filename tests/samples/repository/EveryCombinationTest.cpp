@@ -14,7 +14,7 @@
 #include "repository/Parser2.h"
 #include "scene/CharacterBuilder.h"
 #include "scene/SceneNotifications.h"
-#include "tests/samples/RoughRepository.h"
+#include "tests/samples/repository/RoughRepository.h"
 #include "tests/support/LocalAppData.h"
 #include "tests/support/LogStoreTest.h"
 
