@@ -4,8 +4,8 @@
 
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/Progress.h"
-#include "samples/Plaza.h"
-#include "samples/SampleRepository.h"
+#include "samples/repository/Plaza.h"
+#include "samples/repository/SampleRepository.h"
 
 namespace cli {
 

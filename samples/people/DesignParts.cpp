@@ -25,17 +25,6 @@ void rename(StyleDesign& style, const std::string& owner) {
 
 }  // namespace
 
-const AssetDesign* CharacterDesign::asset(const std::string& assetKey) const {
-  const auto found =
-      std::find_if(assets.begin(), assets.end(), [&](const AssetDesign& asset) { return asset.key == assetKey; });
-  return found == assets.end() ? nullptr : &*found;
-}
-
-const AssetDesign* CharacterDesign::support(const Pose& pose) const {
-  if (pose.seated) return asset(seat);
-  return pose.id == "leaning" ? asset(post) : nullptr;
-}
-
 Material fabric(const QColor& color, const std::string& texture, double roughness) {
   return plain("", color, roughness, texture);
 }
@@ -136,8 +125,8 @@ std::vector<CategoryDesign> usualCategories() {
           {"around", "Around", true, false}};
 }
 
-Textures::Face face(const QColor& skin, const QColor& lips, const QColor& brows, const QColor& iris) {
-  Textures::Face face;
+Face face(const QColor& skin, const QColor& lips, const QColor& brows, const QColor& iris) {
+  Face face;
   face.skin = skin;
   face.lips = lips;
   face.brows = brows;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "samples/CharacterDesign.h"
+#include "samples/people/CharacterDesign.h"
 
 namespace samples {
 
@@ -34,7 +34,7 @@ AssetDesign stool(const QColor& color);
 std::vector<AssetDesign> sharedAssets();
 
 std::vector<CategoryDesign> usualCategories();
-Textures::Face face(const QColor& skin, const QColor& lips, const QColor& brows, const QColor& iris);
+Face face(const QColor& skin, const QColor& lips, const QColor& brows, const QColor& iris);
 
 /// With the character's name before the names of all materials, and the names of the skins' pictures.
 CharacterDesign claimed(CharacterDesign character);

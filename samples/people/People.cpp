@@ -1,6 +1,6 @@
 #include "samples/people/People.h"
 
-#include "samples/Random.h"
+#include "samples/geometry/Random.h"
 #include "samples/people/DesignParts.h"
 
 namespace samples {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "samples/CharacterDesign.h"
+#include "samples/people/CharacterDesign.h"
 
 namespace samples {
 

@@ -1,6 +1,6 @@
 #include "samples/props/Furniture.h"
 
-#include "samples/PropShapes.h"
+#include "samples/geometry/Primitives.h"
 #include "samples/props/PropPiece.h"
 
 namespace samples {
@@ -33,15 +33,15 @@ std::vector<Piece> suitcasePieces() {
   };
   const auto metal = [](const Vec3& p) {
     const Vec3 q{p.x, std::abs(p.y), p.z};
-    double d = rodDistance(q, {-9, 7.0, 58}, {-9, 7.0, kSuitcaseHandle}, 0.65);
-    d = smoothMin(d, boxDistance(p - Vec3{-9, 0, kSuitcaseHandle}, {1.1, 8.6, 1.1}, 1.0), 0.4);
+    double d = rodDistance(q, {-9, 7.0, 58}, {-9, 7.0, SUITCASE_HANDLE}, 0.65);
+    d = smoothMin(d, boxDistance(p - Vec3{-9, 0, SUITCASE_HANDLE}, {1.1, 8.6, 1.1}, 1.0), 0.4);
     const Vec3 wheel{std::abs(p.x) - 8.5, q.y - 14.5, p.z - 2.6};
     d = std::min(d, cylinderDistance({wheel.y, wheel.z, wheel.x}, 2.6, 1.1, 0.5));
     d = std::min(d, boxDistance(wheel - Vec3{0, 0, 2.4}, {1.8, 1.6, 1.8}, 0.6));
     return std::min(d, boxDistance(p - Vec3{0, 0, 62.6}, {1.2, 6.0, 1.4}, 0.9));
   };
   return {propPiece(shell, {-14, -21, 4}, {14, 21, 63}, 0, 0.7, 8000),
-          propPiece(metal, {-12, -19, 0}, {12, 19, kSuitcaseHandle + 2}, 1, 0.45, 4200)};
+          propPiece(metal, {-12, -19, 0}, {12, 19, SUITCASE_HANDLE + 2}, 1, 0.45, 4200)};
 }
 
 std::vector<Piece> benchPieces() {
@@ -91,8 +91,8 @@ std::vector<Piece> bicyclePieces() {
       const double r = std::hypot(w.y, w.z);
       d = std::min(d, std::hypot(r - (wheel - 3.6), w.x) - 1.1);
       d = std::min(d, cylinderDistance({w.y, w.z, w.x}, 2.2, 4.6, 0.5));
-      const double turn = std::atan2(w.z, w.y) * 6 / kPi;
-      const double spoke = std::abs(turn - std::round(turn)) * kPi / 6 * r;
+      const double turn = std::atan2(w.z, w.y) * 6 / PI;
+      const double spoke = std::abs(turn - std::round(turn)) * PI / 6 * r;
       d = std::min(d, std::max(std::hypot(spoke, w.x) - 0.28, r - wheel + 4));
     }
     const Vec3 crank = p - pedals;
@@ -123,13 +123,13 @@ std::vector<Piece> bicyclePieces() {
 std::vector<Piece> lampPostPieces() {
   const auto iron = [](const Vec3& p) {
     const double r = std::hypot(p.x, p.y);
-    double d = rodDistance(p, {0, 0, 20}, {0, 0, 262}, kLampPostRadius);
+    double d = rodDistance(p, {0, 0, 20}, {0, 0, 262}, LAMP_POST_RADIUS);
     const double flutes = 0.22 * std::cos(10 * std::atan2(p.y, p.x)) * smoothStep(2, 4, r);
     d -= flutes;
     d = smoothMin(d, cylinderDistance(p - Vec3{0, 0, 8}, 13, 8, 2), 3);
     d = smoothMin(d, cylinderDistance(p - Vec3{0, 0, 24}, 8.5, 12, 2), 3);
     for (const double z : {62.0, 200.0, 258.0})
-      d = smoothMin(d, torusDistance(p - Vec3{0, 0, z}, kLampPostRadius, 1.4), 0.8);
+      d = smoothMin(d, torusDistance(p - Vec3{0, 0, z}, LAMP_POST_RADIUS, 1.4), 0.8);
     d = std::min(d, cylinderDistance(p - Vec3{0, 0, 268}, 10, 1.6, 0.8));
     const double roof = std::max((r - 17 + (p.z - 302) * 0.9) * 0.72, std::max(302 - p.z, p.z - 320));
     d = std::min(d, roof);

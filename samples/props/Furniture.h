@@ -2,16 +2,16 @@
 
 #include <vector>
 
-#include "samples/Piece.h"
+#include "samples/geometry/Piece.h"
 
 namespace samples {
 
 // Things that stand on the ground, the origin below their middle.
 
 /// The height of the handle's bar, which is 9 centimetres behind the middle.
-constexpr double kSuitcaseHandle = 94;
+constexpr double SUITCASE_HANDLE = 94;
 /// The radius of the post between knees and head.
-constexpr double kLampPostRadius = 5;
+constexpr double LAMP_POST_RADIUS = 5;
 
 /// `height` is that of the seat.
 std::vector<Piece> stoolPieces(double height);

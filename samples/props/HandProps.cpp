@@ -1,7 +1,7 @@
 #include "samples/props/HandProps.h"
 
-#include "samples/BlobField.h"
-#include "samples/PropShapes.h"
+#include "samples/geometry/BlobField.h"
+#include "samples/geometry/Primitives.h"
 #include "samples/props/PropPiece.h"
 
 namespace samples {

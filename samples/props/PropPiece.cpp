@@ -1,5 +1,6 @@
 #include "samples/props/PropPiece.h"
 
+#include "samples/geometry/BoxUnwrap.h"
 namespace samples {
 
 Piece propPiece(FunctionField::Function distance, const Vec3& low, const Vec3& high, std::uint16_t materialId,

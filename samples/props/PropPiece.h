@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "samples/Piece.h"
+#include "samples/geometry/Piece.h"
 
 namespace samples {
 
