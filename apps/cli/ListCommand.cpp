@@ -148,8 +148,7 @@ void printElements(const char* title, const Json& elements) {
   std::cout << "  " << title << '\n';
   for (const Json& element : elements) {
     std::cout << "    " << (element.value("usable", true) ? ' ' : '!') << ' ' << element["id"].get<std::string>()
-              << "  " << element["name"].get<std::string>() << details(element)
-              << whyNot(element) << '\n';
+              << "  " << element["name"].get<std::string>() << details(element) << whyNot(element) << '\n';
   }
 }
 

@@ -6,6 +6,7 @@
 
 #include "apps/stage/Questions.h"
 #include "apps/stage/StageWindow.h"
+#include "host/scene/Scene.h"
 #include "tests/support/LoadedRepositoryTest.h"
 
 namespace support {

@@ -2,7 +2,7 @@
 
 #include "core/Settings.h"
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
+#include "host/services/Listener.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
