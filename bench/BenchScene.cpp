@@ -15,7 +15,6 @@
 #include "model/Selection2.h"
 #include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
-#include "scene/SceneNotifications.h"
 
 namespace bench {
 
@@ -24,12 +23,6 @@ using ZORVEL::Data2;
 using ZORVEL::Selection2;
 
 namespace {
-
-void followTheScene() {
-  static bool registered = false;
-  if (!registered) ZORVEL::SceneNotifications::Register();
-  registered = true;
-}
 
 /// A little below zero, so that characters stand on the plane and over the ground alike.
 void addGround() {
@@ -46,7 +39,6 @@ void addGround() {
 }  // namespace
 
 void chooseCharacter() {
-  followTheScene();
   Application::instance().reset();
   GeneratedRepository::ofSize(1).load();
   Selection2::SetCharacter(L"c00");

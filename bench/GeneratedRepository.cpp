@@ -1,17 +1,12 @@
 #include "bench/GeneratedRepository.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <memory>
-#include <stdexcept>
 
-#include "core/Settings.h"
+#include "bench/BenchStore.h"
 #include "host/files/Paths.h"
 #include "host/meshes/MeshFileWriter.h"
-#include "model/Data2.h"
-#include "model/Selection2.h"
-#include "repository/Parser2.h"
 
 namespace bench {
 
@@ -28,12 +23,6 @@ constexpr int ROWS = 2000;
 /// Every tenth asset is made for each pose, every tenth stands for a global one.
 constexpr int GLOBAL_ASSETS = 10;
 
-fs::path temporaryFolder() {
-  std::string name = (fs::temp_directory_path() / "zorvel-bench-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  return name;
-}
-
 std::string id(int character, const char* kind, int number) {
   return "c" + std::to_string(character) + kind + std::to_string(number);
 }
@@ -49,13 +38,13 @@ void write(const fs::path& file, const std::string& text) {
 
 }  // namespace
 
-GeneratedRepository::GeneratedRepository(int characters) : folder_(temporaryFolder()) {
+GeneratedRepository::GeneratedRepository(int characters) : folder_("zorvel-bench-") {
   std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<zorvel>\n<globalAssets>\n";
   for (int i = 0; i < GLOBAL_ASSETS; ++i) {
     text += "<asset" + attributes("g" + std::to_string(i), "Global") + " type=\"global\" folder=\"g" +
             std::to_string(i) + "\"><material id=\"g" + std::to_string(i) +
             "m\" name=\"Oak\" material=\"Oak\"/></asset>\n";
-    fs::create_directories(folder_ / "global_assets" / ("g" + std::to_string(i)));
+    fs::create_directories(folder() / "global_assets" / ("g" + std::to_string(i)));
     elements_ += 2;
   }
   text += "</globalAssets>\n";
@@ -64,12 +53,7 @@ GeneratedRepository::GeneratedRepository(int characters) : folder_(temporaryFold
     text += character(i);
     writeFolders(i);
   }
-  write(folder_ / "zorvel.xml", text + "</zorvel>\n");
-}
-
-GeneratedRepository::~GeneratedRepository() {
-  std::error_code ignored;
-  fs::remove_all(folder_, ignored);
+  write(folder() / "zorvel.xml", text + "</zorvel>\n");
 }
 
 const GeneratedRepository& GeneratedRepository::ofSize(int characters) {
@@ -79,17 +63,9 @@ const GeneratedRepository& GeneratedRepository::ofSize(int characters) {
   return *one;
 }
 
-std::wstring GeneratedRepository::root() const { return host::toWide(folder_.string()) + L"\\"; }
+std::wstring GeneratedRepository::root() const { return host::toWide(folder().string()) + L"\\"; }
 
-void GeneratedRepository::load() const {
-  setenv("LOCALAPPDATA", folder_.c_str(), 1);
-  ZORVEL::Selection2::Reset();
-  ZORVEL::Data2::Clear();
-  ZORVEL::Settings::LoadSettings();
-  ZORVEL::Settings::StorePath(root().c_str());
-  ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath());
-  ZORVEL::Data2::SetValidated(true);
-}
+void GeneratedRepository::load() const { loadRepository(folder()); }
 
 std::string GeneratedRepository::character(int number) {
   const auto element = [this](const char* name, const std::string& rest) {
@@ -141,7 +117,7 @@ std::string GeneratedRepository::character(int number) {
 }
 
 void GeneratedRepository::writeFolders(int number) const {
-  const fs::path base = folder_ / ("p" + std::to_string(number));
+  const fs::path base = folder() / ("p" + std::to_string(number));
   fs::create_directories(base / "skin");
   const auto folders = [&](const char* kind, int count) {
     for (int i = 0; i < count; ++i) fs::create_directories(base / (kind + std::to_string(i)));

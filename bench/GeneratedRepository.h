@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 
+#include "host/files/TemporaryFolder.h"
 #include "host/meshes/Mesh.h"
 
 namespace bench {
@@ -13,19 +14,16 @@ namespace bench {
 class GeneratedRepository {
  public:
   explicit GeneratedRepository(int characters);
-  ~GeneratedRepository();
-  GeneratedRepository(const GeneratedRepository&) = delete;
-  GeneratedRepository& operator=(const GeneratedRepository&) = delete;
 
   /// The one of that size, made when it is first asked for and kept for the life of the process.
   static const GeneratedRepository& ofSize(int characters);
 
-  std::string description() const { return (folder_ / "zorvel.xml").string(); }
+  std::string description() const { return (folder() / "zorvel.xml").string(); }
   /// As the settings hold it.
   std::wstring root() const;
   /// XML elements below the document element.
   int elements() const { return elements_; }
-  const std::filesystem::path& folder() const { return folder_; }
+  const std::filesystem::path& folder() const { return folder_.path(); }
 
   /// Parses and validates it into the store, which it empties first.
   void load() const;
@@ -34,7 +32,7 @@ class GeneratedRepository {
   std::string character(int number);
   void writeFolders(int number) const;
 
-  std::filesystem::path folder_;
+  host::TemporaryFolder folder_;
   int elements_ = 0;
 };
 

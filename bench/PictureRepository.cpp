@@ -2,19 +2,13 @@
 
 #include <QBuffer>
 #include <QImage>
-#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <memory>
 #include <random>
-#include <stdexcept>
 #include <vector>
 
-#include "core/Settings.h"
-#include "host/files/Paths.h"
-#include "model/Data2.h"
-#include "model/Selection2.h"
-#include "repository/Parser2.h"
+#include "bench/BenchStore.h"
 
 namespace bench {
 
@@ -28,12 +22,6 @@ constexpr int CATEGORIES = 15;
 constexpr int ASSETS = PictureRepository::ELEMENTS - PictureRepository::POSES - SKINS - STYLES;
 /// Clothes with pictures of their own.
 constexpr int WORN = 2;
-
-fs::path temporaryFolder() {
-  std::string name = (fs::temp_directory_path() / "zorvel-bench-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  return name;
-}
 
 void write(const fs::path& file, const QByteArray& bytes = {}) {
   fs::create_directories(file.parent_path());
@@ -129,17 +117,12 @@ class Photos {
 
 }  // namespace
 
-PictureRepository::PictureRepository(int characters) : folder_(temporaryFolder()) {
+PictureRepository::PictureRepository(int characters) : folder_("zorvel-bench-") {
   std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<zorvel>\n" + richCharacter();
   for (int i = 1; i < characters; ++i) text += plainCharacter(i);
-  write(folder_ / "zorvel.xml", QByteArray::fromStdString(text + "</zorvel>\n"));
+  write(folder() / "zorvel.xml", QByteArray::fromStdString(text + "</zorvel>\n"));
   writePictures();
   writeMeshes();
-}
-
-PictureRepository::~PictureRepository() {
-  std::error_code ignored;
-  fs::remove_all(folder_, ignored);
 }
 
 const PictureRepository& PictureRepository::ofSize(int characters) {
@@ -149,29 +132,21 @@ const PictureRepository& PictureRepository::ofSize(int characters) {
   return *one;
 }
 
-void PictureRepository::load() const {
-  setenv("LOCALAPPDATA", folder_.c_str(), 1);
-  ZORVEL::Selection2::Reset();
-  ZORVEL::Data2::Clear();
-  ZORVEL::Settings::LoadSettings();
-  ZORVEL::Settings::StorePath((host::toWide(folder_.string()) + L"\\").c_str());
-  ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath());
-  ZORVEL::Data2::SetValidated(true);
-}
+void PictureRepository::load() const { loadRepository(folder()); }
 
 fs::path PictureRepository::posePicture(int pose) const {
-  return folder_ / "rich/previews" / ("k0_" + name("p", pose) + ".png");
+  return folder() / "rich/previews" / ("k0_" + name("p", pose) + ".png");
 }
 
 void PictureRepository::writePictures() const {
-  const fs::path rich = folder_ / "rich";
+  const fs::path rich = folder() / "rich";
   Photos tall(100, 300);
   Photos square(150, 150);
   Photos clothing(110, 330);
   for (int i = 0; i < CLOTHES; ++i) {
     const std::string file = "previews/preview_" + name("k", i) + ".png";
     write(rich / file, clothing.next());
-    write(folder_ / "plain" / file, clothing.next());
+    write(folder() / "plain" / file, clothing.next());
   }
   for (int cloth = 0; cloth < WORN; ++cloth) {
     for (int i = 0; i < POSES; ++i) {
@@ -184,15 +159,15 @@ void PictureRepository::writePictures() const {
 }
 
 void PictureRepository::writeMeshes() const {
-  fs::create_directories(folder_ / "plain/skin");
+  fs::create_directories(folder() / "plain/skin");
   for (int i = 0; i < CLOTHES; ++i) {
-    fs::create_directories(folder_ / "rich" / name("k", i));
-    fs::create_directories(folder_ / "plain" / name("k", i));
+    fs::create_directories(folder() / "rich" / name("k", i));
+    fs::create_directories(folder() / "plain" / name("k", i));
   }
   for (int i = 0; i < POSES; ++i) {
-    fs::create_directories(folder_ / "rich" / name("p", i));
+    fs::create_directories(folder() / "rich" / name("p", i));
     for (int cloth = 0; cloth < WORN; ++cloth) {
-      write(folder_ / "rich" / name("k", cloth) / (name("k", cloth) + "_" + name("p", i) + ".vrmesh"));
+      write(folder() / "rich" / name("k", cloth) / (name("k", cloth) + "_" + name("p", i) + ".vrmesh"));
     }
   }
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <filesystem>
+
 #include <string>
+#include "host/files/TemporaryFolder.h"
 
 namespace bench {
 
@@ -12,9 +14,6 @@ namespace bench {
 class PictureRepository {
  public:
   explicit PictureRepository(int characters);
-  ~PictureRepository();
-  PictureRepository(const PictureRepository&) = delete;
-  PictureRepository& operator=(const PictureRepository&) = delete;
 
   /// The one of that size, made when it is first asked for and kept for the life of the process.
   static const PictureRepository& ofSize(int characters);
@@ -30,10 +29,11 @@ class PictureRepository {
   static constexpr int CLOTHES = 40;
 
  private:
+  const std::filesystem::path& folder() const { return folder_.path(); }
   void writePictures() const;
   void writeMeshes() const;
 
-  std::filesystem::path folder_;
+  host::TemporaryFolder folder_;
 };
 
 }  // namespace bench

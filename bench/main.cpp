@@ -2,6 +2,8 @@
 
 #include <QApplication>
 
+#include "bench/BenchStore.h"
+
 int main(int argc, char** argv) {
   // No display is needed, and none would be as fast as another.
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -11,5 +13,6 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
+  bench::unloadRepository();
   return 0;
 }

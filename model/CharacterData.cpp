@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <limits>
 #include <new>
+#include <utility>
 
 #include "core/Debug.h"
 #include "core/Disk.h"
@@ -57,11 +58,11 @@ struct MatrixFields {
   FieldName zrot{FIELD_ZROT};
 };
 
-float coordinate(const DataContainer& row, FieldName field) {
+float Coordinate(const DataContainer& row, FieldName field) {
   bool found = false;
-  const double value = numberFromText(row.GetData(field, found));
+  const double value = NumberFromText(row.GetData(field, found));
   const float largest = std::numeric_limits<float>::max();
-  if (std::fabs(value) <= static_cast<double>(largest)) return static_cast<float>(value);
+  if (!(std::fabs(value) > static_cast<double>(largest))) return static_cast<float>(value);
   return std::copysign(std::numeric_limits<float>::infinity(), value < 0 ? -1.0F : 1.0F);
 }
 
@@ -120,22 +121,23 @@ DataContainer* CharacterData::AddMaterialToAsset(int assetIndex) {
   return appendChild(*asset);
 }
 
-void CharacterData::AddAssetMatrixElement(const DataContainer* element) {
-  if (!element) return;
+bool CharacterData::AddAssetMatrixElement(const DataContainer* element) {
+  if (!element) return false;
   Debug::AddDebugMessage(DEBUG_INFO, L"add asset matrix element...");
   static const MatrixFields fields;
   bool found = false;
   const wchar_t* poseID = element->GetData(fields.poseID, found);
-  if (!found) return;
+  if (!found) return false;
   const wchar_t* assetID = element->GetData(fields.assetID, found);
-  if (!found) return;
-  const float xpos = coordinate(*element, fields.xpos);
-  const float ypos = coordinate(*element, fields.ypos);
-  const float zpos = coordinate(*element, fields.zpos);
-  const float xrot = coordinate(*element, fields.xrot);
-  const float yrot = coordinate(*element, fields.yrot);
-  const float zrot = coordinate(*element, fields.zrot);
+  if (!found) return false;
+  const float xpos = Coordinate(*element, fields.xpos);
+  const float ypos = Coordinate(*element, fields.ypos);
+  const float zpos = Coordinate(*element, fields.zpos);
+  const float xrot = Coordinate(*element, fields.xrot);
+  const float yrot = Coordinate(*element, fields.yrot);
+  const float zrot = Coordinate(*element, fields.zrot);
   AddAssetMatrixElement(poseID, assetID, xpos, ypos, zpos, xrot, yrot, zrot);
+  return true;
 }
 
 void CharacterData::AddAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID, float xpos, float ypos,
@@ -178,15 +180,21 @@ bool CharacterData::AddAssetElement(const wchar_t* id, const wchar_t* name, cons
                                              {FIELD_URL, url}});
 }
 
-void CharacterData::ValidateCloths() {
+std::vector<ClothWithoutPreview> CharacterData::ValidateCloths() {
+  std::vector<ClothWithoutPreview> dropped;
   DataContainer& cloths = m_containers[CLOTH];
-  if (cloths.GetChildCount() == 0) return;
+  if (cloths.GetChildCount() == 0) return dropped;
   const std::wstring folder = Fields::TextOrEmpty(this, FIELD_FOLDER);
   for (int i = 0; i < cloths.GetChildCount(); ++i) {
     DataContainer* cloth = cloths.GetChild(i);
-    if (cloth && !Disk::FileExists(RepositoryPaths::ClothPreview(folder, cloth))) cloth->SetInvalid();
+    if (!cloth) continue;
+    std::wstring preview = RepositoryPaths::ClothPreview(folder, cloth);
+    if (Disk::FileExists(preview)) continue;
+    cloth->SetInvalid();
+    dropped.push_back({i, std::move(preview)});
   }
   cloths.RemoveInvalidChildren();
+  return dropped;
 }
 
 void CharacterData::SortClothsAlphabetically() {

@@ -15,6 +15,12 @@ enum CONTAINER : int { SKINS = 0, CLOTH = 1, POSES = 2, CATEGORIES = 3, ASSETS =
 /// The three groups that every cloth element of a repository has as its children.
 enum CLOTH_CHILD : int { MATERIAL = 0, EXCLUDE = 1, SELECT = 2 };
 
+/// A cloth that was dropped: its place in the list before, and the picture that is not there.
+struct ClothWithoutPreview {
+  int index;
+  std::wstring preview;
+};
+
 /// An asset as its category lists it.
 struct ListedAsset {
   DataContainer* asset;
@@ -38,8 +44,9 @@ class CharacterData : public DataContainer {
   DataContainer* AddMaterialToCloth(int clothIndex);
   DataContainer* AddMandatoryElement(int poseIndex);
   DataContainer* AddMaterialToAsset(int assetIndex);
-  /// Adds a row from the fields of a record that the caller keeps; without "poseID" or "assetID" nothing is added.
-  void AddAssetMatrixElement(const DataContainer* element);
+  /// Adds a row from the fields of a record that the caller keeps. False when nothing is added: without "poseID" or
+  /// "assetID".
+  bool AddAssetMatrixElement(const DataContainer* element);
   void AddAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID, float xpos, float ypos, float zpos,
                              float xrot, float yrot, float zrot);
   /// Makes room for rows that are about to be added.
@@ -51,8 +58,8 @@ class CharacterData : public DataContainer {
   bool AddCategoryElement(const wchar_t* id, const wchar_t* name, const wchar_t* selection, const wchar_t* required);
   bool AddAssetElement(const wchar_t* id, const wchar_t* name, const wchar_t* type, const wchar_t* folder,
                        const wchar_t* category, const wchar_t* url);
-  /// Destroys the clothes that have no preview picture on disk.
-  void ValidateCloths();
+  /// Destroys the clothes that have no preview picture on disk, and answers which those were.
+  std::vector<ClothWithoutPreview> ValidateCloths();
   /// By the UTF-16 code units of "name", stable; a cloth without a name counts as empty.
   void SortClothsAlphabetically();
 

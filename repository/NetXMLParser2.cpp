@@ -9,6 +9,7 @@
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
 #include "model/RepositoryPaths.h"
+#include "repository/ParseNotes.h"
 #include "repository/XmlDocument.h"
 
 namespace ZORVEL {
@@ -17,39 +18,46 @@ using namespace RepositoryFormat;
 
 namespace {
 
-bool isNamed(const XmlElement& element, const wchar_t* name) { return std::wcscmp(element.name, name) == 0; }
+bool IsNamed(const XmlElement& element, const wchar_t* name) { return std::wcscmp(element.name, name) == 0; }
+
+/// The document element has no namespace: "/zorvel" selects none that has one.
+bool IsDocumentElement(const XmlElement& root) {
+  const wchar_t* space = root.FindAttribute(L"xmlns");
+  return IsNamed(root, ELEMENT_ZORVEL) && (!space || !*space);
+}
 
 template <class Visitor>
-void forEachChild(const XmlElement* parent, Visitor visit) {
+void ForEachChild(const XmlElement* parent, Visitor visit) {
   for (const XmlElement* child = parent->firstChild; child; child = child->nextSibling) visit(*child);
 }
 
 template <class Visitor>
-void forEachChild(const XmlElement* parent, const wchar_t* name, Visitor visit) {
-  forEachChild(parent, [&](const XmlElement& child) {
-    if (isNamed(child, name)) visit(child);
+void ForEachChild(const XmlElement* parent, const wchar_t* name, Visitor visit) {
+  ForEachChild(parent, [&](const XmlElement& child) {
+    if (!IsNamed(child, name)) return ParseNotes::TellSkipped(child, parent->name);
+    visit(child);
   });
 }
 
 /// Appends an element filled from `source` and answers its index.
-int addElement(CharacterData& character, CONTAINER container, const XmlElement& source) {
+int AddElement(CharacterData& character, CONTAINER container, const XmlElement& source) {
   const int index = character.AddContainerElement(container);
   if (index >= 0) NetXMLParser2::CopyAllAttributes(character.GetContainerElement(container, index), &source);
   return index;
 }
 
-void copyIfThere(DataContainer* record, const XmlElement& source) {
+void CopyIfThere(DataContainer* record, const XmlElement& source) {
   if (record) NetXMLParser2::CopyAllAttributes(record, &source);
 }
 
 /// Answers the condition, and logs when it does not hold.
-bool holds(bool condition, const wchar_t* message) {
+bool Holds(bool condition, const wchar_t* message) {
   if (!condition) Debug::AddDebugMessage(DEBUG_INFO, message);
   return condition;
 }
 
 /// The record stays in the store whatever becomes of it afterwards.
-CharacterData* addCharacter() {
+CharacterData* AddCharacter() {
   const int index = Data2::AddCharacter();
   if (index < 0) {
     Debug::AddDebugMessage(DEBUG_WARNING, L"ParseCharacter: could not get new CharacterData");
@@ -61,15 +69,59 @@ CharacterData* addCharacter() {
 }
 
 /// A piece of clothing without a folder is looked for in the character's own.
-void markAvailability(DataContainer& clothing, const CharacterData& character) {
+void MarkAvailability(DataContainer& clothing, const CharacterData& character) {
   const std::wstring folder = RepositoryPaths::Element(Fields::TextOrEmpty(&character, FIELD_FOLDER), &clothing);
   clothing.SetData(FIELD_AVAILABLE, Disk::FolderExists(folder) ? VALUE_AVAILABLE : VALUE_NOT_AVAILABLE);
 }
 
-void addClothChild(CharacterData& character, int clothIndex, const XmlElement& child) {
-  if (isNamed(child, ELEMENT_MATERIAL)) copyIfThere(character.AddChildToClothContainer(clothIndex, MATERIAL), child);
-  if (isNamed(child, ELEMENT_EXCLUDE)) copyIfThere(character.AddChildToClothContainer(clothIndex, EXCLUDE), child);
-  if (isNamed(child, ELEMENT_SELECT)) copyIfThere(character.AddChildToClothContainer(clothIndex, SELECT), child);
+/// Null for a child that clothing does not have.
+DataContainer* AddClothChild(CharacterData& character, int clothIndex, const XmlElement& child) {
+  if (IsNamed(child, ELEMENT_MATERIAL)) return character.AddChildToClothContainer(clothIndex, MATERIAL);
+  if (IsNamed(child, ELEMENT_EXCLUDE)) return character.AddChildToClothContainer(clothIndex, EXCLUDE);
+  if (IsNamed(child, ELEMENT_SELECT)) return character.AddChildToClothContainer(clothIndex, SELECT);
+  ParseNotes::TellSkipped(child, ELEMENT_CLOTHING);
+  return nullptr;
+}
+
+bool HasFolder(const XmlElement& character, const std::wstring& folder, const wchar_t* message, ParseNoteKind kind) {
+  const bool found = Disk::FolderExists(folder);
+  if (!found) ParseNotes::TellRefused(kind, character, folder);
+  return Holds(found, message);
+}
+
+/// The full path of the character's folder; empty when the character is refused.
+std::wstring FindFolder(const XmlElement& character, const wchar_t* path) {
+  const wchar_t* name = character.FindAttribute(FIELD_FOLDER);
+  if (!name) ParseNotes::TellRefused(ParseNoteKind::CharacterWithoutFolder, character);
+  if (!Holds(name != nullptr, L"ParseCharacter: invalid XML structure (folder)")) return {};
+  const std::wstring folder = RepositoryPaths::Character(path, name);
+  const bool complete =
+      HasFolder(character, RepositoryPaths::Previews(folder), L"ParseCharacter: subfolder \"previews\" does not exist",
+                ParseNoteKind::CharacterWithoutPreviews) &&
+      HasFolder(character, RepositoryPaths::Skin(folder), L"ParseCharacter: subfolder \"skin\" does not exist",
+                ParseNoteKind::CharacterWithoutSkin);
+  return complete ? folder : std::wstring();
+}
+
+/// Null when there is none that could be read.
+std::unique_ptr<XmlDocument> LoadDescription(const wchar_t* path) {
+  const std::wstring file = RepositoryPaths::Description(path);
+  if (!Disk::FileExists(file)) {
+    Debug::AddDebugMessage(DEBUG_INFO, L"ParseRepositoryXML: XML file \"zorvel.xml\" does not exist in this folder:");
+    Debug::AddDebugMessage(DEBUG_INFO, path);
+    ParseNotes::TellMissing(file);
+    return nullptr;
+  }
+  XmlError error;
+  XmlOptions options;
+  options.places = ObservedParsing::GetObserver() != nullptr;
+  auto document = XmlDocument::Load(file.c_str(), error, options);
+  if (!document) ParseNotes::TellUnreadable(file, error);
+  if (!Holds(document != nullptr, L"ParseRepositoryXML: invalid character.xml")) return nullptr;
+  const XmlElement& root = document->GetRoot();
+  if (!IsDocumentElement(root)) ParseNotes::TellWrongDocumentElement(file, root);
+  if (!Holds(IsDocumentElement(root), L"ParseRepositoryXML: invalid XML structure (zorvel)")) return nullptr;
+  return document;
 }
 
 }  // namespace
@@ -81,61 +133,57 @@ bool NetXMLParser2::ParseRepositoryXML(const wchar_t* path) {
   }
   Debug::AddDebugMessage(DEBUG_INFO, L"Parse Folder:");
   Debug::AddDebugMessage(DEBUG_INFO, path);
-  const std::wstring file = RepositoryPaths::Description(path);
-  if (!Disk::FileExists(file)) {
-    Debug::AddDebugMessage(DEBUG_INFO, L"ParseRepositoryXML: XML file \"zorvel.xml\" does not exist in this folder:");
-    Debug::AddDebugMessage(DEBUG_INFO, path);
-    return false;
-  }
-  XmlError error;
-  const auto document = XmlDocument::Load(file.c_str(), error);
-  if (!holds(document != nullptr, L"ParseRepositoryXML: invalid character.xml")) return false;
-  const XmlElement& root = document->GetRoot();
-  if (!holds(isNamed(root, ELEMENT_ZORVEL), L"ParseRepositoryXML: invalid XML structure (zorvel)")) return false;
-  forEachChild(&root, [path](const XmlElement& child) { ParseRepositoryElement(&child, path); });
+  const auto document = LoadDescription(path);
+  if (!document) return false;
+  ForEachChild(&document->GetRoot(), [path](const XmlElement& child) { ParseRepositoryElement(&child, path); });
   return true;
 }
 
 bool NetXMLParser2::ParseRepositoryElement(const XmlElement* element, const wchar_t* path) {
   if (!element || !path) return false;
-  if (isNamed(*element, ELEMENT_CHARACTER)) return ParseCharacter(element, path);
-  return isNamed(*element, ELEMENT_GLOBAL_ASSETS) && ParseGlobalAssets(element);
+  if (IsNamed(*element, ELEMENT_CHARACTER)) return ParseCharacter(element, path);
+  if (IsNamed(*element, ELEMENT_GLOBAL_ASSETS)) return ParseGlobalAssets(element);
+  ParseNotes::TellSkipped(*element, ELEMENT_ZORVEL);
+  return false;
 }
 
 bool NetXMLParser2::ParseCharacter(const XmlElement* element, const wchar_t* path) {
-  if (!element || !path || element->attributeCount == 0 || !isNamed(*element, ELEMENT_CHARACTER)) return false;
-  const wchar_t* name = element->FindAttribute(FIELD_FOLDER);
-  if (!holds(name != nullptr, L"ParseCharacter: invalid XML structure (folder)")) return false;
-  const std::wstring folder = RepositoryPaths::Character(path, name);
-  const bool previews = Disk::FolderExists(RepositoryPaths::Previews(folder));
-  if (!holds(previews, L"ParseCharacter: subfolder \"previews\" does not exist")) return false;
-  const bool skin = Disk::FolderExists(RepositoryPaths::Skin(folder));
-  if (!holds(skin, L"ParseCharacter: subfolder \"skin\" does not exist")) return false;
+  if (!element || !path || !IsNamed(*element, ELEMENT_CHARACTER)) return false;
+  if (element->attributeCount == 0) {
+    ParseNotes::TellRefused(ParseNoteKind::CharacterWithoutAttributes, *element);
+    return false;
+  }
+  const std::wstring folder = FindFolder(*element, path);
+  if (folder.empty()) return false;
 
-  CharacterData* character = addCharacter();
+  CharacterData* character = AddCharacter();
   if (!character) return false;
   CopyAllAttributes(character, element);
   character->SetData(FIELD_FOLDER, folder.c_str());
-  forEachChild(element, [character](const XmlElement& child) { ParseXmlElement(&child, character); });
-  character->ValidateCloths();
+  ForEachChild(element, [character](const XmlElement& child) { ParseXmlElement(&child, character); });
+  ParseNotes::TellClothes(*element, character->ValidateCloths());
   character->SortClothsAlphabetically();
   return true;
 }
 
 bool NetXMLParser2::ParseGlobalAssets(const XmlElement* element) {
   if (!element) return false;
-  forEachChild(element, [](const XmlElement& child) { ParseGlobalAsset(&child); });
+  ForEachChild(element, [](const XmlElement& child) { ParseGlobalAsset(&child); });
   return true;
 }
 
 bool NetXMLParser2::ParseGlobalAsset(const XmlElement* element) {
-  if (!element || !isNamed(*element, ELEMENT_ASSET)) return false;
+  if (!element) return false;
+  if (!IsNamed(*element, ELEMENT_ASSET)) {
+    ParseNotes::TellSkipped(*element, ELEMENT_GLOBAL_ASSETS);
+    return false;
+  }
   const int index = Data2::AddGlobalAsset();
   if (index < 0) return false;
   DataContainer* asset = Data2::GetGlobalAsset(index);
   CopyAllAttributes(asset, element);
-  forEachChild(element,
-               [asset](const XmlElement& child) { copyIfThere(Data2::AddMaterialToGlobalaAsset(asset), child); });
+  ForEachChild(element,
+               [asset](const XmlElement& child) { CopyIfThere(Data2::AddMaterialToGlobalaAsset(asset), child); });
   return true;
 }
 
@@ -153,61 +201,63 @@ void NetXMLParser2::ParseXmlElement(const XmlElement* element, CharacterData* ch
                                {ELEMENT_ASSET_MATRIX, L"handle AssetMatrix", &HandleAssetMatrix}};
   if (!element || !character) return;
   for (const List& list : lists) {
-    if (!isNamed(*element, list.name)) continue;
+    if (!IsNamed(*element, list.name)) continue;
     Debug::AddDebugMessage(DEBUG_INFO, list.note);
     return list.handle(element, character);
   }
+  ParseNotes::TellSkipped(*element, ELEMENT_CHARACTER);
 }
 
 void NetXMLParser2::HandleSkins(const XmlElement* element, CharacterData* character) {
   if (!element || !character) return;
   SetBaseCategoryName(element, character, SKINS);
-  forEachChild(element, ELEMENT_SKIN, [character](const XmlElement& skin) { addElement(*character, SKINS, skin); });
+  ForEachChild(element, ELEMENT_SKIN, [character](const XmlElement& skin) { AddElement(*character, SKINS, skin); });
 }
 
 void NetXMLParser2::HandleCloth(const XmlElement* element, CharacterData* character) {
   if (!element || !character) return;
   SetBaseCategoryName(element, character, CLOTH);
-  forEachChild(element, ELEMENT_CLOTHING, [character](const XmlElement& clothing) {
-    const int index = addElement(*character, CLOTH, clothing);
+  ForEachChild(element, ELEMENT_CLOTHING, [character](const XmlElement& clothing) {
+    const int index = AddElement(*character, CLOTH, clothing);
     if (index < 0) return;
-    markAvailability(*character->GetContainerElement(CLOTH, index), *character);
-    forEachChild(&clothing, [&](const XmlElement& child) { addClothChild(*character, index, child); });
+    MarkAvailability(*character->GetContainerElement(CLOTH, index), *character);
+    ForEachChild(&clothing,
+                 [&](const XmlElement& child) { CopyIfThere(AddClothChild(*character, index, child), child); });
   });
 }
 
 void NetXMLParser2::HandlePoses(const XmlElement* element, CharacterData* character) {
   if (!element || !character) return;
   SetBaseCategoryName(element, character, POSES);
-  forEachChild(element, ELEMENT_POSE, [character](const XmlElement& pose) {
-    const int index = addElement(*character, POSES, pose);
+  ForEachChild(element, ELEMENT_POSE, [character](const XmlElement& pose) {
+    const int index = AddElement(*character, POSES, pose);
     if (index < 0) return;
-    forEachChild(&pose, [&](const XmlElement& child) { copyIfThere(character->AddMandatoryElement(index), child); });
+    ForEachChild(&pose, [&](const XmlElement& child) { CopyIfThere(character->AddMandatoryElement(index), child); });
   });
 }
 
 void NetXMLParser2::HandleCategories(const XmlElement* element, CharacterData* character) {
   if (!element || !character) return;
-  forEachChild(element, ELEMENT_CATEGORY,
-               [character](const XmlElement& category) { addElement(*character, CATEGORIES, category); });
+  ForEachChild(element, ELEMENT_CATEGORY,
+               [character](const XmlElement& category) { AddElement(*character, CATEGORIES, category); });
 }
 
 void NetXMLParser2::HandleAssets(const XmlElement* element, CharacterData* character) {
   if (!element || !character) return;
-  forEachChild(element, ELEMENT_ASSET, [character](const XmlElement& asset) {
-    const int index = addElement(*character, ASSETS, asset);
+  ForEachChild(element, ELEMENT_ASSET, [character](const XmlElement& asset) {
+    const int index = AddElement(*character, ASSETS, asset);
     if (index < 0) return;
-    forEachChild(&asset, [&](const XmlElement& child) { copyIfThere(character->AddMaterialToAsset(index), child); });
+    ForEachChild(&asset, [&](const XmlElement& child) { CopyIfThere(character->AddMaterialToAsset(index), child); });
   });
 }
 
 void NetXMLParser2::HandleAssetMatrix(const XmlElement* element, CharacterData* character) {
   if (!element || !character) return;
   character->ReserveAssetMatrix(element->childCount);
-  forEachChild(element, ELEMENT_MATRIX, [character](const XmlElement& matrix) {
+  ForEachChild(element, ELEMENT_MATRIX, [character](const XmlElement& matrix) {
     DataContainer row;
     CopyAllAttributes(&row, &matrix);
-    character->AddAssetMatrixElement(&row);
+    ParseNotes::TellRow(matrix, character->AddAssetMatrixElement(&row));
   });
 }
 
@@ -215,12 +265,15 @@ void NetXMLParser2::CopyAllAttributes(DataContainer* record, const XmlElement* e
   if (!record || !element) return;
   record->SetAllData(element->attributes, element->attributeCount);
   Data2::RegisterID(record);
+  ParseNotes::TellRecord(*element, *record);
 }
 
 void NetXMLParser2::SetBaseCategoryName(const XmlElement* element, CharacterData* character, CONTAINER container) {
   if (!element || !character || container == CATEGORIES || container == ASSETS) return;
   const wchar_t* name = element->FindAttribute(FIELD_NAME);
-  if (name) character->SetContainerName(container, name);
+  if (!name) return;
+  ParseNotes::TellName(*element, *character, container, name);
+  character->SetContainerName(container, name);
 }
 
 }  // namespace ZORVEL

@@ -6,6 +6,7 @@
 #include <libxml/xmlerror.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cwchar>
@@ -17,7 +18,6 @@ namespace ZORVEL {
 namespace {
 
 const std::size_t BLOCK_SIZE = std::size_t{64} << 10;
-const std::size_t LARGEST_FILE = std::size_t{256} << 20;
 // The tree of a document without entities stays below sixteen times the bytes it was read from. What grows beyond twice
 // that is an entity or a default attribute that was repeated to do harm.
 const std::size_t LARGEST_GROWTH = 32;
@@ -30,7 +30,7 @@ using ParserContext = std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxtPtr)>
 
 /// Writes the character that starts at `text`, and moves behind it. The library hands over valid UTF-8; `end` guards
 /// against anything else.
-wchar_t* decodeCharacter(const xmlChar*& text, const xmlChar* end, wchar_t* out) {
+wchar_t* DecodeCharacter(const xmlChar*& text, const xmlChar* end, wchar_t* out) {
   std::uint32_t character = *text++;
   const int following = character < 0xC0 ? 0 : character < 0xE0 ? 1 : character < 0xF0 ? 2 : 3;
   if (following > 0) character &= 0x3FU >> following;
@@ -44,7 +44,7 @@ wchar_t* decodeCharacter(const xmlChar*& text, const xmlChar* end, wchar_t* out)
 }
 
 /// Wide characters never outnumber the bytes that they are made of.
-const wchar_t* copyWide(XmlArena& arena, const xmlChar* text, const xmlChar* end) {
+const wchar_t* CopyWide(XmlArena& arena, const xmlChar* text, const xmlChar* end) {
   const std::size_t size = static_cast<std::size_t>(end - text) + 1;
   auto* const begin = static_cast<wchar_t*>(arena.Allocate(size * sizeof(wchar_t), alignof(wchar_t)));
   wchar_t* out = begin;
@@ -52,16 +52,16 @@ const wchar_t* copyWide(XmlArena& arena, const xmlChar* text, const xmlChar* end
     if (*text < 0x80) {
       *out++ = static_cast<wchar_t>(*text++);
     } else {
-      out = decodeCharacter(text, end, out);
+      out = DecodeCharacter(text, end, out);
     }
   }
   *out = 0;
   return begin;
 }
 
-const wchar_t* copyWide(XmlArena& arena, const xmlChar* text) { return copyWide(arena, text, text + xmlStrlen(text)); }
+const wchar_t* CopyWide(XmlArena& arena, const xmlChar* text) { return CopyWide(arena, text, text + xmlStrlen(text)); }
 
-void freeParser(xmlParserCtxtPtr context) {
+void FreeParser(xmlParserCtxtPtr context) {
   if (!context) return;
   xmlFreeDoc(context->myDoc);
   xmlFreeParserCtxt(context);
@@ -71,7 +71,7 @@ void freeParser(xmlParserCtxtPtr context) {
 class SilentErrors {
  public:
   SilentErrors() : m_context(xmlStructuredErrorContext), m_handler(xmlStructuredError) {
-    xmlSetStructuredErrorFunc(nullptr, &ignore);
+    xmlSetStructuredErrorFunc(nullptr, &Ignore);
   }
   ~SilentErrors() { xmlSetStructuredErrorFunc(m_context, m_handler); }
   SilentErrors(const SilentErrors&) = delete;
@@ -79,7 +79,7 @@ class SilentErrors {
 
  private:
   template <class Error>
-  static void ignore(void* /*context*/, Error /*error*/) {}
+  static void Ignore(void* /*context*/, Error /*error*/) {}
 
   void* m_context;
   xmlStructuredErrorFunc m_handler;
@@ -94,7 +94,7 @@ const wchar_t* XmlElement::FindAttribute(const wchar_t* attribute) const {
   return nullptr;
 }
 
-void XmlArena::addBlock(std::size_t size) {
+void XmlArena::AddBlock(std::size_t size) {
   m_blockSize = size > BLOCK_SIZE ? size : BLOCK_SIZE;
   m_blocks.emplace_back(new char[m_blockSize]);
 }
@@ -102,28 +102,33 @@ void XmlArena::addBlock(std::size_t size) {
 /// Receives what the library reports while it parses, and hangs it into the document's tree.
 class XmlTreeBuilder {
  public:
-  XmlTreeBuilder(XmlDocument& document, std::FILE* file, XmlError& error)
-      : m_document(document), m_file(file), m_error(error) {}
+  XmlTreeBuilder(XmlDocument& document, std::FILE* file, const XmlOptions& options, XmlError& error)
+      : m_document(document), m_file(file), m_options(options), m_error(error) {}
 
   bool Parse() {
     const SilentErrors silence;
-    xmlSAXHandler handler = makeHandler();
-    const ParserContext context(xmlCreateIOParserCtxt(&handler, this, &readFile, nullptr, this, XML_CHAR_ENCODING_NONE),
-                                &freeParser);
-    if (!context) return refuse(L"not readable");
+    xmlSAXHandler handler = MakeHandler();
+    const ParserContext context(xmlCreateIOParserCtxt(&handler, this, &ReadFile, nullptr, this, XML_CHAR_ENCODING_NONE),
+                                &FreeParser);
+    if (!context) return Refuse(XmlFault::NotReadable, L"not readable");
     m_context = context.get();
     // With entities substituted, "&amp;" in an attribute arrives as one character. Which ones there are to substitute,
     // the handler decides.
     xmlCtxtUseOptions(m_context, XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
     xmlParseDocument(m_context);
     if (m_refused) return false;
-    const bool wellFormed = m_context->wellFormed && m_context->nsWellFormed && m_document.m_root && isAtEnd();
-    return wellFormed || refuse(L"not well formed");
+    const bool wellFormed = m_context->wellFormed && m_context->nsWellFormed && m_document.m_root && IsAtEnd();
+    return wellFormed || Refuse(XmlFault::NotWellFormed, L"not well formed");
   }
 
  private:
   using HeldName = std::pair<const xmlChar* const, FieldName>;
   static const std::size_t RECENT_COUNT = 256;
+
+  struct Place {
+    int line;
+    int column;
+  };
 
   struct OpenElement {
     XmlElement* element;
@@ -131,38 +136,38 @@ class XmlTreeBuilder {
   };
 
   /// The library takes a zero character behind the document for the end of the file.
-  bool isAtEnd() const {
+  bool IsAtEnd() const {
     const xmlParserInput* input = m_context->input;
     return input && input->cur == input->end && std::fgetc(m_file) == EOF;
   }
 
-  static XmlTreeBuilder& self(void* data) { return *static_cast<XmlTreeBuilder*>(data); }
+  static XmlTreeBuilder& Self(void* data) { return *static_cast<XmlTreeBuilder*>(data); }
 
-  static xmlSAXHandler makeHandler() {
+  static xmlSAXHandler MakeHandler() {
     xmlSAXHandler handler = {};
     handler.initialized = XML_SAX2_MAGIC;
-    handler.startElementNs = &startElement;
-    handler.endElementNs = &endElement;
-    handler.serror = &reportError;
-    handler.startDocument = [](void* data) { xmlSAX2StartDocument(self(data).m_context); };
+    handler.startElementNs = &StartElement;
+    handler.endElementNs = &EndElement;
+    handler.serror = &ReportError;
+    handler.startDocument = [](void* data) { xmlSAX2StartDocument(Self(data).m_context); };
     handler.internalSubset = [](void* data, const xmlChar* name, const xmlChar* externalId, const xmlChar* systemId) {
-      xmlSAX2InternalSubset(self(data).m_context, name, externalId, systemId);
+      xmlSAX2InternalSubset(Self(data).m_context, name, externalId, systemId);
     };
     handler.entityDecl = [](void* data, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
                             xmlChar* content) {
-      xmlSAX2EntityDecl(self(data).m_context, name, type, publicId, systemId, content);
+      xmlSAX2EntityDecl(Self(data).m_context, name, type, publicId, systemId, content);
     };
     handler.getEntity = [](void* data, const xmlChar* name) {
-      return internalOnly(xmlSAX2GetEntity(self(data).m_context, name));
+      return InternalOnly(xmlSAX2GetEntity(Self(data).m_context, name));
     };
     handler.getParameterEntity = [](void* data, const xmlChar* name) {
-      return internalOnly(xmlSAX2GetParameterEntity(self(data).m_context, name));
+      return InternalOnly(xmlSAX2GetParameterEntity(Self(data).m_context, name));
     };
     return handler;
   }
 
   /// An external entity counts as not declared, so there is nothing that the library could load.
-  static xmlEntityPtr internalOnly(xmlEntityPtr entity) {
+  static xmlEntityPtr InternalOnly(xmlEntityPtr entity) {
     if (!entity) return nullptr;
     const bool internal = entity->etype == XML_INTERNAL_GENERAL_ENTITY ||
                           entity->etype == XML_INTERNAL_PARAMETER_ENTITY ||
@@ -170,98 +175,131 @@ class XmlTreeBuilder {
     return internal ? entity : nullptr;
   }
 
-  static int readFile(void* data, char* buffer, int size) {
-    XmlTreeBuilder& builder = self(data);
+  static int ReadFile(void* data, char* buffer, int size) {
+    XmlTreeBuilder& builder = Self(data);
     const std::size_t count = std::fread(buffer, 1, static_cast<std::size_t>(size), builder.m_file);
     builder.m_bytesRead += count;
-    if (builder.m_bytesRead > LARGEST_FILE) builder.refuse(L"too large");
-    if (std::ferror(builder.m_file)) builder.refuse(L"not readable");
+    // The parser cannot be stopped while it waits for bytes; it stops by itself when there are no more.
+    if (builder.m_bytesRead > builder.m_options.largestFile) builder.NoteFault(XmlFault::BeyondLimits, L"too large");
+    if (std::ferror(builder.m_file)) builder.NoteFault(XmlFault::NotReadable, L"not readable");
     return builder.m_refused ? -1 : static_cast<int>(count);
   }
 
-  static void startElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* /*uri*/,
+  static void StartElement(void* data, const xmlChar* name, const xmlChar* prefix, const xmlChar* /*uri*/,
                            int namespaceCount, const xmlChar** namespaces, int attributeCount, int /*defaulted*/,
                            const xmlChar** attributes) {
-    XmlTreeBuilder& builder = self(data);
+    XmlTreeBuilder& builder = Self(data);
     if (builder.m_refused) return;
     try {
-      builder.addElement(builder.heldName(prefix, name), namespaceCount, namespaces, attributeCount, attributes);
+      builder.AddElement(builder.HoldName(prefix, name), namespaceCount, namespaces, attributeCount, attributes);
     } catch (const std::bad_alloc&) {
-      builder.refuse(L"out of memory");
+      builder.Refuse(XmlFault::BeyondLimits, L"out of memory");
     }
   }
 
-  static void endElement(void* data, const xmlChar* /*name*/, const xmlChar* /*prefix*/, const xmlChar* /*uri*/) {
-    XmlTreeBuilder& builder = self(data);
+  static void EndElement(void* data, const xmlChar* /*name*/, const xmlChar* /*prefix*/, const xmlChar* /*uri*/) {
+    XmlTreeBuilder& builder = Self(data);
     if (!builder.m_refused) builder.m_open.pop_back();
   }
 
   /// The library's type of an error is constant in some versions and not in others.
   template <class Error>
-  static void reportError(void* data, Error error) {
-    XmlTreeBuilder& builder = self(data);
+  static void ReportError(void* data, Error error) {
+    XmlTreeBuilder& builder = Self(data);
     if (error->level < XML_ERR_ERROR || !builder.m_error.message.empty()) return;
     XmlArena arena;
     const auto* const message = reinterpret_cast<const xmlChar*>(error->message ? error->message : "");
-    builder.m_error.message = copyWide(arena, message);
-    while (!builder.m_error.message.empty() && builder.m_error.message.back() == L'\n') {
-      builder.m_error.message.pop_back();
-    }
+    std::wstring text = CopyWide(arena, message);
+    while (!text.empty() && text.back() == L'\n') text.pop_back();
+    std::replace(text.begin(), text.end(), L'\n', L' ');
+    builder.m_error.fault = XmlFault::NotWellFormed;
+    builder.m_error.message = text;
     builder.m_error.line = error->line;
     builder.m_error.column = error->int2;
   }
 
-  bool refuse(const wchar_t* reason) {
-    m_refused = true;
-    if (m_error.message.empty()) m_error.message = reason;
+  bool Refuse(XmlFault fault, const wchar_t* reason) {
+    NoteFault(fault, reason);
     if (m_context) xmlStopParser(m_context);
     return false;
   }
 
+  void NoteFault(XmlFault fault, const wchar_t* reason) {
+    m_refused = true;
+    if (!m_error.message.empty()) return;
+    m_error.fault = fault;
+    m_error.message = reason;
+  }
+
   /// Names are few, and the library holds each of them in one place: that place finds the name.
-  FieldName heldName(const xmlChar* prefix, const xmlChar* name) {
+  FieldName HoldName(const xmlChar* prefix, const xmlChar* name) {
     const xmlChar* const key = prefix ? xmlDictQLookup(m_context->dict, prefix, name) : name;
     const HeldName*& recent = m_recent[reinterpret_cast<std::uintptr_t>(key) / alignof(void*) % RECENT_COUNT];
-    if (!recent || recent->first != key) recent = &findName(key);
+    if (!recent || recent->first != key) recent = &FindName(key);
     return recent->second;
   }
 
-  const HeldName& findName(const xmlChar* key) {
+  const HeldName& FindName(const xmlChar* key) {
     const auto held = m_names.find(key);
     if (held != m_names.end()) return *held;
     XmlArena arena;
-    return *m_names.emplace(key, FieldName(copyWide(arena, key))).first;
+    return *m_names.emplace(key, FieldName(CopyWide(arena, key))).first;
   }
 
-  void addElement(FieldName name, int namespaceCount, const xmlChar** namespaces, int attributeCount,
+  void AddElement(FieldName name, int namespaceCount, const xmlChar** namespaces, int attributeCount,
                   const xmlChar** attributes) {
     XmlArena& arena = m_document.m_arena;
     const int count = namespaceCount + attributeCount;
     if (count > MOST_ATTRIBUTES) {
-      refuse(L"too many attributes");
+      Refuse(XmlFault::BeyondLimits, L"too many attributes");
       return;
     }
     auto* const list = static_cast<FieldText*>(
         arena.Allocate(static_cast<std::size_t>(count) * sizeof(FieldText), alignof(FieldText)));
     FieldText* next = list;
-    for (int i = 0; i < namespaceCount; ++i, namespaces += 2) new (next++) FieldText(namespaceAttribute(namespaces));
+    for (int i = 0; i < namespaceCount; ++i, namespaces += 2) new (next++) FieldText(NamespaceAttribute(namespaces));
     // Five pointers each: name, prefix, namespace, begin and end of the value.
     for (int i = 0; i < attributeCount; ++i, attributes += 5) {
-      const FieldName attribute = heldName(attributes[1], attributes[0]);
-      new (next++) FieldText{attribute, copyWide(arena, attributes[3], attributes[4])};
+      const FieldName attribute = HoldName(attributes[1], attributes[0]);
+      new (next++) FieldText{attribute, CopyWide(arena, attributes[3], attributes[4])};
     }
     void* const memory = arena.Allocate(sizeof(XmlElement), alignof(XmlElement));
-    append(new (memory) XmlElement{name.GetText(), list, count, m_context->input->line, 0, nullptr, nullptr});
-    if (arena.GetSize() > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead) refuse(L"entities grow beyond all bounds");
+    const Place place = m_options.places ? StartOfTag() : Place{0, 0};
+    Append(new (memory) XmlElement{name.GetText(), list, count, place.line, place.column, 0, nullptr, nullptr});
+    if (arena.GetSize() > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead)
+      Refuse(XmlFault::BeyondLimits, L"entities grow beyond all bounds");
   }
 
-  FieldText namespaceAttribute(const xmlChar** declaration) {
+  /// Of the tag whose attributes were just read: neither its name nor they can hold the character that it begins with.
+  Place StartOfTag() const {
+    const xmlParserInput& input = *m_context->input;
+    // What ends in a semicolon is the reference to an entity whose content is being read.
+    if (input.cur == input.base || input.cur[-1] == ';') return {input.line, input.col};
+    const xmlChar* tag = input.cur - 1;
+    while (tag != input.base && *tag != '<') --tag;
+    const auto lineBreaks = static_cast<int>(std::count(tag, input.cur, '\n'));
+    if (lineBreaks == 0) return {input.line, input.col - CountCharacters(tag, input.cur)};
+    return {input.line - lineBreaks, ColumnOf(tag, input)};
+  }
+
+  static int CountCharacters(const xmlChar* begin, const xmlChar* end) {
+    return static_cast<int>(std::count_if(begin, end, [](xmlChar byte) { return (byte & 0xC0U) != 0x80; }));
+  }
+
+  /// 0 when the library has given up the beginning of the line.
+  static int ColumnOf(const xmlChar* place, const xmlParserInput& input) {
+    const xmlChar* begin = place;
+    while (begin != input.base && begin[-1] != '\n') --begin;
+    return begin == input.base && input.consumed != 0 ? 0 : 1 + CountCharacters(begin, place);
+  }
+
+  FieldText NamespaceAttribute(const xmlChar** declaration) {
     const xmlChar* const keyword = xmlDictLookup(m_context->dict, reinterpret_cast<const xmlChar*>("xmlns"), -1);
-    const FieldName name = declaration[0] ? heldName(keyword, declaration[0]) : heldName(nullptr, keyword);
-    return {name, declaration[1] ? copyWide(m_document.m_arena, declaration[1]) : L""};
+    const FieldName name = declaration[0] ? HoldName(keyword, declaration[0]) : HoldName(nullptr, keyword);
+    return {name, declaration[1] ? CopyWide(m_document.m_arena, declaration[1]) : L""};
   }
 
-  void append(XmlElement* element) {
+  void Append(XmlElement* element) {
     if (m_open.empty()) {
       m_document.m_root = element;
     } else if (m_open.back().lastChild) {
@@ -278,6 +316,7 @@ class XmlTreeBuilder {
 
   XmlDocument& m_document;
   std::FILE* m_file;
+  XmlOptions m_options;
   XmlError& m_error;
   xmlParserCtxtPtr m_context = nullptr;
   std::size_t m_bytesRead = 0;
@@ -287,7 +326,7 @@ class XmlTreeBuilder {
   const HeldName* m_recent[RECENT_COUNT] = {};
 };
 
-std::unique_ptr<XmlDocument> XmlDocument::Load(const wchar_t* path, XmlError& error) {
+std::unique_ptr<XmlDocument> XmlDocument::Load(const wchar_t* path, XmlError& error, const XmlOptions& options) {
   error = XmlError();
   const File file(path ? _wfopen(path, L"rb") : nullptr, &std::fclose);
   if (!file) {
@@ -296,7 +335,7 @@ std::unique_ptr<XmlDocument> XmlDocument::Load(const wchar_t* path, XmlError& er
   }
   std::setvbuf(file.get(), nullptr, _IOFBF, BLOCK_SIZE);
   std::unique_ptr<XmlDocument> document(new XmlDocument);
-  if (!XmlTreeBuilder(*document, file.get(), error).Parse()) return nullptr;
+  if (!XmlTreeBuilder(*document, file.get(), options, error).Parse()) return nullptr;
   // What the library complained of and read all the same is no reason any more.
   error = XmlError();
   return document;

@@ -14,7 +14,10 @@ struct XmlElement {
   const wchar_t* name;
   const FieldText* attributes;  // in document order
   int attributeCount;
-  int line;  // on which the start tag ends, counted from 1
+  // Where the start tag begins, in characters, counted from 1. An element out of an entity stands where that is used.
+  // The column is 0 where it is not known: behind a very long line. Both are when places were not asked for.
+  int line;
+  int column;
   int childCount;
   const XmlElement* firstChild;
   const XmlElement* nextSibling;
@@ -23,11 +26,19 @@ struct XmlElement {
   const wchar_t* FindAttribute(const wchar_t* attribute) const;
 };
 
+enum class XmlFault { NotReadable, NotWellFormed, BeyondLimits };
+
 /// Why a document could not be read. Line and column are 0 when the fault has no place in the file.
 struct XmlError {
-  std::wstring message;
+  XmlFault fault = XmlFault::NotReadable;
+  std::wstring message;  // one line; empty when there is no error
   int line = 0;
   int column = 0;
+};
+
+struct XmlOptions {
+  std::size_t largestFile = std::size_t{256} << 20;  // bytes
+  bool places = true;                                // loading takes a fifth longer with them
 };
 
 /// Memory for things that live as long as the document and need no destructor.
@@ -37,7 +48,7 @@ class XmlArena {
   void* Allocate(std::size_t size, std::size_t alignment) {
     std::size_t begin = (m_blockUsed + alignment - 1) & ~(alignment - 1);
     if (m_blocks.empty() || begin > m_blockSize || size > m_blockSize - begin) {
-      addBlock(size);
+      AddBlock(size);
       begin = 0;
     }
     m_blockUsed = begin + size;
@@ -48,7 +59,7 @@ class XmlArena {
   std::size_t GetSize() const { return m_total; }
 
  private:
-  void addBlock(std::size_t size);
+  void AddBlock(std::size_t size);
 
   std::vector<std::unique_ptr<char[]>> m_blocks;
   std::size_t m_blockSize = 0;
@@ -62,12 +73,13 @@ class XmlArena {
 ///     const auto document = XmlDocument::Load(L"C:\\repository\\zorvel.xml", error);
 ///     if (document) walk(document->GetRoot());
 ///
-/// Strict, never touches the network or another file, and bounded: files beyond 256 MiB, absurdly deep nesting and
-/// entities that blow up are refused.
+/// Strict, never touches the network or another file, and bounded: large files, absurdly deep nesting and entities that
+/// blow up are refused.
 class XmlDocument {
  public:
   /// Null, with the reason in `error`, for everything that cannot be opened, read or is not well formed.
-  static std::unique_ptr<XmlDocument> Load(const wchar_t* path, XmlError& error);
+  static std::unique_ptr<XmlDocument> Load(const wchar_t* path, XmlError& error,
+                                           const XmlOptions& options = XmlOptions());
 
   /// Belongs to the document.
   const XmlElement& GetRoot() const;

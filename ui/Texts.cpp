@@ -1,6 +1,7 @@
 #include "ui/Texts.h"
 
 #include <QTextDocument>
+#include <algorithm>
 
 #include "model/Fields.h"
 
@@ -13,6 +14,12 @@ const int LONGEST_TOOL_TIP = 2000;
 
 QString Cut(const QString& text, int longest) {
   return text.size() <= longest ? text : text.left(longest) + QChar(0x2026);
+}
+
+bool IsLineBreak(QChar c) {
+  const ushort unit = c.unicode();
+  return (unit >= '\n' && unit <= '\r') || unit == 0x85 || unit == QChar::LineSeparator ||
+         unit == QChar::ParagraphSeparator;
 }
 
 }  // namespace
@@ -28,7 +35,11 @@ std::wstring Texts::Name(const DataContainer* record) {
   return Cut(FromWide(Fields::OptionalText(record, L"name")), LONGEST_LINE).toStdWString();
 }
 
-QString Texts::OneLine(const QString& text) { return Cut(text.left(4 * LONGEST_LINE).simplified(), LONGEST_LINE); }
+QString Texts::OneLine(const QString& text) {
+  QString line = Cut(text, LONGEST_LINE);
+  std::replace_if(line.begin(), line.end(), IsLineBreak, QChar(' '));
+  return line;
+}
 
 QString Texts::Caption(const QString& text) { return OneLine(text).replace('&', "&&"); }
 

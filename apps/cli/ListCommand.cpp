@@ -1,11 +1,13 @@
 #include "apps/cli/ListCommand.h"
 
+#include <algorithm>
 #include <iostream>
 #include <nlohmann/json.hpp>
 
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/LoadedRepository.h"
 #include "apps/cli/ModelText.h"
+#include "apps/support/ParseNoteText.h"
 #include "host/files/Paths.h"
 #include "model/Data2.h"
 #include "model/RepositoryFormat.h"
@@ -166,6 +168,12 @@ void print(const Json& repository) {
   printElements("assets", repository["globalAssets"]);
 }
 
+/// False when something that the description has is gone.
+bool reportNotes(const std::vector<ZORVEL::ParseNote>& notes, const std::filesystem::path& repository) {
+  for (const ZORVEL::ParseNote& note : notes) std::cerr << apps::lineOf(note, repository) << '\n';
+  return std::none_of(notes.begin(), notes.end(), apps::isLoss);
+}
+
 }  // namespace
 
 int runList(const std::filesystem::path& repository, bool asJson) {
@@ -180,7 +188,7 @@ int runList(const std::filesystem::path& repository, bool asJson) {
   } else {
     print(json);
   }
-  return EXIT_CLEAN;
+  return reportNotes(loaded.notes(), repository) ? EXIT_CLEAN : EXIT_FINDINGS;
 }
 
 }  // namespace cli

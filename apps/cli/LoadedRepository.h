@@ -1,28 +1,29 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
+#include "apps/support/LoadedRepository.h"
+#include "core/LogStore.h"
 
 namespace cli {
 
-/// A repository in the plug-in's store, parsed and checked on disk, for as long as this lives. There is one store, so
-/// there may be one of these at a time. The user's own settings file is left alone.
+/// A loaded repository with a log of what is done with it.
 class LoadedRepository {
  public:
   /// Look at error() before anything else.
-  explicit LoadedRepository(const std::filesystem::path& root);
-  ~LoadedRepository();
-  LoadedRepository(const LoadedRepository&) = delete;
-  LoadedRepository& operator=(const LoadedRepository&) = delete;
+  explicit LoadedRepository(const std::filesystem::path& root) : repository_(root) {}
 
-  /// One line; empty when the repository could be read.
-  const std::string& error() const { return error_; }
+  const std::string& error() const { return repository_.error(); }
+  const std::vector<ZORVEL::ParseNote>& notes() const { return repository_.notes(); }
 
  private:
-  std::string load(const std::filesystem::path& root) const;
+  struct Log {
+    Log() { ZORVEL::LogStore::Create(); }
+    ~Log() { ZORVEL::LogStore::Free(); }
+    Log(const Log&) = delete;
+    Log& operator=(const Log&) = delete;
+  };
 
-  std::filesystem::path settingsFolder_;
-  std::string error_;
+  Log log_;
+  apps::LoadedRepository repository_;
 };
 
 }  // namespace cli

@@ -3,6 +3,9 @@
 #include <filesystem>
 #include <string>
 
+#include "host/files/LocalAppData.h"
+#include "host/files/TemporaryFolder.h"
+
 namespace stage {
 
 /// Settings of its own for the plug-in, naming one repository, for as long as this lives: the plug-in looks for them in
@@ -11,18 +14,16 @@ class RepositorySettings {
  public:
   /// Look at error() before anything else. Make it before the plug-in is loaded.
   explicit RepositorySettings(const std::filesystem::path& repository);
-  ~RepositorySettings();
-  RepositorySettings(const RepositorySettings&) = delete;
-  RepositorySettings& operator=(const RepositorySettings&) = delete;
 
   /// One line; empty when the plug-in will find the repository.
   const std::string& error() const { return error_; }
-  const std::filesystem::path& folder() const { return folder_; }
+  const std::filesystem::path& folder() const { return folder_.path(); }
 
  private:
   std::string write(const std::filesystem::path& repository) const;
 
-  std::filesystem::path folder_;
+  host::TemporaryFolder folder_;
+  host::LocalAppData appData_;
   std::string error_;
 };
 

@@ -50,7 +50,7 @@ class CommandLine : public testing::Test {
 
 TEST_F(CommandLine, AnswersTheExitStatusThatTheHelpPromises) {
   const support::TemporaryFolder broken;
-  broken.write("malformed/zorvel.xml", "<zorvel><character>");
+  broken.write("malformed/zorvel.xml", "<zorvel>\n <a\xFF/></zorvel>");
   broken.write("other/zorvel.xml", "<catalogue/>");
   broken.write("empty/zorvel.xml", "");
   const std::string base = broken.path().string();
@@ -58,24 +58,29 @@ TEST_F(CommandLine, AnswersTheExitStatusThatTheHelpPromises) {
     std::vector<std::string> arguments;
     int status;
     const char* says;
-  } cases[] = {{{"--help"}, cli::EXIT_CLEAN, "Exit status"},
-               {{"create", "--help"}, cli::EXIT_CLEAN, "Exit status"},
-               {{"list", "--help"}, cli::EXIT_CLEAN, "Exit status"},
-               {{"sample", "--help"}, cli::EXIT_CLEAN, "Exit status"},
-               {{}, cli::EXIT_USAGE, "subcommand"},
-               {{"crate", root()}, cli::EXIT_USAGE, "subcommand"},
-               {{"create"}, cli::EXIT_USAGE, "DIR"},
-               {{"create", root(), "--unit", "elephants"}, cli::EXIT_USAGE, "elephants"},
-               {{"list", base + "/none"}, cli::EXIT_UNREADABLE, "not a folder"},
-               {{"list", base}, cli::EXIT_UNREADABLE, "no zorvel.xml"},
-               {{"list", base + "/malformed"}, cli::EXIT_UNREADABLE, "well-formed"},
-               {{"list", base + "/empty"}, cli::EXIT_UNREADABLE, "well-formed"},
-               {{"create", base + "/other"}, cli::EXIT_UNREADABLE, "document element"},
-               {{"list", root()}, cli::EXIT_CLEAN, "Anna"}};
+  } cases[] = {
+      {{"--help"}, cli::EXIT_CLEAN, "Exit status"},
+      {{"create", "--help"}, cli::EXIT_CLEAN, "Exit status"},
+      {{"list", "--help"}, cli::EXIT_CLEAN, "Exit status"},
+      {{"sample", "--help"}, cli::EXIT_CLEAN, "Exit status"},
+      {{}, cli::EXIT_USAGE, "subcommand"},
+      {{"crate", root()}, cli::EXIT_USAGE, "subcommand"},
+      {{"create"}, cli::EXIT_USAGE, "DIR"},
+      {{"create", root(), "--unit", "elephants"}, cli::EXIT_USAGE, "elephants"},
+      {{"list", base + "/none"}, cli::EXIT_UNREADABLE, "not a folder"},
+      {{"list", base}, cli::EXIT_UNREADABLE, "no zorvel.xml"},
+      {{"list", base + "/malformed"}, cli::EXIT_UNREADABLE, "malformed/zorvel.xml:2:4: not well-formed XML: "},
+      {{"create", base + "/malformed"}, cli::EXIT_UNREADABLE, "malformed/zorvel.xml:2:4: not well-formed XML: "},
+      {{"list", base + "/empty"}, cli::EXIT_UNREADABLE, "well-formed"},
+      {{"create", base + "/other"}, cli::EXIT_UNREADABLE, "zorvel.xml:1:1: the document element is \"catalogue\""},
+      {{"list", root()}, cli::EXIT_CLEAN, "Anna"}};
   for (const auto& one : cases) {
     const Outcome outcome = run(one.arguments);
     EXPECT_EQ(outcome.status, one.status) << testing::PrintToString(one.arguments);
     EXPECT_THAT(outcome.out + outcome.err, HasSubstr(one.says)) << testing::PrintToString(one.arguments);
+    if (one.status == cli::EXIT_UNREADABLE) {
+      EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << "one line";
+    }
   }
 }
 
@@ -91,6 +96,27 @@ TEST_F(CommandLine, ListsWhatTheModelHoldsAndWhatIsUsable) {
   EXPECT_EQ(anna["assets"][2]["usable"], false);
   EXPECT_EQ(anna["assets"][3]["usable"], true);
   EXPECT_EQ(anna["assets"][4]["globalID"], "g1");
+}
+
+TEST_F(CommandLine, ListNamesWhatWasLeftOutOrSkippedWithItsPlace) {
+  const std::string file = root() + "/zorvel.xml";
+  const auto list = [&](const std::string& inside) {
+    repository_.folder().write("zorvel.xml", "<zorvel>\n " + inside + "</zorvel>");
+    const Outcome outcome = run({"list", root(), "--json"});
+    EXPECT_TRUE(Json::accept(outcome.out)) << "nothing but JSON on standard output";
+    return std::make_pair(outcome.status, outcome.err);
+  };
+  EXPECT_EQ(list("<globalAssets/>"), std::make_pair(int{cli::EXIT_CLEAN}, std::string()));
+  EXPECT_EQ(
+      list("<Character/>"),
+      std::make_pair(int{cli::EXIT_CLEAN},
+                     file + ":2:2: \"Character\" in \"zorvel\" is skipped: nothing of that name is read there.\n"));
+  EXPECT_EQ(list("<character id='x' folder='nobody'/>"),
+            std::make_pair(int{cli::EXIT_FINDINGS}, file + ":2:2: character \"x\" left out: there is no folder " +
+                                                        root() + "/nobody/previews.\n"));
+  EXPECT_EQ(list("<character folder='anna'><cloth><clothing id='k9'/></cloth></character>"),
+            std::make_pair(int{cli::EXIT_FINDINGS}, file + ":2:34: clothing \"k9\" left out: there is no picture " +
+                                                        root() + "/anna/previews/preview_k9.png.\n"));
 }
 
 TEST_F(CommandLine, BuildsTheFirstUsableChoiceCleanlyAndWritesItsFiles) {

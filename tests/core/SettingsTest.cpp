@@ -3,15 +3,15 @@
 #include <shlobj.h>
 
 #include "tests/support/LocalAppData.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 
 namespace ZORVEL {
 
-class SettingsTest : public support::LogStoreTest {
+class SettingsTest : public support::LogStoreFixture {
  protected:
   void TearDown() override {
     if (Settings::CheckSingleton()) Settings::FreeSettings();
-    LogStoreTest::TearDown();
+    LogStoreFixture::TearDown();
   }
 
   std::wstring pathFromFile(const std::string& content) {

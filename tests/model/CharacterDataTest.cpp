@@ -2,12 +2,12 @@
 
 #include <cmath>
 
-#include "tests/model/ModelTest.h"
+#include "tests/model/ModelFixture.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace ZORVEL {
 
-class CharacterDataTest : public ModelTest {
+class CharacterDataTest : public ModelFixture {
  protected:
   std::vector<DataContainer*> offered(const DataContainer* category) const {
     std::vector<DataContainer*> assets;

@@ -1,10 +1,10 @@
 #include "model/Data2.h"
 
-#include "tests/model/ModelTest.h"
+#include "tests/model/ModelFixture.h"
 
 namespace ZORVEL {
 
-class Data2Test : public ModelTest {};
+class Data2Test : public ModelFixture {};
 
 TEST_F(Data2Test, IdsGoUpInTensAndStartAnewAfterClearEvenForRecordsThatSurviveIt) {
   DataContainer survivor;

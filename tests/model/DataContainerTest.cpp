@@ -1,11 +1,11 @@
 #include "model/DataContainer.h"
 
 #include "model/Utf16Order.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 
 namespace ZORVEL {
 
-class DataContainerTest : public support::LogStoreTest {
+class DataContainerTest : public support::LogStoreFixture {
  protected:
   std::wstring text(const DataContainer& record, const wchar_t* field) {
     bool found = false;

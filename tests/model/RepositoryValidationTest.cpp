@@ -1,10 +1,10 @@
 #include "model/RepositoryValidation.h"
 
-#include "tests/repository/RepositoryTest.h"
+#include "tests/repository/RepositoryFixture.h"
 
 namespace ZORVEL {
 
-class RepositoryValidationTest : public RepositoryTest {
+class RepositoryValidationTest : public RepositoryFixture {
  protected:
   CharacterData& characterIn(const wchar_t* folder) {
     const std::wstring path = m_root.wide() + L"\\" + folder;

@@ -1,10 +1,10 @@
 #include "model/Selection2.h"
 
-#include "tests/model/ModelTest.h"
+#include "tests/model/ModelFixture.h"
 
 namespace ZORVEL {
 
-class Selection2Test : public ModelTest {
+class Selection2Test : public ModelFixture {
  protected:
   static std::vector<int> chosen() {
     std::vector<int> assets;

@@ -8,7 +8,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
-#include "tests/support/LoadedRepositoryTest.h"
+#include "tests/support/LoadedRepositoryFixture.h"
 
 namespace {
 
@@ -20,15 +20,15 @@ using ZORVEL::Settings;
 namespace Commands = ZORVEL::Commands;
 
 /// Starts like a plug-in that was just loaded: no repository in the store, the settings as the test makes them.
-class CommandFacade : public support::LoadedRepositoryTest {
+class CommandFacade : public support::LoadedRepositoryFixture {
  protected:
   void SetUp() override {
-    LoadedRepositoryTest::SetUp();
+    LoadedRepositoryFixture::SetUp();
     answer(std::nullopt);
   }
   void TearDown() override {
     Application::instance().fileDialog().setProvider({});
-    LoadedRepositoryTest::TearDown();
+    LoadedRepositoryFixture::TearDown();
   }
   void answer(std::optional<std::filesystem::path> file) {
     Application::instance().fileDialog().setProvider([this, file](const FileDialog::Question& question) {

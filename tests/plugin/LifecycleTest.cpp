@@ -8,7 +8,7 @@
 #include "model/Data2.h"
 #include "plugin/zorvel.h"
 #include "tests/support/LocalAppData.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 
 extern "C" {
 int LibNumberClasses();
@@ -19,7 +19,7 @@ ULONG LibVersion();
 
 namespace {
 
-class Lifecycle : public support::LogStoreTest {
+class Lifecycle : public support::LogStoreFixture {
  protected:
   static std::size_t registrations() { return host::Application::instance().notifications().count(); }
 

@@ -2,11 +2,11 @@
 
 #include "repository/Parser2.h"
 #include "repository/XMLParser2.h"
-#include "tests/repository/RepositoryTest.h"
+#include "tests/repository/RepositoryFixture.h"
 
 namespace ZORVEL {
 
-class NetXMLParser2Test : public RepositoryTest {
+class NetXMLParser2Test : public RepositoryFixture {
  protected:
   bool parse(const std::string& xml) {
     writeDescription(xml);
@@ -33,9 +33,13 @@ TEST_F(NetXMLParser2Test, RefusesARepositoryWithoutAReadableDescription) {
   EXPECT_FALSE(parse("<zorvel><globalAssets><asset id='g' id='h'/></globalAssets></zorvel>"));
   EXPECT_EQ(countLogged(L"ParseRepositoryXML: invalid character.xml"), 3);
   EXPECT_FALSE(parse("<Zorvel><globalAssets><asset/></globalAssets></Zorvel>"));
-  EXPECT_EQ(countLogged(L"ParseRepositoryXML: invalid XML structure (zorvel)"), 1);
+  EXPECT_FALSE(parse("<zorvel xmlns='urn:x'><globalAssets><asset/></globalAssets></zorvel>"));
+  EXPECT_FALSE(parse("<z:zorvel xmlns:z='urn:x'><globalAssets><asset/></globalAssets></z:zorvel>"));
+  EXPECT_FALSE(parse("<!DOCTYPE zorvel [<!ATTLIST zorvel xmlns CDATA 'urn:x'>]><zorvel/>"));
+  EXPECT_EQ(countLogged(L"ParseRepositoryXML: invalid XML structure (zorvel)"), 4);
   EXPECT_TRUE(storeIsEmpty());
   EXPECT_TRUE(parse("<zorvel/>"));
+  EXPECT_TRUE(parse("<zorvel xmlns='' xmlns:z='urn:x'/>"));
   EXPECT_TRUE(storeIsEmpty());
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "host/files/Paths.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -52,6 +54,31 @@ TEST_F(XmlDocumentTest, KeepsElementsAttributesAndLinesAndLeavesTheRestOut) {
   EXPECT_EQ(root.firstChild->nextSibling->nextSibling, nullptr);
 }
 
+TEST_F(XmlDocumentTest, TellsWhereEveryStartTagBegins) {
+  const std::string content =
+      "\xEF\xBB\xBF<!DOCTYPE r [<!ENTITY e '<x/>'>]><r>\n"
+      "\t<a t='\xC3\xA4 > /'/><b/><c\n  t='1'\n/>&e;>\r\n"
+      " \xC3\xA4 <d t='&amp;'\n></d></r>";
+  const auto document = load(content);
+  ASSERT_NE(document, nullptr);
+  const std::pair<int, int> places[] = {{2, 2}, {2, 16}, {2, 20}, {4, 6}, {5, 4}};
+  const XmlElement* element = document->GetRoot().firstChild;
+  for (const auto& place : places) {
+    ASSERT_NE(element, nullptr);
+    EXPECT_EQ(std::make_pair(element->line, element->column), place) << host::toUtf8(element->name);
+    element = element->nextSibling;
+  }
+  EXPECT_EQ(document->GetRoot().line, 1);
+
+  std::string oneLine = "<r>";
+  for (int i = 0; i < 5000; ++i) oneLine += "<e \xC3\xA4=''/>";
+  const auto wide = load(oneLine + "</r>");
+  int column = 4;
+  for (element = wide->GetRoot().firstChild; element; element = element->nextSibling, column += 9) {
+    ASSERT_EQ(element->column, column);
+  }
+}
+
 TEST_F(XmlDocumentTest, AttributesArriveAsTheyAreMeant) {
   EXPECT_EQ(rootAttribute("<r a='&amp;&lt;&#38;&quot;&#x1F600; x'/>"), L"&<&\"\U0001F600 x");
   EXPECT_EQ(rootAttribute("<r a='x\n\ty'/>"), L"x  y");
@@ -76,6 +103,9 @@ TEST_F(XmlDocumentTest, ReadsEveryDeclaredEncoding) {
 TEST_F(XmlDocumentTest, RefusesWhatIsNotWellFormedAndTellsWhere) {
   EXPECT_EQ(load("<r>\n  <e>\n</r>"), nullptr);
   EXPECT_EQ(m_error.line, 3);
+  EXPECT_EQ(m_error.fault, XmlFault::NotWellFormed);
+  EXPECT_EQ(load("<r a='\xFF'/>"), nullptr);
+  EXPECT_EQ(m_error.message.find(L'\n'), std::wstring::npos) << "one line";
   const std::string broken[] = {"",
                                 " ",
                                 "text",
@@ -106,6 +136,25 @@ TEST_F(XmlDocumentTest, RefusesWhatCannotBeOpened) {
   EXPECT_EQ(XmlDocument::Load(m_folder.wide().c_str(), m_error), nullptr);
   EXPECT_EQ(XmlDocument::Load((m_folder.wide() + L"\\none").c_str(), m_error), nullptr);
   EXPECT_EQ(m_error.message, L"not readable");
+}
+
+TEST_F(XmlDocumentTest, RefusesWhatStopsBeingReadable) {
+  // A file of the system that can be opened and not be read.
+  std::filesystem::create_symlink("/proc/self/mem", m_folder.path() / "mem");
+  EXPECT_EQ(XmlDocument::Load((m_folder.wide() + L"\\mem").c_str(), m_error), nullptr);
+  EXPECT_EQ(m_error.message, L"not readable");
+  EXPECT_EQ(m_error.fault, XmlFault::NotReadable);
+
+  const std::size_t limit = 20000;
+  const auto withText = [](std::size_t size) { return "<r><e>" + std::string(size - 15, 'x') + "</e></r>\n"; };
+  for (const std::size_t size : {limit, limit + 1, 10 * limit}) {
+    const std::wstring path = host::toWide(m_folder.write("d.xml", withText(size)).string());
+    XmlOptions options;
+    options.largestFile = limit;
+    EXPECT_EQ(XmlDocument::Load(path.c_str(), m_error, options) != nullptr, size == limit);
+    EXPECT_EQ(m_error.message, size == limit ? L"" : L"too large");
+  }
+  EXPECT_EQ(m_error.fault, XmlFault::BeyondLimits);
 }
 
 TEST_F(XmlDocumentTest, RefusesDepthAndGrowthBeyondBounds) {

@@ -1,9 +1,11 @@
 #include <max.h>
 
 #include <algorithm>
+#include <optional>
 #include <set>
 
-#include "core/Settings.h"
+#include "apps/support/LoadedRepository.h"
+#include "apps/support/ParseNoteText.h"
 #include "host/application/Application.h"
 #include "host/files/Paths.h"
 #include "host/scene/ProxyObject.h"
@@ -11,13 +13,10 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
-#include "repository/Parser2.h"
 #include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
-#include "scene/SceneNotifications.h"
 #include "tests/samples/RoughRepository.h"
-#include "tests/support/LocalAppData.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 
 namespace {
 
@@ -35,24 +34,19 @@ std::wstring idOf(const DataContainer* element) {
 std::wstring nameOf(const std::wstring& file) { return file.substr(file.rfind(L'\\') + 1); }
 
 /// Wears everything that the sample repository offers, with the plug-in's own builder.
-class EveryCombination : public support::LogStoreTest {
+class EveryCombination : public support::LogStoreFixture {
  protected:
   void SetUp() override {
-    LogStoreTest::SetUp();
+    LogStoreFixture::SetUp();
     host::Application::instance().reset();
-    ZORVEL::SceneNotifications::Register();
-    ZORVEL::Settings::LoadSettings();
-    ZORVEL::Settings::StorePath(host::toWide(support::roughRepository().string()).c_str());
-    ASSERT_TRUE(ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath()));
-    Data2::SetValidated(true);
+    m_loaded.emplace(support::roughRepository());
+    ASSERT_EQ(m_loaded->error(), "");
+    EXPECT_TRUE(m_loaded->notes().empty()) << apps::lineOf(m_loaded->notes().front(), "");
   }
   void TearDown() override {
     host::Application::instance().reset();
-    ZORVEL::SceneNotifications::Unregister();
-    Selection2::Reset();
-    Data2::Clear();
-    ZORVEL::Settings::FreeSettings();
-    LogStoreTest::TearDown();
+    m_loaded.reset();
+    LogStoreFixture::TearDown();
   }
 
   void wearEverything(const CharacterData& character, const DataContainer& cloth, const DataContainer& pose) {
@@ -109,7 +103,7 @@ class EveryCombination : public support::LogStoreTest {
   int m_pieces = 0;
 
  private:
-  support::LocalAppData m_appData;
+  std::optional<apps::LoadedRepository> m_loaded;
 };
 
 TEST_F(EveryCombination, OfClothingPoseStyleSkinAndAssetsHasItsMeshesAndMaterialsButThoseLeftOutOnPurpose) {

@@ -12,7 +12,7 @@
 #include "model/Data2.h"
 #include "model/Selection2.h"
 #include "scene/BuildFindings.h"
-#include "tests/support/LoadedRepositoryTest.h"
+#include "tests/support/LoadedRepositoryFixture.h"
 
 namespace {
 
@@ -32,10 +32,10 @@ using ZORVEL::Selection2;
 using Lines = std::vector<std::string>;
 
 /// Every test starts with a repository that builds without a finding.
-class BuildReports : public support::LoadedRepositoryTest {
+class BuildReports : public support::LoadedRepositoryFixture {
  protected:
   void SetUp() override {
-    LoadedRepositoryTest::SetUp();
+    LoadedRepositoryFixture::SetUp();
     repository().mend();
     reload();
   }

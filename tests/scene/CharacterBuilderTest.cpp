@@ -11,7 +11,7 @@
 #include "host/services/UndoStack.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
-#include "tests/support/LoadedRepositoryTest.h"
+#include "tests/support/LoadedRepositoryFixture.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ using host::Node;
 using host::ProxyObject;
 using ZORVEL::Selection2;
 
-class CharacterBuild : public support::LoadedRepositoryTest {
+class CharacterBuild : public support::LoadedRepositoryFixture {
  protected:
   static host::Scene& scene() { return Application::instance().scene(); }
   static host::UndoStack& undo() { return Application::instance().undo(); }

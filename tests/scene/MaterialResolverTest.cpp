@@ -11,7 +11,7 @@
 #include "host/scene/CircleShape.h"
 #include "host/scene/Scene.h"
 #include "scene/TextureRedirection.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 #include "tests/support/SmallRepository.h"
 
 namespace {
@@ -22,17 +22,17 @@ using ZORVEL::MaterialResolver;
 using ZORVEL::MaterialResult;
 using ZORVEL::MaterialState;
 
-class MaterialResolution : public support::LogStoreTest {
+class MaterialResolution : public support::LogStoreFixture {
  protected:
   void SetUp() override {
-    LogStoreTest::SetUp();
+    LogStoreFixture::SetUp();
     Application::instance().reset();
     root_ = repository_.root();
     maps_ = root_ + L"maps\\";
   }
   void TearDown() override {
     Application::instance().reset();
-    LogStoreTest::TearDown();
+    LogStoreFixture::TearDown();
   }
 
   static INode* addNode() { return Application::instance().scene().create(new host::CircleShape); }

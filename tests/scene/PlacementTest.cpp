@@ -17,7 +17,7 @@
 #include "host/view/Viewports.h"
 #include "scene/PlacementPickMode.h"
 #include "scene/PlacementState.h"
-#include "tests/support/LoadedRepositoryTest.h"
+#include "tests/support/LoadedRepositoryFixture.h"
 
 namespace {
 
@@ -38,10 +38,10 @@ std::shared_ptr<const host::Mesh> tableTop(float halfWidth) {
   return std::make_shared<const host::Mesh>(mesh);
 }
 
-class PlacementByMouse : public support::LoadedRepositoryTest {
+class PlacementByMouse : public support::LoadedRepositoryFixture {
  protected:
   void SetUp() override {
-    LoadedRepositoryTest::SetUp();
+    LoadedRepositoryFixture::SetUp();
     view_ = &Application::instance().viewports().open(WIDTH, HEIGHT);
     view_->lookAt(Point3(0, 0, 50), 1500.0F, 0.3F, 0.7F);
     feed_ = std::make_unique<host::MouseFeed>(Application::instance().modes(), view_->GetHWnd());
@@ -51,7 +51,7 @@ class PlacementByMouse : public support::LoadedRepositoryTest {
     Application::instance().modes().returnToStandard();
     ZORVEL::PlacementState::Get() = ZORVEL::PlacementState();
     Application::instance().viewports().close(view_->GetHWnd());
-    LoadedRepositoryTest::TearDown();
+    LoadedRepositoryFixture::TearDown();
   }
 
   static host::Scene& scene() { return Application::instance().scene(); }

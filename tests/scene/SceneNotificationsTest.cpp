@@ -7,16 +7,16 @@
 #include "host/scene/CircleShape.h"
 #include "host/scene/Scene.h"
 #include "scene/ProxyObjectDatabase.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 
 namespace {
 
 using ZORVEL::ProxyObjectDatabase;
 
-class SceneNotifications : public support::LogStoreTest {
+class SceneNotifications : public support::LogStoreFixture {
  protected:
   void SetUp() override {
-    LogStoreTest::SetUp();
+    LogStoreFixture::SetUp();
     host::Application::instance().reset();
     ZORVEL::SceneNotifications::Register();
   }
@@ -24,7 +24,7 @@ class SceneNotifications : public support::LogStoreTest {
     ZORVEL::SceneNotifications::Unregister();
     host::Application::instance().reset();
     ProxyObjectDatabase::Clear();
-    LogStoreTest::TearDown();
+    LogStoreFixture::TearDown();
   }
   static void opened(FileIOType type) { BroadcastNotification(NOTIFY_FILE_POST_OPEN, &type); }
 };

@@ -8,14 +8,14 @@
 #include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
-#include "tests/stage/StageTest.h"
+#include "tests/stage/StageFixture.h"
 
 namespace {
 
 /// On the ground, in nobody's way.
 const Point3 onGround(-60, 40, 0);
 
-class PlacingByHand : public support::StageTest {
+class PlacingByHand : public support::StageFixture {
  protected:
   /// The node that is being placed: the plug-in's own parent of the character.
   static INode* placed() {

@@ -5,16 +5,16 @@
 #include "core/Settings.h"
 #include "repository/Parser2.h"
 #include "tests/support/LocalAppData.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 #include "tests/support/SmallRepository.h"
 
 namespace {
 
-class RepositorySettings : public support::LogStoreTest {
+class RepositorySettings : public support::LogStoreFixture {
  protected:
   void TearDown() override {
     ZORVEL::Settings::FreeSettings();
-    LogStoreTest::TearDown();
+    LogStoreFixture::TearDown();
   }
   /// The plug-in's own way from settings to repository.
   static bool pluginReads() {

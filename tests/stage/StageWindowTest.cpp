@@ -14,7 +14,7 @@
 #include "host/scene/Scene.h"
 #include "host/services/UndoStack.h"
 #include "host/services/Units.h"
-#include "tests/stage/StageTest.h"
+#include "tests/stage/StageFixture.h"
 
 namespace {
 
@@ -22,7 +22,7 @@ using host::Application;
 using support::PreparedAnswers;
 using testing::HasSubstr;
 
-class StageWindow : public support::StageTest {
+class StageWindow : public support::StageFixture {
  protected:
   PreparedAnswers::Answers& answers() {
     window().files().setQuestions(std::make_unique<PreparedAnswers>(answers_));

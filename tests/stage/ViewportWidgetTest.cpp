@@ -7,11 +7,11 @@
 #include "host/application/Application.h"
 #include "host/scene/Scene.h"
 #include "host/view/SceneView.h"
-#include "tests/stage/StageTest.h"
+#include "tests/stage/StageFixture.h"
 
 namespace {
 
-class ViewportWidget : public support::StageTest {
+class ViewportWidget : public support::StageFixture {
  protected:
   void drag(const QPoint& by, Qt::MouseButton button, Qt::KeyboardModifiers keys = {}) {
     const QPoint from(200, 200);

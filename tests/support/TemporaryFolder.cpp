@@ -1,7 +1,5 @@
 #include "tests/support/TemporaryFolder.h"
 
-#include <stdlib.h>
-
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -10,21 +8,14 @@
 
 namespace support {
 
-TemporaryFolder::TemporaryFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "zorvel t\xC3\xABst XXXXXX").string();
-  if (!::mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-  path_ = name;
+TemporaryFolder::TemporaryFolder() : folder_("zorvel t\xC3\xABst ") {
+  if (path().empty()) throw std::runtime_error("no temporary folder");
 }
 
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
-std::wstring TemporaryFolder::wide() const { return host::toWide(path_.string()); }
+std::wstring TemporaryFolder::wide() const { return host::toWide(path().string()); }
 
 std::filesystem::path TemporaryFolder::write(const std::filesystem::path& relative, std::string_view text) const {
-  const std::filesystem::path file = path_ / relative;
+  const std::filesystem::path file = path() / relative;
   std::filesystem::create_directories(file.parent_path());
   std::ofstream stream(file, std::ios::binary);
   stream.write(text.data(), static_cast<std::streamsize>(text.size()));
@@ -33,12 +24,12 @@ std::filesystem::path TemporaryFolder::write(const std::filesystem::path& relati
 }
 
 std::filesystem::path TemporaryFolder::makeFolder(const std::filesystem::path& relative) const {
-  std::filesystem::create_directories(path_ / relative);
-  return path_ / relative;
+  std::filesystem::create_directories(path() / relative);
+  return path() / relative;
 }
 
 std::string TemporaryFolder::read(const std::filesystem::path& relative) const {
-  std::ifstream stream(path_ / relative, std::ios::binary);
+  std::ifstream stream(path() / relative, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 

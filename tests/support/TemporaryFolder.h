@@ -4,18 +4,17 @@
 #include <string>
 #include <string_view>
 
+#include "host/files/TemporaryFolder.h"
+
 namespace support {
 
-/// A folder of its own for one test, removed with everything in it at the end. Its name has a blank and a letter beyond
+/// A temporary folder with what tests do in it. Its name has a blank and a letter beyond
 /// ASCII.
 class TemporaryFolder {
  public:
   TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-  const std::filesystem::path& path() const { return path_; }
+  const std::filesystem::path& path() const { return folder_.path(); }
   /// The path as the plug-in takes it, without a trailing separator.
   std::wstring wide() const;
 
@@ -25,7 +24,7 @@ class TemporaryFolder {
   std::string read(const std::filesystem::path& relative) const;
 
  private:
-  std::filesystem::path path_;
+  host::TemporaryFolder folder_;
 };
 
 }  // namespace support

@@ -3,11 +3,11 @@
 #include <QtTest/QtTest>
 
 #include "model/Data2.h"
-#include "tests/ui/WindowTest.h"
+#include "tests/ui/WindowFixture.h"
 
 namespace {
 
-class CharacterTreeWidget : public support::WindowTest {
+class CharacterTreeWidget : public support::WindowFixture {
  protected:
   static QString current() { return tree().currentItem() != nullptr ? tree().currentItem()->text(0) : QString(); }
 };

@@ -4,11 +4,11 @@
 #include <QWheelEvent>
 #include <QtTest/QtTest>
 
-#include "tests/ui/WindowTest.h"
+#include "tests/ui/WindowFixture.h"
 
 namespace {
 
-class ClothingStrip : public support::WindowTest {
+class ClothingStrip : public support::WindowFixture {
  protected:
   static const ZORVEL::PictureBox& picture(const QString& name) {
     const int index = stripNames().indexOf(name);

@@ -6,17 +6,17 @@
 #include "model/Data2.h"
 #include "plugin/Commands.h"
 #include "tests/ui/OpenedAddresses.h"
-#include "tests/ui/WindowTest.h"
+#include "tests/ui/WindowFixture.h"
 
 namespace {
 
 namespace Commands = ZORVEL::Commands;
 using support::CommandLog;
 
-class ElementPages : public support::WindowTest {
+class ElementPages : public support::WindowFixture {
  protected:
   void SetUp() override {
-    WindowTest::SetUp();
+    WindowFixture::SetUp();
     openWithBlouse();
   }
   /// Of the pictures, in the order of the page.

@@ -8,7 +8,7 @@
 
 #include "plugin/DebugWindow.h"
 #include "plugin/DebugWindowClass.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 
 namespace {
 
@@ -18,12 +18,12 @@ namespace DebugWindow = ZORVEL::DebugWindow;
 
 const QStringList header = {"ZORVEL Info Window...", "04.04.2014", "base Setting: Max 2013"};
 
-class InfoWindow : public support::LogStoreTest {
+class InfoWindow : public support::LogStoreFixture {
  protected:
   void TearDown() override {
     ZORVEL::MaxForm::DeleteAll();
     EXPECT_EQ(DebugWindowClass::window, nullptr);
-    LogStoreTest::TearDown();
+    LogStoreFixture::TearDown();
   }
   static QPlainTextEdit& textBox(const QWidget& window) { return *window.findChild<QPlainTextEdit*>(); }
   static QStringList lines(const QWidget& window) { return textBox(window).toPlainText().split('\n'); }

@@ -21,7 +21,7 @@
 #include "model/Selection2.h"
 #include "plugin/Commands.h"
 #include "tests/ui/OpenedAddresses.h"
-#include "tests/ui/WindowTest.h"
+#include "tests/ui/WindowFixture.h"
 
 namespace {
 
@@ -30,7 +30,7 @@ using support::CommandLog;
 using ZORVEL::MainWindowClass;
 using ZORVEL::Selection2;
 
-class MainWindowForm : public support::WindowTest {
+class MainWindowForm : public support::WindowFixture {
  protected:
   static void choose(const QString& menuTitle, const QString& entry) {
     const QMenuBar& bar = *window().GetMenu().GetControl();

@@ -3,7 +3,7 @@
 #include <QBuffer>
 #include <QtTest/QtTest>
 
-#include "tests/ui/WindowTest.h"
+#include "tests/ui/WindowFixture.h"
 #include "ui/PictureReader.h"
 
 namespace {
@@ -12,7 +12,7 @@ using ZORVEL::FileStamp;
 using ZORVEL::PictureCache;
 using ZORVEL::PictureSource;
 
-class Pictures : public support::WindowTest {
+class Pictures : public support::WindowFixture {
  protected:
   static std::string encoded(const QSize& size, const char* type, QImage::Format format = QImage::Format_RGB32) {
     QImage image(size, format);

@@ -3,13 +3,13 @@
 #include <QtTest/QtTest>
 #include <set>
 
-#include "tests/ui/WindowTest.h"
+#include "tests/ui/WindowFixture.h"
 
 namespace {
 
 using support::CommandLog;
 
-class WindowKeyboard : public support::WindowTest {
+class WindowKeyboard : public support::WindowFixture {
  protected:
   static const QWidget* focus() { return QApplication::focusWidget(); }
   /// Where the keyboard goes when Tab is pressed over and over.

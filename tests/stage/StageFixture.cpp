@@ -1,4 +1,4 @@
-#include "tests/stage/StageTest.h"
+#include "tests/stage/StageFixture.h"
 
 #include <QtTest/QtTest>
 #include <cmath>
@@ -11,8 +11,8 @@
 
 namespace support {
 
-void StageTest::SetUp() {
-  LoadedRepositoryTest::SetUp();
+void StageFixture::SetUp() {
+  LoadedRepositoryFixture::SetUp();
   window_ = std::make_unique<stage::StageWindow>();
   window_->resize(1100, 800);
   window_->show();
@@ -23,60 +23,60 @@ void StageTest::SetUp() {
   move(QPoint(3, 3));
 }
 
-void StageTest::TearDown() {
+void StageFixture::TearDown() {
   host::Application::instance().modes().returnToStandard();
   ZORVEL::PlacementState::Get() = ZORVEL::PlacementState();
   window_.reset();
-  LoadedRepositoryTest::TearDown();
+  LoadedRepositoryFixture::TearDown();
 }
 
-host::Scene& StageTest::scene() { return host::Application::instance().scene(); }
+host::Scene& StageFixture::scene() { return host::Application::instance().scene(); }
 
-INode* StageTest::node(const wchar_t* name) { return scene().find(name); }
+INode* StageFixture::node(const wchar_t* name) { return scene().find(name); }
 
-QPoint StageTest::pixelOf(const Point3& world) {
+QPoint StageFixture::pixelOf(const Point3& world) {
   const auto pixel = view().viewport().camera().project(world, view().width(), view().height());
   return {static_cast<int>(std::lround(pixel->x())), static_cast<int>(std::lround(pixel->y()))};
 }
 
-QPoint StageTest::inWindow(const QPoint& pixel) { return view().mapTo(window_.get(), pixel); }
+QPoint StageFixture::inWindow(const QPoint& pixel) { return view().mapTo(window_.get(), pixel); }
 
-void StageTest::move(const QPoint& pixel) {
+void StageFixture::move(const QPoint& pixel) {
   QTest::mouseMove(window_->windowHandle(), inWindow(pixel));
   settle();
 }
 
-void StageTest::press(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+void StageFixture::press(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
   QTest::mousePress(window_->windowHandle(), button, keys, inWindow(pixel));
   settle();
 }
 
-void StageTest::release(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+void StageFixture::release(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
   QTest::mouseRelease(window_->windowHandle(), button, keys, inWindow(pixel));
   settle();
 }
 
-void StageTest::click(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+void StageFixture::click(const QPoint& pixel, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
   press(pixel, button, keys);
   release(pixel, button, keys);
 }
 
-void StageTest::key(Qt::Key key, Qt::KeyboardModifiers keys) {
+void StageFixture::key(Qt::Key key, Qt::KeyboardModifiers keys) {
   QTest::keyClick(window_->windowHandle(), key, keys);
   settle();
 }
 
-void StageTest::settle() {
+void StageFixture::settle() {
   QCoreApplication::processEvents();
   window_->catchUp();
   QCoreApplication::processEvents();
 }
 
-bool StageTest::waitForPicture() {
+bool StageFixture::waitForPicture() {
   settle();
   return QTest::qWaitFor([this] { return view().picture().complete(); }, 60000);
 }
 
-void StageTest::createCharacter() { ZORVEL::Commands::CreateCharacter(); }
+void StageFixture::createCharacter() { ZORVEL::Commands::CreateCharacter(); }
 
 }  // namespace support

@@ -6,7 +6,7 @@
 #include <QTreeWidget>
 #include <ostream>
 
-#include "tests/support/LoadedRepositoryTest.h"
+#include "tests/support/LoadedRepositoryFixture.h"
 #include "tests/ui/CommandLog.h"
 #include "tests/ui/WindowRepository.h"
 #include "ui/MainWindowClass.h"
@@ -18,7 +18,7 @@ namespace support {
 
 /// A test that uses the main window with mouse and keys, which go in where the window system delivers them. Elements
 /// are named by the title of their tab and the name they show.
-class WindowTest : public LoadedRepositoryTest {
+class WindowFixture : public LoadedRepositoryFixture {
  protected:
   void SetUp() override;
   void TearDown() override;

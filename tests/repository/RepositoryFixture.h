@@ -3,24 +3,24 @@
 #include <string>
 
 #include "core/Settings.h"
-#include "tests/model/ModelTest.h"
+#include "tests/model/ModelFixture.h"
 #include "tests/support/LocalAppData.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace ZORVEL {
 
 /// A test with an empty repository folder that is the one of the settings.
-class RepositoryTest : public ModelTest {
+class RepositoryFixture : public ModelFixture {
  protected:
   void SetUp() override {
-    ModelTest::SetUp();
+    ModelFixture::SetUp();
     Settings::LoadSettings();
     Settings::StorePath(m_root.wide().c_str());
     clearLog();
   }
   void TearDown() override {
     Settings::FreeSettings();
-    ModelTest::TearDown();
+    ModelFixture::TearDown();
   }
 
   void writeDescription(const std::string& xml) const { m_root.write("zorvel.xml", xml); }

@@ -1,4 +1,4 @@
-#include "tests/ui/WindowTest.h"
+#include "tests/ui/WindowFixture.h"
 
 #include <QScrollArea>
 #include <QtTest/QtTest>
@@ -29,8 +29,8 @@ using ZORVEL::Data2;
 using ZORVEL::MainWindowClass;
 using ZORVEL::Selection2;
 
-void WindowTest::SetUp() {
-  LoadedRepositoryTest::SetUp();
+void WindowFixture::SetUp() {
+  LoadedRepositoryFixture::SetUp();
   Data2::Clear();
   Selection2::Reset();
   Selection2::SetStyle(nullptr);
@@ -40,38 +40,38 @@ void WindowTest::SetUp() {
   CommandLog::Clear();
 }
 
-void WindowTest::TearDown() {
+void WindowFixture::TearDown() {
   host::Application::instance().modes().returnToStandard();
   host::Application::instance().fileDialog().setProvider({});
   ZORVEL::MaxForm::DeleteAll();
   EXPECT_EQ(MainWindowClass::window, nullptr);
   settle();
   ZORVEL::PictureCache::Instance().Clear();
-  LoadedRepositoryTest::TearDown();
+  LoadedRepositoryFixture::TearDown();
 }
 
-ZORVEL::CharacterData& WindowTest::anna() { return *Data2::GetCharacter(L"c1"); }
+ZORVEL::CharacterData& WindowFixture::anna() { return *Data2::GetCharacter(L"c1"); }
 
-void WindowTest::open() {
+void WindowFixture::open() {
   ZORVEL::Commands::CallMainWindow();
   ASSERT_NE(MainWindowClass::window, nullptr);
   ASSERT_TRUE(QTest::qWaitForWindowActive(MainWindowClass::window));
   settle();
 }
 
-void WindowTest::openWithBlouse() {
+void WindowFixture::openWithBlouse() {
   open();
   clickNode(node("Anna", "Blouse"));
   ASSERT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2");
   CommandLog::Clear();
 }
 
-void WindowTest::settle() {
+void WindowFixture::settle() {
   QCoreApplication::processEvents();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void WindowTest::scrollTo(const QWidget& widget, const QPoint& at) {
+void WindowFixture::scrollTo(const QWidget& widget, const QPoint& at) {
   for (QWidget* above = widget.parentWidget(); above != nullptr; above = above->parentWidget()) {
     auto* area = qobject_cast<QScrollArea*>(above);
     if (area == nullptr || !area->widget()->isAncestorOf(&widget)) continue;
@@ -80,21 +80,21 @@ void WindowTest::scrollTo(const QWidget& widget, const QPoint& at) {
   }
 }
 
-QImage WindowTest::shown(const QWidget& widget) { return const_cast<QWidget&>(widget).grab().toImage(); }
+QImage WindowFixture::shown(const QWidget& widget) { return const_cast<QWidget&>(widget).grab().toImage(); }
 
-void WindowTest::click(const QWidget& widget, const QPoint& at) {
+void WindowFixture::click(const QWidget& widget, const QPoint& at) {
   scrollTo(widget, at);
   ASSERT_TRUE(widget.visibleRegion().contains(at)) << "nobody could click there";
   QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window(), at));
   settle();
 }
 
-void WindowTest::key(Qt::Key key, Qt::KeyboardModifiers keys) {
+void WindowFixture::key(Qt::Key key, Qt::KeyboardModifiers keys) {
   QTest::keyClick(window().windowHandle(), key, keys);
   settle();
 }
 
-QTreeWidgetItem* WindowTest::node(const QString& character, const QString& clothing) {
+QTreeWidgetItem* WindowFixture::node(const QString& character, const QString& clothing) {
   for (int i = 0; i < tree().topLevelItemCount(); ++i) {
     QTreeWidgetItem* top = tree().topLevelItem(i);
     if (top->text(0) != character) continue;
@@ -106,55 +106,55 @@ QTreeWidgetItem* WindowTest::node(const QString& character, const QString& cloth
   return nullptr;
 }
 
-void WindowTest::clickNode(QTreeWidgetItem* node) {
+void WindowFixture::clickNode(QTreeWidgetItem* node) {
   ASSERT_NE(node, nullptr);
   if (node->parent() != nullptr) node->parent()->setExpanded(true);
   click(*tree().viewport(), tree().visualItemRect(node).center());
 }
 
-QStringList WindowTest::titles() {
+QStringList WindowFixture::titles() {
   QStringList all;
   for (int i = 0; i < tabs().count(); ++i) all.append(tabs().tabText(i));
   return all;
 }
 
-void WindowTest::openTab(const QString& title) {
+void WindowFixture::openTab(const QString& title) {
   const int index = titles().indexOf(title);
   ASSERT_GE(index, 0) << title.toStdString();
   click(*tabs().tabBar(), tabs().tabBar()->tabRect(index).center());
   ASSERT_EQ(tabs().currentIndex(), index);
 }
 
-const ZORVEL::MainWindowGeneralPage& WindowTest::page(const QString& title) {
+const ZORVEL::MainWindowGeneralPage& WindowFixture::page(const QString& title) {
   const int index = titles().indexOf(title);
   if (index < 0) throw std::runtime_error("no such tab: " + title.toStdString());
   tabs().setCurrentIndex(index);
   return *window().GetGeneralSelectorWidget().GetPages().at(static_cast<std::size_t>(index));
 }
 
-const ZORVEL::MainWindowElementBase& WindowTest::element(const QString& title, const QString& name) {
+const ZORVEL::MainWindowElementBase& WindowFixture::element(const QString& title, const QString& name) {
   const int index = names(title).indexOf(name);
   if (index < 0) throw std::runtime_error("no such element: " + name.toStdString());
   return *page(title).GetElements().at(static_cast<std::size_t>(index));
 }
 
-void WindowTest::clickBox(const QString& title, const QString& name) {
+void WindowFixture::clickBox(const QString& title, const QString& name) {
   openTab(title);
   click(*element(title, name).GetCheckBox(), QPoint(6, 6));
 }
 
-void WindowTest::clickPicture(const QString& title, const QString& name) {
+void WindowFixture::clickPicture(const QString& title, const QString& name) {
   openTab(title);
   click(*element(title, name).GetPicture());
 }
 
-QStringList WindowTest::names(const QString& title) {
+QStringList WindowFixture::names(const QString& title) {
   QStringList all;
   for (const auto& element : page(title).GetElements()) all.append(nameOf(*element));
   return all;
 }
 
-QStringList WindowTest::checked(const QString& title) {
+QStringList WindowFixture::checked(const QString& title) {
   QStringList all;
   for (const auto& element : page(title).GetElements()) {
     if (element->isAvailable() && element->GetCheckBox()->isChecked()) {
@@ -164,7 +164,7 @@ QStringList WindowTest::checked(const QString& title) {
   return all;
 }
 
-QStringList WindowTest::stripNames() {
+QStringList WindowFixture::stripNames() {
   QStringList all;
   for (const auto& preview : window().GetClothWidget().GetElements()) {
     all.append(preview->GetPicture()->accessibleName());
@@ -172,7 +172,7 @@ QStringList WindowTest::stripNames() {
   return all;
 }
 
-QString WindowTest::selection() {
+QString WindowFixture::selection() {
   QStringList all;
   for (const wchar_t* id : {Selection2::GetCharacter(), Selection2::GetCloth(), Selection2::GetPose(),
                             Selection2::GetSkin(), Selection2::GetStyle()}) {

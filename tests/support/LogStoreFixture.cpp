@@ -1,4 +1,4 @@
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 
 #include <algorithm>
 
@@ -25,16 +25,16 @@ bool isComplaint(const ZORVEL::LogEntry& entry) { return entry.level != ZORVEL::
 
 }  // namespace
 
-void LogStoreTest::SetUp() { ASSERT_TRUE(ZORVEL::LogStore::Create()); }
+void LogStoreFixture::SetUp() { ASSERT_TRUE(ZORVEL::LogStore::Create()); }
 
-void LogStoreTest::TearDown() {
+void LogStoreFixture::TearDown() {
   for (const ZORVEL::LogEntry& entry : ZORVEL::LogStore::Entries()) {
     if (entry.level == ZORVEL::DEBUG_ERROR) ADD_FAILURE() << "unexpected error: " << host::toUtf8(entry.text);
   }
   ZORVEL::LogStore::Free();
 }
 
-void LogStoreTest::expectLogged(ZORVEL::DEBUG_TYPE level, const std::wstring& text) {
+void LogStoreFixture::expectLogged(ZORVEL::DEBUG_TYPE level, const std::wstring& text) {
   std::vector<ZORVEL::LogEntry> entries = ZORVEL::LogStore::Entries();
   const auto found = std::find_if(entries.begin(), entries.end(), [&](const ZORVEL::LogEntry& entry) {
     return entry.level == level && entry.text == text;
@@ -47,7 +47,7 @@ void LogStoreTest::expectLogged(ZORVEL::DEBUG_TYPE level, const std::wstring& te
   putBack(entries);
 }
 
-void LogStoreTest::expectComplaints(const std::vector<std::wstring>& texts) {
+void LogStoreFixture::expectComplaints(const std::vector<std::wstring>& texts) {
   std::vector<ZORVEL::LogEntry> entries = ZORVEL::LogStore::Entries();
   std::vector<std::wstring> complaints;
   for (const ZORVEL::LogEntry& entry : entries) {
@@ -58,12 +58,12 @@ void LogStoreTest::expectComplaints(const std::vector<std::wstring>& texts) {
   putBack(entries);
 }
 
-int LogStoreTest::countLogged(const std::wstring& text) const {
+int LogStoreFixture::countLogged(const std::wstring& text) const {
   const std::vector<ZORVEL::LogEntry> entries = ZORVEL::LogStore::Entries();
   return static_cast<int>(
       std::count_if(entries.begin(), entries.end(), [&](const ZORVEL::LogEntry& entry) { return entry.text == text; }));
 }
 
-void LogStoreTest::clearLog() { ZORVEL::LogStore::Clear(); }
+void LogStoreFixture::clearLog() { ZORVEL::LogStore::Clear(); }
 
 }  // namespace support

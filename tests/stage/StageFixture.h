@@ -7,13 +7,13 @@
 #include "apps/stage/Questions.h"
 #include "apps/stage/StageWindow.h"
 #include "host/scene/Scene.h"
-#include "tests/support/LoadedRepositoryTest.h"
+#include "tests/support/LoadedRepositoryFixture.h"
 
 namespace support {
 
 /// A stage window over a scene with steps, ramp, table and lamp, and the small repository loaded; the plug-in's code is
 /// linked into the test. Mouse and keys go in where the window system delivers them.
-class StageTest : public LoadedRepositoryTest {
+class StageFixture : public LoadedRepositoryFixture {
  protected:
   void SetUp() override;
   void TearDown() override;

@@ -10,7 +10,7 @@
 namespace support {
 
 /// A test with a log store of its own. An error that is logged and not expected fails it.
-class LogStoreTest : public ::testing::Test {
+class LogStoreFixture : public ::testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
+
+#include "apps/support/LoadedRepository.h"
 #include "scene/BuildReport.h"
-#include "tests/support/LocalAppData.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 #include "tests/support/SmallRepository.h"
 
 class INode;
@@ -11,7 +13,7 @@ namespace support {
 
 /// A test on an empty scene with the small repository loaded and its first choice selected: character c1, clothing k1,
 /// pose p1, skin s1, style k1m1, no assets.
-class LoadedRepositoryTest : public LogStoreTest {
+class LoadedRepositoryFixture : public LogStoreFixture {
  protected:
   void SetUp() override;
   void TearDown() override;
@@ -27,9 +29,9 @@ class LoadedRepositoryTest : public LogStoreTest {
   const ZORVEL::BuildReport& report() const { return report_; }
 
  private:
-  LocalAppData appData_;
   SmallRepository repository_;
   ZORVEL::BuildReport report_;
+  std::optional<apps::LoadedRepository> loaded_;
 };
 
 }  // namespace support

@@ -1,4 +1,4 @@
-#include "tests/support/LoadedRepositoryTest.h"
+#include "tests/support/LoadedRepositoryFixture.h"
 
 #include "core/Settings.h"
 #include "host/application/Application.h"
@@ -8,7 +8,6 @@
 #include "model/Selection2.h"
 #include "repository/Parser2.h"
 #include "scene/CharacterBuilder.h"
-#include "scene/SceneNotifications.h"
 
 namespace support {
 
@@ -16,14 +15,12 @@ using ZORVEL::CharacterData;
 using ZORVEL::Data2;
 using ZORVEL::Selection2;
 
-void LoadedRepositoryTest::SetUp() {
-  LogStoreTest::SetUp();
+void LoadedRepositoryFixture::SetUp() {
+  LogStoreFixture::SetUp();
   host::Application::instance().reset();
   host::Application::instance().listener().clear();
-  ZORVEL::SceneNotifications::Register();
-  ZORVEL::Settings::LoadSettings();
-  ZORVEL::Settings::StorePath(repository_.root().c_str());
-  reload();
+  loaded_.emplace(repository_.folder().path());
+  ASSERT_EQ(loaded_->error(), "");
   Selection2::SetCharacter(L"c1");
   Selection2::SetCloth(L"k1");
   Selection2::SetPose(L"p1");
@@ -32,25 +29,22 @@ void LoadedRepositoryTest::SetUp() {
   clearLog();
 }
 
-void LoadedRepositoryTest::reload() {
+void LoadedRepositoryFixture::reload() {
   Data2::Clear();
   Selection2::ClearAssets();
   ASSERT_TRUE(ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath()));
   Data2::SetValidated(true);
 }
 
-INode* LoadedRepositoryTest::build() { return ZORVEL::CharacterBuilder::BuildSelectedCharacter(report_); }
+INode* LoadedRepositoryFixture::build() { return ZORVEL::CharacterBuilder::BuildSelectedCharacter(report_); }
 
-void LoadedRepositoryTest::TearDown() {
+void LoadedRepositoryFixture::TearDown() {
   host::Application::instance().reset();
-  ZORVEL::SceneNotifications::Unregister();
-  Selection2::Reset();
-  Data2::Clear();
-  ZORVEL::Settings::FreeSettings();
-  LogStoreTest::TearDown();
+  loaded_.reset();
+  LogStoreFixture::TearDown();
 }
 
-void LoadedRepositoryTest::addAsset(const wchar_t* id, const wchar_t* material) {
+void LoadedRepositoryFixture::addAsset(const wchar_t* id, const wchar_t* material) {
   const ZORVEL::DataContainer* asset = Data2::FindGlobalAssetById(id);
   const CharacterData* character = Data2::GetCharacter(L"c1");
   for (int i = 0; asset == nullptr && i < character->GetCount(ZORVEL::ASSETS); ++i) {

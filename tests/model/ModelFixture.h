@@ -7,20 +7,20 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
-#include "tests/support/LogStoreTest.h"
+#include "tests/support/LogStoreFixture.h"
 
 namespace ZORVEL {
 
 /// A test that starts and ends with an empty store and selection.
-class ModelTest : public support::LogStoreTest {
+class ModelFixture : public support::LogStoreFixture {
  protected:
   void SetUp() override {
-    LogStoreTest::SetUp();
+    LogStoreFixture::SetUp();
     reset();
   }
   void TearDown() override {
     reset();
-    LogStoreTest::TearDown();
+    LogStoreFixture::TearDown();
   }
 
   using Attributes = std::initializer_list<std::pair<const wchar_t*, const wchar_t*>>;

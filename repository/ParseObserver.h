@@ -1,0 +1,67 @@
+#pragma once
+
+#include <string>
+
+namespace ZORVEL {
+
+class DataContainer;
+
+/// With what each of them has besides element and place.
+enum class ParseNoteKind {
+  NoDescription,             // path: the file that is not there
+  DescriptionNotReadable,    // path: the file; text: why
+  DescriptionNotWellFormed,  // the same
+  DescriptionBeyondLimits,   // the same
+  WrongDocumentElement,      // path: the file
+  CharacterWithoutAttributes,
+  CharacterWithoutFolder,    // text: its id
+  CharacterWithoutPreviews,  // text: its id; path: the folder that is not there
+  CharacterWithoutSkin,      // the same
+  ElementSkipped,            // name: the element around it
+  ClothingWithoutPreview,    // text: its id; path: the picture that is not there; it is gone with all that it holds
+  MatrixRowDropped,          // name: the attribute that is missing
+  NumberNotWhole,            // name: the attribute; text: its value, read as far as it is a number
+  ListNameExtended,          // text: what is appended to the name that an earlier list has given
+  AttributeOfTheSystem       // name: the attribute, which the system writes itself; text: its value
+};
+
+/// Something that the parser refused, skipped or limited.
+struct ParseNote {
+  ParseNoteKind kind;
+  std::wstring element;
+  std::wstring name;
+  std::wstring text;
+  std::wstring path;
+  // Of the element's start tag, counted from 1; 0 when there is no such place.
+  int line = 0;
+  int column = 0;
+};
+
+/// Told of what the parser does with a description, in the order in which it happens. Nothing that it could do changes
+/// what is read.
+class ParseObserver {
+ public:
+  virtual ~ParseObserver() = default;
+  virtual void Noted(const ParseNote& note) = 0;
+  /// The record of the element that begins there is filled. It may be destroyed later: a clothing without a preview.
+  /// One with the fields of a matrix row lives only as long as the call.
+  virtual void RecordRead(const DataContainer& /*record*/, int /*line*/, int /*column*/) {}
+};
+
+/// As long as it lives, every parse is told to its observer. The youngest one counts, and none is there by default:
+/// parsing costs nothing more then.
+class ObservedParsing {
+ public:
+  explicit ObservedParsing(ParseObserver& observer);
+  ~ObservedParsing();
+  ObservedParsing(const ObservedParsing&) = delete;
+  ObservedParsing& operator=(const ObservedParsing&) = delete;
+
+  /// Null when nobody listens.
+  static ParseObserver* GetObserver();
+
+ private:
+  ParseObserver* m_previous;
+};
+
+}  // namespace ZORVEL
