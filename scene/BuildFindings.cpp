@@ -103,10 +103,8 @@ std::wstring MeshText(const BuiltPiece& piece) {
 
 const wchar_t* LibraryText(LibraryState state) {
   switch (state) {
-    case LibraryState::Missing:
-      return L" (missing)";
-    case LibraryState::Unreadable:
-      return L" (cannot be read)";
+    case LibraryState::NotLoaded:
+      return L" (missing or unreadable)";
     case LibraryState::NameOfMap:
       return L" (has a texture map of that name)";
     case LibraryState::WithoutName:

@@ -54,7 +54,12 @@ enum class MaterialState {
   InNoLibrary
 };
 
-enum class LibraryState { Missing, Unreadable, WithoutName, NameOfMap, HoldsMaterial };
+enum class LibraryState {
+  NotLoaded,  ///< missing or unreadable
+  WithoutName,
+  NameOfMap,
+  HoldsMaterial
+};
 
 struct LibrarySearch {
   std::wstring file;

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "core/Debug.h"
-#include "core/Disk.h"
 #include "scene/TextureRedirection.h"
 
 namespace ZORVEL {
@@ -29,9 +28,7 @@ Mtl* AsMaterial(MtlBase* found) {
 
 LibraryState Search(const std::wstring& file, const wchar_t* name) {
   Interface* host = GetCOREInterface();
-  if (host->LoadMaterialLib(file.c_str()) == 0) {
-    return Disk::FileExists(file) ? LibraryState::Unreadable : LibraryState::Missing;
-  }
+  if (host->LoadMaterialLib(file.c_str()) == 0) return LibraryState::NotLoaded;
   MtlBase* found = FindByName(host->GetMaterialLibrary(), name);
   if (found == nullptr) return LibraryState::WithoutName;
   return AsMaterial(found) != nullptr ? LibraryState::HoldsMaterial : LibraryState::NameOfMap;

@@ -212,13 +212,14 @@ TEST_F(BuildReports, NameWhatIsWithoutAMaterialAndWhereItWasSearchedFor) {
   addAsset(L"a1");
   addAsset(L"g1", L"g1m1");
   build();
-  EXPECT_THAT(findings(),
-              ElementsAre(R"(Body "Standing" (p1): no material: skin "s1" has no "material".)",
-                          R"(Clothing "Summer" (k1): the material "Nowhere" is in no library; searched: )"
-                          R"(R:\anna\summer\materials.mat, R:\anna\materials.mat, R:\anna\props.mat (missing).)",
-                          R"(Asset "Bag" (a1): no material: it has no "material".)",
-                          R"(Shared asset "Bench" (g1): the material "Pine" is in no library; searched: )"
-                          R"(R:\global_assets\bench\materials.mat (cannot be read), R:\global_assets\materials.mat.)"));
+  EXPECT_THAT(
+      findings(),
+      ElementsAre(R"(Body "Standing" (p1): no material: skin "s1" has no "material".)",
+                  R"(Clothing "Summer" (k1): the material "Nowhere" is in no library; searched: )"
+                  R"(R:\anna\summer\materials.mat, R:\anna\materials.mat, R:\anna\props.mat (missing or unreadable).)",
+                  R"(Asset "Bag" (a1): no material: it has no "material".)",
+                  R"(Shared asset "Bench" (g1): the material "Pine" is in no library; searched: )"
+                  R"(R:\global_assets\bench\materials.mat (missing or unreadable), R:\global_assets\materials.mat.)"));
   EXPECT_EQ(summary(), "Built without: material of body, material of Summer, material of Bag, material of Bench");
 }
 

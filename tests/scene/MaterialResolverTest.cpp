@@ -94,13 +94,13 @@ TEST_F(MaterialResolution, AnswersWhereItFoundTheMaterialOrWhyThereIsNone) {
   INode* node = addNode();
   const MaterialResult canvas = resolveOn(*node, L"Canvas");
   EXPECT_EQ(canvas.state, MaterialState::FromLibrary);
-  EXPECT_EQ(statesOf(canvas), (States{LibraryState::Unreadable, LibraryState::HoldsMaterial}));
+  EXPECT_EQ(statesOf(canvas), (States{LibraryState::NotLoaded, LibraryState::HoldsMaterial}));
   EXPECT_EQ(canvas.searches.back().file, root_ + L"anna\\materials.mat");
   EXPECT_EQ(canvas.missingTextures, Files());
   EXPECT_EQ(resolveOn(*node, L"Canvas").state, MaterialState::FromScene);
   const MaterialResult none = resolveOn(*node, L"Blue");
   EXPECT_EQ(none.state, MaterialState::InNoLibrary);
-  EXPECT_EQ(statesOf(none), (States{LibraryState::Unreadable, LibraryState::WithoutName, LibraryState::Missing}));
+  EXPECT_EQ(statesOf(none), (States{LibraryState::NotLoaded, LibraryState::WithoutName, LibraryState::NotLoaded}));
   EXPECT_EQ(resolveOn(*node, nullptr).state, MaterialState::NoField);
   EXPECT_STREQ(node->GetMtl()->GetName(), L"Canvas") << "what was not found changes nothing";
 
