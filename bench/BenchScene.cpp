@@ -9,7 +9,7 @@
 #include "host/application/Application.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/UndoStack.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"

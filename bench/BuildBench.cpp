@@ -4,9 +4,9 @@
 #include "bench/GeneratedRepository.h"
 #include "host/application/Application.h"
 #include "host/meshes/MeshFile.h"
+#include "host/rays/RayScene.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
-#include "host/view/RayScene.h"
+#include "host/services/UndoStack.h"
 #include "host/view/SceneItems.h"
 #include "scene/CharacterBuilder.h"
 

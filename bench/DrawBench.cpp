@@ -9,8 +9,8 @@
 #include "host/application/Application.h"
 #include "host/modes/CommandModes.h"
 #include "host/modes/MouseFeed.h"
+#include "host/rays/InstanceScene.h"
 #include "host/view/PixelTracer.h"
-#include "host/view/RayLevel.h"
 #include "host/view/Renderer.h"
 #include "host/view/SamplePattern.h"
 
@@ -98,7 +98,7 @@ BENCHMARK(redrawAfterMove)->Unit(benchmark::kMillisecond)->UseRealTime();
 void raysOfAFrameAlone(benchmark::State& state) {
   PlacingScene& scene = PlacingScene::ofSize(CHARACTERS);
   const host::Camera camera = scene.view().camera();
-  host::RayLevel level;
+  host::InstanceScene level;
   const std::vector<host::ViewItem>& items = scene.sceneView().rays().items();
   for (std::size_t i = 0; i < items.size(); ++i) {
     level.place(static_cast<unsigned>(i), host::RayMesh::of(items[i].mesh), items[i].toWorld);

@@ -44,6 +44,24 @@ function(zorvel_plugin_folder name)
   set_target_properties(zorvel_${name}_objects PROPERTIES CXX_STANDARD 14 UNITY_BUILD ${ZORVEL_UNITY})
 endfunction()
 
+# zorvel_host_layer(NAME SEES LAYER... LIBRARIES LIBRARY...): the sources of one layer of the embedded host. SEES names the layers that it
+# may include: as with the plug-in's folders, they are reached through links and nothing else is.
+function(zorvel_host_layer name)
+  cmake_parse_arguments(LAYER "" "" "SEES;LIBRARIES" ${ARGN})
+  set(includes ${PROJECT_BINARY_DIR}/host-includes/${name})
+  file(REMOVE_RECURSE ${includes})
+  file(MAKE_DIRECTORY ${includes}/host)
+  foreach(layer ${name} ${LAYER_SEES})
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/host/${layer} ${includes}/host/${layer} SYMBOLIC)
+  endforeach()
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/host/${name}/*.cpp)
+  add_library(zorvel_host_${name} OBJECT ${sources})
+  target_include_directories(zorvel_host_${name} PRIVATE ${includes})
+  target_link_libraries(zorvel_host_${name} PRIVATE zorvel_options ${LAYER_LIBRARIES})
+  set_target_properties(zorvel_host_${name} PROPERTIES CXX_STANDARD 17)
+  set_property(GLOBAL APPEND PROPERTY ZORVEL_HOST_OBJECTS $<TARGET_OBJECTS:zorvel_host_${name}>)
+endfunction()
+
 # zorvel_assemble_plugin(): the plug-in's code with the log sink that ships and with the one that records. The sinks are two
 # sources with the same function, so the choice is made when linking.
 function(zorvel_assemble_plugin)

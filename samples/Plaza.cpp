@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "host/application/Application.h"
-#include "host/export/SceneFile.h"
+#include "host/application/SceneFile.h"
 #include "host/materials/MaterialClasses.h"
 #include "host/meshes/SolidMesh.h"
 #include "host/scene/Scene.h"

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "host/rays/RayScene.h"
 #include "host/view/ColorCurves.h"
-#include "host/view/RayScene.h"
 #include "host/view/Renderer.h"
 
 namespace samples {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "host/rays/ViewItem.h"
 #include "host/view/Texture.h"
-#include "host/view/ViewItem.h"
 #include "samples/Frame.h"
 #include "samples/Material.h"
 

@@ -20,8 +20,6 @@ namespace cli {
 namespace {
 
 using ZORVEL::CharacterData;
-using ZORVEL::Commands::SetSelectedCharacterUnique;
-using ZORVEL::Commands::SetSelectedClothUnique;
 using ZORVEL::Data2;
 using ZORVEL::DataContainer;
 using ZORVEL::OfferedElement;
@@ -29,6 +27,8 @@ using ZORVEL::PageKind;
 using ZORVEL::PageOffer;
 using ZORVEL::RepositoryValidation;
 using ZORVEL::Selection2;
+using ZORVEL::Commands::SetSelectedCharacterUnique;
+using ZORVEL::Commands::SetSelectedClothUnique;
 
 using Wish = std::optional<std::string>;
 
@@ -59,9 +59,7 @@ class Chooser {
   }
 
   DataContainer* chooseCloth() {
-    const auto whyNot = [this](const DataContainer& one) {
-      return RepositoryValidation::WhyUnmarked(one, character_);
-    };
+    const auto whyNot = [this](const DataContainer& one) { return RepositoryValidation::WhyUnmarked(one, character_); };
     DataContainer* cloth = pick("clothing", options_.cloth, elementsOf(*character_, ZORVEL::CLOTH), whyNot);
     if (cloth == nullptr) return nullptr;
     SetSelectedClothUnique(uniqueOf(*character_), uniqueOf(*cloth), false);
@@ -74,7 +72,9 @@ class Chooser {
     if (!assets.wish(options_.assets)) return;
     const ZORVEL::PageOffers offers(*character_, files);
     offers.VisitAll([&](const PageOffer& page) {
-      if (result_.errors.empty()) choosePage(page, assets);
+      // Once something is missing, the rest is chosen as the window does, and what follows from it is not told.
+      if (result_.errors.empty()) return choosePage(page, assets);
+      ZORVEL::InitialChoice::Make(page);
     });
     if (result_.errors.empty()) assets.select(offers.GetAssetsWithoutPage());
   }
@@ -165,7 +165,7 @@ class Chooser {
   Record* confirm(const std::string& kind, const DataContainer& wanted, Record* chosen) {
     const std::string name = kind + " " + nameOf(wanted);
     if (chosen == nullptr) {
-      fail("The " + name + " cannot be chosen: it has no id.");
+      fail("The " + name + " cannot be chosen: it has no id, or an empty one.");
     } else if (chosen != &wanted) {
       result_.notes.push_back("The " + name + " is another one: the first with its id, " + nameOf(*chosen) + ".");
     }

@@ -12,13 +12,14 @@
 #include "apps/cli/PlaceByClicks.h"
 #include "apps/cli/Progress.h"
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
-#include "host/application/Units.h"
-#include "host/export/GltfWriter.h"
-#include "host/export/SceneFile.h"
-#include "host/export/SceneJson.h"
+#include "host/application/SceneFile.h"
 #include "host/files/Paths.h"
+#include "host/files/PictureFile.h"
+#include "host/formats/GltfWriter.h"
+#include "host/formats/SceneJson.h"
 #include "host/scene/Scene.h"
+#include "host/services/Listener.h"
+#include "host/services/Units.h"
 #include "host/view/Renderer.h"
 #include "host/view/SceneItems.h"
 #include "scene/CharacterBuilder.h"
@@ -93,7 +94,9 @@ bool writeFiles(const CreateOptions& options, std::vector<host::ViewItem> items)
     const double metres = host::Application::instance().units().sceneUnitIn(UNITS_METERS);
     good = written(options.gltf, host::writeGltf(scene.root(), metres, options.gltf)) && good;
   }
-  if (!options.json.empty()) good = written(options.json, host::writeSceneJson(scene, options.json)) && good;
+  if (!options.json.empty())
+    good =
+        written(options.json, host::writeSceneJson(scene, host::Application::instance().units(), options.json)) && good;
   if (!options.picture.empty()) good = written(options.picture, writePicture(options, std::move(items))) && good;
   return good;
 }

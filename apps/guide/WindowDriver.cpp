@@ -6,7 +6,7 @@
 #include <QtTest/QTest>
 #include <iostream>
 
-#include "host/view/Renderer.h"
+#include "host/files/PictureFile.h"
 
 namespace guide {
 

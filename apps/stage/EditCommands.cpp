@@ -8,7 +8,7 @@
 #include "host/application/Application.h"
 #include "host/application/HostInterface.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/UndoStack.h"
 
 namespace stage {
 

@@ -4,9 +4,9 @@
 
 #include "apps/stage/document/Surroundings.h"
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
-#include "host/export/GltfWriter.h"
+#include "host/formats/GltfWriter.h"
 #include "host/scene/Scene.h"
+#include "host/services/Listener.h"
 
 namespace stage {
 

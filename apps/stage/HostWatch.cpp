@@ -5,12 +5,12 @@
 #include "host/actions/ActionManager.h"
 #include "host/actions/QuickAccessBar.h"
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
-#include "host/application/Prompts.h"
-#include "host/application/Units.h"
 #include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Listener.h"
+#include "host/services/Prompts.h"
+#include "host/services/UndoStack.h"
+#include "host/services/Units.h"
 
 namespace stage {
 

@@ -5,8 +5,8 @@
 #include <QMessageBox>
 
 #include "host/application/Application.h"
-#include "host/application/FileDialog.h"
 #include "host/files/Paths.h"
+#include "host/services/FileDialog.h"
 
 namespace stage {
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <string>
 
+#include "host/files/LocalAppData.h"
 #include "host/files/TemporaryFolder.h"
-#include "host/winapi/LocalAppData.h"
 
 namespace stage {
 

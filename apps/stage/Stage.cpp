@@ -8,10 +8,10 @@
 #include "apps/stage/StageMenus.h"
 #include "host/actions/IconFolders.h"
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
+#include "host/files/PictureFile.h"
 #include "host/modes/CommandModes.h"
 #include "host/plugins/ModuleLoader.h"
-#include "host/view/Renderer.h"
+#include "host/services/Listener.h"
 
 namespace stage {
 

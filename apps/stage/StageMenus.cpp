@@ -6,11 +6,11 @@
 #include "apps/stage/Icons.h"
 #include "apps/stage/PluginWindows.h"
 #include "apps/stage/StageWindow.h"
-#include "host/application/Accelerators.h"
 #include "host/application/Application.h"
-#include "host/application/Units.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Accelerators.h"
+#include "host/services/UndoStack.h"
+#include "host/services/Units.h"
 
 namespace stage {
 

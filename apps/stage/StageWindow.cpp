@@ -5,10 +5,10 @@
 #include "apps/stage/QtQuestions.h"
 #include "apps/stage/StageMenus.h"
 #include "apps/stage/WindowMemory.h"
-#include "host/application/Accelerators.h"
 #include "host/application/Application.h"
 #include "host/application/HostInterface.h"
-#include "host/application/Units.h"
+#include "host/services/Accelerators.h"
+#include "host/services/Units.h"
 
 namespace stage {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "host/files/LocalAppData.h"
 #include "host/files/TemporaryFolder.h"
-#include "host/winapi/LocalAppData.h"
 #include "repository/ParseObserver.h"
 
 namespace apps {

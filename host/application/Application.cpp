@@ -5,20 +5,21 @@
 #include "host/actions/ActionManager.h"
 #include "host/actions/IconFolders.h"
 #include "host/actions/QuickAccessBar.h"
-#include "host/application/Accelerators.h"
 #include "host/application/ClassRegistry.h"
-#include "host/application/FileDialog.h"
 #include "host/application/HostInterface.h"
-#include "host/application/Listener.h"
-#include "host/application/Notifications.h"
-#include "host/application/Prompts.h"
-#include "host/application/Units.h"
 #include "host/materials/AssetManager.h"
 #include "host/modes/CommandModes.h"
 #include "host/plugins/ModuleLoader.h"
 #include "host/scene/Scene.h"
 #include "host/scripting/ScriptRunner.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Accelerators.h"
+#include "host/services/FileDialog.h"
+#include "host/services/Listener.h"
+#include "host/services/LookChanges.h"
+#include "host/services/Notifications.h"
+#include "host/services/Prompts.h"
+#include "host/services/UndoStack.h"
+#include "host/services/Units.h"
 #include "host/view/SceneView.h"
 #include "host/view/Viewports.h"
 
@@ -27,11 +28,9 @@ namespace host {
 /// In the order in which they are made; what is further down may use what is further up.
 struct Application::Parts {
   Accelerators accelerators;
-  Listener listener;
   Notifications notifications;
   Units units;
   Prompts prompts;
-  ScriptRunner scripts;
   AssetManager assets;
   ClassRegistry classes;
   Scene scene;
@@ -44,14 +43,18 @@ struct Application::Parts {
   IconFolders icons;
   ActionManager actions;
   QuickAccessBar quickAccess{actions};
-  ModuleLoader modules;
+  ScriptRunner scripts{actions, quickAccess, interface};
+  ModuleLoader modules{actions, modes, undo};
 };
 
 Application::Application() : parts_(std::make_unique<Parts>()) {
+  // Made before the application is complete, so that it lives as long as any part.
+  Listener::instance();
+  LookChanges::instance().listener = [this] { scene().touchAppearance(); };
   actions().changed = [this] { quickAccess().followTables(); };
 }
 
-Application::~Application() = default;
+Application::~Application() { LookChanges::instance().listener = nullptr; }
 
 Application& Application::instance() {
   static Application application;
@@ -65,7 +68,7 @@ ClassRegistry& Application::classes() { return parts_->classes; }
 FileDialog& Application::fileDialog() { return parts_->fileDialog; }
 IconFolders& Application::icons() { return parts_->icons; }
 HostInterface& Application::interface() { return parts_->interface; }
-Listener& Application::listener() { return parts_->listener; }
+Listener& Application::listener() { return Listener::instance(); }
 CommandModes& Application::modes() { return parts_->modes; }
 ModuleLoader& Application::modules() { return parts_->modules; }
 Notifications& Application::notifications() { return parts_->notifications; }

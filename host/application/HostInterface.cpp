@@ -5,12 +5,12 @@
 #include "host/actions/ActionManager.h"
 #include "host/application/Application.h"
 #include "host/application/ClassRegistry.h"
-#include "host/application/Listener.h"
-#include "host/application/Prompts.h"
 #include "host/files/Paths.h"
-#include "host/materials/MaterialLibraryFile.h"
+#include "host/formats/MaterialLibraryFile.h"
 #include "host/modes/CommandModes.h"
 #include "host/scene/Scene.h"
+#include "host/services/Listener.h"
+#include "host/services/Prompts.h"
 #include "host/view/SceneView.h"
 #include "host/view/Viewports.h"
 
@@ -134,8 +134,7 @@ int HostInterface::LoadMaterialLib(const MCHAR* name, MtlBaseLib* library) {
   const std::wstring path = textOf(name);
   const MaterialLibraryContent content = readMaterialLibrary(path);
   if (!content.error.empty()) {
-    if (!content.missing)
-      application().listener().report("Material library " + toUtf8(path) + " " + content.error + ".");
+    if (!content.missing) Listener::instance().report("Material library " + toUtf8(path) + " " + content.error + ".");
     return 0;
   }
   MtlBaseLib& target = library != nullptr ? *library : *library_;
@@ -152,7 +151,3 @@ void HostInterface::clearMaterials() {
 }
 
 }  // namespace host
-
-Interface* GetCOREInterface() { return &host::Application::instance().interface(); }
-
-Interface13* GetCOREInterface13() { return &host::Application::instance().interface(); }

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "host/materials/MaterialLibrary.h"
-#include "host/scene/Ref.h"
+#include "host/services/Ref.h"
 
 namespace host {
 

@@ -44,7 +44,7 @@ std::size_t sequenceLength(unsigned char lead) {
 
 /// Decodes the sequence that `bytes` begins with; its length, 0 when it is not valid.
 std::size_t decode(std::string_view bytes, std::uint32_t& character) {
-  constexpr std::uint32_t SMALLEST[] = {0, 0, 0x80, 0x800, 0x10000};
+  constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
   const auto lead = static_cast<unsigned char>(bytes.front());
   const std::size_t length = sequenceLength(lead);
   if (length == 0 || length > bytes.size()) return 0;
@@ -54,7 +54,7 @@ std::size_t decode(std::string_view bytes, std::uint32_t& character) {
     if ((next & 0xC0) != 0x80) return 0;
     character = (character << 6) | (next & 0x3FU);
   }
-  const bool valid = character >= SMALLEST[length] && character <= 0x10FFFF && !isSurrogate(character);
+  const bool valid = character >= smallest[length] && character <= 0x10FFFF && !isSurrogate(character);
   return valid ? length : 0;
 }
 

@@ -1,10 +1,7 @@
 #include "host/materials/AssetManager.h"
 
-#include "host/application/Application.h"
-
 using MaxSDK::AssetManagement::AssetType;
 using MaxSDK::AssetManagement::AssetUser;
-using MaxSDK::AssetManagement::IAssetManager;
 
 namespace host {
 
@@ -13,5 +10,3 @@ const AssetUser& AssetManager::GetAsset(const MSTR& fileName, AssetType type, bo
 }
 
 }  // namespace host
-
-IAssetManager* IAssetManager::GetInstance() { return &host::Application::instance().assets(); }

@@ -1,9 +1,8 @@
 #include "host/materials/BitmapTexture.h"
 
-#include "host/application/Application.h"
-#include "host/scene/Ref.h"
-#include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Change.h"
+#include "host/services/LookChanges.h"
+#include "host/services/Ref.h"
 
 namespace host {
 
@@ -22,6 +21,6 @@ void BitmapTexture::SetMap(const Asset& map) {
   applyChange([store, before] { store(before); }, [store, map] { store(map); });
 }
 
-void BitmapTexture::ReloadBitmapAndUpdate() { Application::instance().scene().touchAppearance(); }
+void BitmapTexture::ReloadBitmapAndUpdate() { LookChanges::instance().tell(); }
 
 }  // namespace host

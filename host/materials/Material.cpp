@@ -1,8 +1,7 @@
 #include "host/materials/Material.h"
 
-#include "host/application/Application.h"
 #include "host/materials/Slots.h"
-#include "host/scene/Scene.h"
+#include "host/services/LookChanges.h"
 
 namespace host {
 
@@ -12,14 +11,14 @@ Mtl* Material::GetSubMtl(int slot) { return slotAt(content_.subMaterials, slot);
 
 void Material::SetSubMtl(int slot, Mtl* material) {
   setSlot(content_.subMaterials, slot, material);
-  Application::instance().scene().touchAppearance();
+  LookChanges::instance().tell();
 }
 
 Texmap* Material::GetSubTexmap(int slot) { return slotAt(content_.subTextures, slot); }
 
 void Material::SetSubTexmap(int slot, Texmap* map) {
   setSlot(content_.subTextures, slot, map);
-  Application::instance().scene().touchAppearance();
+  LookChanges::instance().tell();
 }
 
 }  // namespace host

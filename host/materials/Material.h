@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "host/materials/ParameterBlock.h"
-#include "host/scene/Ref.h"
+#include "host/services/ParameterBlock.h"
+#include "host/services/Ref.h"
 
 namespace host {
 

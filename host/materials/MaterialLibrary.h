@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "host/scene/Ref.h"
+#include "host/services/Ref.h"
 
 namespace host {
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "host/scene/Ref.h"
+#include "host/services/Ref.h"
 
 namespace host {
 

@@ -11,8 +11,8 @@ namespace host {
 
 namespace {
 
-constexpr float steps = 65535.0F;
-constexpr const char* extension = "KHR_mesh_quantization";
+constexpr float STEPS = 65535.0F;
+constexpr const char* EXTENSION = "KHR_mesh_quantization";
 
 /// The triangles of one material id, with vertices of their own.
 Mesh part(const Mesh& mesh, std::uint16_t material) {
@@ -51,11 +51,11 @@ int appendAccessor(tinygltf::Model& model, const std::vector<Item>& items, std::
 
 int appendPositions(tinygltf::Model& model, const Mesh& mesh, const CompactGeometry& grid) {
   std::vector<std::uint16_t> items;
-  std::array<double, 3> low{steps, steps, steps}, high{};
+  std::array<double, 3> low{STEPS, STEPS, STEPS}, high{};
   for (const Point3& position : mesh.positions) {
     const Point3 place = (position - grid.offset) * (1.0F / grid.scale);
     for (int axis = 0; axis < 3; ++axis) {
-      const float step = std::clamp(std::round(place[axis]), 0.0F, steps);
+      const float step = std::clamp(std::round(place[axis]), 0.0F, STEPS);
       items.push_back(static_cast<std::uint16_t>(step));
       const auto i = static_cast<std::size_t>(axis);
       low[i] = std::min<double>(low[i], static_cast<double>(step));
@@ -97,7 +97,7 @@ int appendTexCoords(tinygltf::Model& model, const Mesh& mesh) {
   std::vector<std::uint16_t> items;
   for (const TexCoord& coord : mesh.texCoords) {
     for (const float value : {coord.u, 1.0F - coord.v}) {
-      items.push_back(static_cast<std::uint16_t>(std::round(value * steps)));
+      items.push_back(static_cast<std::uint16_t>(std::round(value * STEPS)));
     }
   }
   const int index = appendAccessor(model, items, 4, TINYGLTF_COMPONENT_TYPE_UNSIGNED_SHORT, TINYGLTF_TYPE_VEC2,
@@ -126,7 +126,7 @@ CompactGeometry appendCompactGeometry(tinygltf::Model& model, const Mesh& mesh) 
   for (const Point3& position : mesh.positions) box += position;
   const Point3 size = box.pmax - box.pmin;
   result.offset = box.pmin;
-  result.scale = std::max({size.x, size.y, size.z, 1e-6F}) / steps;
+  result.scale = std::max({size.x, size.y, size.z, 1e-6F}) / STEPS;
 
   std::set<std::uint16_t> materials;
   for (std::size_t i = 0; i < mesh.triangles.size(); ++i) materials.insert(mesh.materialId(i));
@@ -141,8 +141,8 @@ CompactGeometry appendCompactGeometry(tinygltf::Model& model, const Mesh& mesh) 
     primitive.indices = appendTriangles(model, own);
     result.primitives.push_back(primitive);
   }
-  model.extensionsUsed.emplace_back(extension);
-  model.extensionsRequired.emplace_back(extension);
+  model.extensionsUsed.emplace_back(EXTENSION);
+  model.extensionsRequired.emplace_back(EXTENSION);
   return result;
 }
 

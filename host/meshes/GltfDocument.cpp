@@ -10,13 +10,13 @@ namespace host {
 
 namespace {
 
-constexpr std::uint32_t jsonChunk = 0x4E4F534A;
-constexpr std::uint32_t binaryChunk = 0x004E4942;
-constexpr const char* quantization = "KHR_mesh_quantization";
-constexpr std::size_t headerSize = 12;
-constexpr std::size_t chunkHeaderSize = 8;
+constexpr std::uint32_t JSON_CHUNK = 0x4E4F534A;
+constexpr std::uint32_t BINARY_CHUNK = 0x004E4942;
+constexpr const char* QUANTIZATION = "KHR_mesh_quantization";
+constexpr std::size_t HEADER_SIZE = 12;
+constexpr std::size_t CHUNK_HEADER_SIZE = 8;
 // Parsed JSON takes many times the room of its text.
-constexpr std::size_t longestJson = std::size_t(64) << 20U;
+constexpr std::size_t LONGEST_JSON = std::size_t(64) << 20U;
 
 enum ComponentType : unsigned { Byte = 5120, UnsignedByte, Short, UnsignedShort, UnsignedInt = 5125, Float };
 
@@ -41,10 +41,10 @@ struct Chunk {
 
 /// Nothing at the end of the file; moves `offset` on.
 std::optional<Chunk> nextChunk(std::string_view glb, std::size_t& offset) {
-  if (offset + chunkHeaderSize > glb.size()) return std::nullopt;
+  if (offset + CHUNK_HEADER_SIZE > glb.size()) return std::nullopt;
   const std::size_t length = wordAt(glb, offset);
   const std::uint32_t type = wordAt(glb, offset + 4);
-  offset += chunkHeaderSize;
+  offset += CHUNK_HEADER_SIZE;
   if (length > glb.size() - offset) throw UnreadableMesh("the glTF file is cut short");
   const Chunk chunk{type, glb.substr(offset, length)};
   offset += (length + 3) / 4 * 4;
@@ -102,7 +102,7 @@ float componentAt(const unsigned char* bytes, unsigned componentType, bool norma
 }
 
 bool isUnderstood(const std::string& extension) {
-  return extension.rfind("KHR_materials_", 0) == 0 || extension == "KHR_lights_punctual" || extension == quantization;
+  return extension.rfind("KHR_materials_", 0) == 0 || extension == "KHR_lights_punctual" || extension == QUANTIZATION;
 }
 
 std::size_t requiredIndex(const GltfDocument::Json& object, const char* key) {
@@ -115,21 +115,21 @@ std::size_t requiredIndex(const GltfDocument::Json& object, const char* key) {
 
 GltfDocument::GltfDocument(std::string_view glb) {
   if (wordAt(glb, 4) != 2) throw UnreadableMesh("only glTF version 2 is read");
-  std::size_t offset = headerSize;
+  std::size_t offset = HEADER_SIZE;
   const std::optional<Chunk> json = nextChunk(glb, offset);
-  if (!json || json->type != jsonChunk) throw UnreadableMesh("the glTF file is cut short");
-  if (json->bytes.size() > longestJson) throw UnreadableMesh("the glTF file describes too much");
+  if (!json || json->type != JSON_CHUNK) throw UnreadableMesh("the glTF file is cut short");
+  if (json->bytes.size() > LONGEST_JSON) throw UnreadableMesh("the glTF file describes too much");
   root_ = Json::parse(json->bytes.begin(), json->bytes.end(), nullptr, false);
   if (!root_.is_object()) throw UnreadableMesh("the glTF file's description is not valid JSON");
   const std::optional<Chunk> binary = nextChunk(glb, offset);
-  if (binary && binary->type == binaryChunk) binary_ = binary->bytes;
+  if (binary && binary->type == BINARY_CHUNK) binary_ = binary->bytes;
   readExtensions();
 }
 
 void GltfDocument::readExtensions() {
   for (const Json& extension : list(root_, "extensionsRequired")) {
     const std::string name = extension.is_string() ? extension.get<std::string>() : std::string("?");
-    isQuantized_ = isQuantized_ || name == quantization;
+    isQuantized_ = isQuantized_ || name == QUANTIZATION;
     if (!isUnderstood(name)) throw UnreadableMesh("the glTF file needs the extension " + name + ", which is not read");
   }
 }

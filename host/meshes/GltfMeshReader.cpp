@@ -173,7 +173,7 @@ class SceneMerger {
     const auto positions = GltfDocument::optionalIndex(*attributes, "POSITION");
     if (!positions) throw UnreadableMesh("the glTF file has triangles without positions");
     const std::vector<Point3> points = document_.points(*positions);
-    if (mesh_.positions.size() + points.size() > 3 * mostTriangles) throw UnreadableMesh("the mesh is too large");
+    if (mesh_.positions.size() + points.size() > 3 * MOST_TRIANGLES) throw UnreadableMesh("the mesh is too large");
     for (const Point3& p : points) mesh_.positions.push_back(transform.PointTransform(p));
     appendNormals(*attributes, transform);
     appendTexCoords(*attributes);
@@ -208,7 +208,7 @@ class SceneMerger {
   }
 
   void appendTriangles(const std::vector<Mesh::Triangle>& triangles, std::size_t first, std::size_t count, bool flip) {
-    if (mesh_.triangles.size() + triangles.size() > mostTriangles) throw UnreadableMesh("the mesh is too large");
+    if (mesh_.triangles.size() + triangles.size() > MOST_TRIANGLES) throw UnreadableMesh("the mesh is too large");
     for (const Mesh::Triangle& triangle : triangles) {
       const bool inside = triangle[0] < count && triangle[1] < count && triangle[2] < count;
       if (!inside) throw UnreadableMesh("the glTF file has triangles without positions");

@@ -2,17 +2,9 @@
 
 namespace host {
 
-MeshCache& MeshCache::instance() {
-  static MeshCache cache;
+MeshCache& sharedMeshes() {
+  static MeshCache cache(readMeshFile);
   return cache;
-}
-
-MeshReading MeshCache::get(const std::filesystem::path& file) {
-  const auto reading = files_.get(file, [](const std::filesystem::path& path) -> SharedFiles<Mesh>::Reading {
-    MeshReading fresh = readMeshFile(path);
-    return {std::move(fresh.mesh), std::move(fresh.error)};
-  });
-  return {reading.value, reading.error};
 }
 
 }  // namespace host

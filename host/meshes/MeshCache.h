@@ -1,21 +1,14 @@
 #pragma once
 
+#include "host/files/FileCache.h"
 #include "host/meshes/MeshFile.h"
-#include "host/meshes/SharedFiles.h"
 
 namespace host {
 
-/// Meshes read from files when first needed, shared by path, size and time of the file. A mesh dies with its last user.
-class MeshCache {
- public:
-  /// The one that the scene's objects share.
-  static MeshCache& instance();
+/// Meshes by path, size and time of their files. A mesh dies with its last user.
+using MeshCache = FileCache<Mesh, MeshResult>;
 
-  /// `file` is resolved already.
-  MeshReading get(const std::filesystem::path& file);
-
- private:
-  SharedFiles<Mesh> files_;
-};
+/// The one that the scene's objects share.
+MeshCache& sharedMeshes();
 
 }  // namespace host

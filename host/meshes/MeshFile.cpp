@@ -13,7 +13,7 @@ namespace host {
 
 namespace {
 
-constexpr std::uintmax_t largestFile = std::uintmax_t(1) << 30U;
+constexpr std::uintmax_t LARGEST_FILE = std::uintmax_t(1) << 30U;
 
 Mesh meshFrom(std::string_view bytes) {
   if (bytes.empty()) throw UnreadableMesh("the file is empty");
@@ -37,7 +37,7 @@ std::string readBytes(const std::filesystem::path& file) {
   if (!std::filesystem::is_regular_file(file, error)) throw UnreadableMesh("the file was not found");
   const std::uintmax_t size = std::filesystem::file_size(file, error);
   if (error) throw UnreadableMesh("the file cannot be read");
-  if (size > largestFile) throw UnreadableMesh("the file is larger than one gigabyte");
+  if (size > LARGEST_FILE) throw UnreadableMesh("the file is larger than one gigabyte");
   std::string bytes(static_cast<std::size_t>(size), '\0');
   std::ifstream stream(file, std::ios::binary);
   if (!stream.read(bytes.data(), static_cast<std::streamsize>(size))) throw UnreadableMesh("the file cannot be read");
@@ -46,7 +46,7 @@ std::string readBytes(const std::filesystem::path& file) {
 
 /// Runs `make`, turning whatever it throws into the one line that the caller shows.
 template <class Make>
-MeshReading reading(Make make) {
+MeshResult reading(Make make) {
   try {
     auto mesh = std::make_shared<Mesh>(make());
     requireSensible(*mesh);
@@ -63,11 +63,11 @@ MeshReading reading(Make make) {
 
 }  // namespace
 
-MeshReading readMesh(std::string_view bytes) {
+MeshResult readMesh(std::string_view bytes) {
   return reading([bytes] { return meshFrom(bytes); });
 }
 
-MeshReading readMeshFile(const std::filesystem::path& file) {
+MeshResult readMeshFile(const std::filesystem::path& file) {
   return reading([&file] { return meshFrom(readBytes(file)); });
 }
 

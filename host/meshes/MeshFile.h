@@ -10,15 +10,15 @@
 namespace host {
 
 /// What came of reading a mesh: the mesh, or one line that says why there is none. Never both, never neither.
-struct MeshReading {
+struct MeshResult {
   std::shared_ptr<const Mesh> mesh;
   std::string error;
 };
 
 /// Tells the format by its content, whatever the file is called: glTF binary, or OBJ. Any bytes may be given.
-MeshReading readMesh(std::string_view bytes);
+MeshResult readMesh(std::string_view bytes);
 
 /// Reads that one file and no other, so a mesh that keeps its vertices elsewhere is refused.
-MeshReading readMeshFile(const std::filesystem::path& file);
+MeshResult readMeshFile(const std::filesystem::path& file);
 
 }  // namespace host

@@ -10,11 +10,11 @@ namespace host {
 
 namespace {
 
-constexpr float metresPerCentimetre = 0.01F;
+constexpr float METRES_PER_CENTIMETRE = 0.01F;
 
 Mesh inMetresYUp(const Mesh& mesh) {
   Mesh result = mesh;
-  for (Point3& p : result.positions) p = Point3(p.x, p.z, -p.y) * metresPerCentimetre;
+  for (Point3& p : result.positions) p = Point3(p.x, p.z, -p.y) * METRES_PER_CENTIMETRE;
   for (Point3& n : result.normals) n = Point3(n.x, n.z, -n.y);
   return result;
 }

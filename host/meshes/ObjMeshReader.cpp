@@ -12,11 +12,11 @@ namespace host {
 
 namespace {
 
-constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
+constexpr std::uint32_t NONE = std::numeric_limits<std::uint32_t>::max();
 
 // Of the vertices at one position only the latest are looked through for an equal one; more of them is no real mesh,
 // and a vertex too many does no harm.
-constexpr std::size_t furthestBack = 64;
+constexpr std::size_t FURTHEST_BACK = 64;
 
 /// The next word of a line, which is shortened by it; empty at the end.
 std::string_view nextWord(std::string_view& line) {
@@ -39,11 +39,11 @@ float nextNumber(std::string_view& line) {
   return whole ? number : std::numeric_limits<float>::quiet_NaN();
 }
 
-/// What one corner of a face names, `none` where it names nothing.
+/// What one corner of a face names, NONE where it names nothing.
 struct Corner {
-  std::uint32_t position = none;
-  std::uint32_t texCoord = none;
-  std::uint32_t normal = none;
+  std::uint32_t position = NONE;
+  std::uint32_t texCoord = NONE;
+  std::uint32_t normal = NONE;
 };
 
 class ObjReader {
@@ -70,7 +70,7 @@ class ObjReader {
     const std::string_view word = nextWord(line);
     if (word == "v") {
       positions_.push_back(nextPoint(line));
-      firstVertex_.push_back(none);
+      firstVertex_.push_back(NONE);
     } else if (word == "vn") {
       normals_.push_back(nextPoint(line));
     } else if (word == "vt") {
@@ -106,7 +106,7 @@ class ObjReader {
       face_.push_back(vertexFor(corner));
       polygon_.push_back(positions_[corner.position]);
     }
-    if (mesh_.triangles.size() + face_.size() > mostTriangles) fail("the mesh is too large");
+    if (mesh_.triangles.size() + face_.size() > MOST_TRIANGLES) fail("the mesh is too large");
     for (const auto& [a, b, c] : triangulated(polygon_)) appendTriangle({face_[a], face_[b], face_[c]});
   }
 
@@ -115,16 +115,16 @@ class ObjReader {
     corner.position = readIndex(word, positions_.size());
     corner.texCoord = readIndex(word, texCoords_.size());
     corner.normal = readIndex(word, normals_.size());
-    if (corner.position == none || !word.empty()) fail("a corner of a face cannot be understood");
+    if (corner.position == NONE || !word.empty()) fail("a corner of a face cannot be understood");
     return corner;
   }
 
-  /// Reads up to the next slash; `none` where nothing stands. Counted from one, or back from the last one read.
+  /// Reads up to the next slash; NONE where nothing stands. Counted from one, or back from the last one read.
   std::uint32_t readIndex(std::string_view& word, std::size_t count) const {
     const std::size_t slash = word.find('/');
     const std::string_view text = word.substr(0, slash);
     word.remove_prefix(slash == std::string_view::npos ? word.size() : slash + 1);
-    if (text.empty()) return none;
+    if (text.empty()) return NONE;
     long long index = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), index);
     if (result.ec != std::errc() || result.ptr != text.data() + text.size())
@@ -137,7 +137,7 @@ class ObjReader {
   std::uint32_t vertexFor(const Corner& corner) {
     std::uint32_t& first = firstVertex_[corner.position];
     std::size_t looked = 0;
-    for (std::uint32_t i = first; i != none && looked < furthestBack; i = vertices_[i].next, ++looked) {
+    for (std::uint32_t i = first; i != NONE && looked < FURTHEST_BACK; i = vertices_[i].next, ++looked) {
       const Corner& other = vertices_[i].corner;
       if (other.texCoord == corner.texCoord && other.normal == corner.normal) return i;
     }
@@ -150,9 +150,9 @@ class ObjReader {
 
   void appendVertex(const Corner& corner) {
     mesh_.positions.push_back(positions_[corner.position]);
-    mesh_.normals.push_back(corner.normal == none ? Point3() : normals_[corner.normal]);
-    missesNormals_ = missesNormals_ || corner.normal == none;
-    if (corner.texCoord != none) {
+    mesh_.normals.push_back(corner.normal == NONE ? Point3() : normals_[corner.normal]);
+    missesNormals_ = missesNormals_ || corner.normal == NONE;
+    if (corner.texCoord != NONE) {
       mesh_.texCoords.resize(mesh_.positions.size() - 1);
       mesh_.texCoords.push_back(texCoords_[corner.texCoord]);
     } else if (!mesh_.texCoords.empty()) {
@@ -176,7 +176,7 @@ class ObjReader {
     }
     completeMesh(whole);
     for (std::size_t i = 0; i < vertices_.size(); ++i) {
-      if (vertices_[i].corner.normal == none) mesh_.normals[i] = whole.normals[vertices_[i].corner.position];
+      if (vertices_[i].corner.normal == NONE) mesh_.normals[i] = whole.normals[vertices_[i].corner.position];
     }
   }
 

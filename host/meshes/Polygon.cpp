@@ -10,7 +10,7 @@ namespace {
 using Corners = std::vector<std::size_t>;
 
 // Clipping ears takes the square of the corners; a polygon of more is a fan, which is right wherever it is convex.
-constexpr std::size_t mostCornersToClip = 512;
+constexpr std::size_t MOST_CORNERS_TO_CLIP = 512;
 
 Point3 normalOf(const std::vector<Point3>& points) {
   Point3 sum;
@@ -53,7 +53,7 @@ std::vector<std::array<std::size_t, 3>> triangulated(const std::vector<Point3>& 
   const EarClipper clipper(points);
   while (corners.size() >= 3) {
     std::size_t ear = 1;
-    if (corners.size() > 3 && points.size() <= mostCornersToClip) {
+    if (corners.size() > 3 && points.size() <= MOST_CORNERS_TO_CLIP) {
       // A quad that is convex is cut from its first corner, as everyone expects; without any ear, it is cut anyhow.
       for (std::size_t tried = 0; tried < corners.size() && !clipper.isEar(corners, ear); ++tried) {
         ear = (ear + 1) % corners.size();

@@ -52,7 +52,7 @@ void CommandModes::returnToStandard() { replaceStack({standard_.get()}); }
 
 void CommandModes::execute(int command) {
   executed_.push_back(command);
-  if (command == standardModeCommand) returnToStandard();
+  if (command == STANDARD_MODE_COMMAND) returnToStandard();
 }
 
 }  // namespace host

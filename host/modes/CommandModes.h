@@ -14,7 +14,7 @@ namespace host {
 class CommandModes {
  public:
   /// The host's command that makes the standard mode current.
-  static constexpr int standardModeCommand = 91;
+  static constexpr int STANDARD_MODE_COMMAND = 91;
 
   CommandModes();
   ~CommandModes();

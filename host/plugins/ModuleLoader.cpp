@@ -2,20 +2,20 @@
 
 #include <algorithm>
 
-#include "host/application/Application.h"
-#include "host/application/Listener.h"
 #include "host/modes/CommandModes.h"
 #include "host/plugins/PluginModule.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Listener.h"
+#include "host/services/UndoStack.h"
 
 namespace host {
 
-ModuleLoader::ModuleLoader() = default;
+ModuleLoader::ModuleLoader(ActionManager& actions, CommandModes& modes, UndoStack& undo)
+    : actions_(actions), modes_(modes), undo_(undo) {}
 
 ModuleLoader::~ModuleLoader() { shutDown(); }
 
 std::string ModuleLoader::load(const std::filesystem::path& file) {
-  auto module = std::make_unique<PluginModule>();
+  auto module = std::make_unique<PluginModule>(actions_);
   std::string problem = isLoaded(file) ? "is loaded already" : module->open(file);
   if (problem.empty()) problem = module->start();
   if (problem.empty()) {
@@ -24,7 +24,7 @@ std::string ModuleLoader::load(const std::filesystem::path& file) {
   }
   module.reset();
   const std::string line = "Module " + file.filename().string() + " " + problem + ".";
-  Application::instance().listener().report(line);
+  Listener::instance().report(line);
   return line;
 }
 
@@ -37,9 +37,9 @@ bool ModuleLoader::isLoaded(const std::filesystem::path& file) const {
 void ModuleLoader::shutDown() {
   if (modules_.empty()) return;
   // Modes and steps of the undo list may be a module's own.
-  Application::instance().modes().returnToStandard();
+  modes_.returnToStandard();
   while (!modules_.empty()) {
-    Application::instance().undo().clear();
+    undo_.clear();
     modules_.pop_back();
   }
 }

@@ -7,12 +7,16 @@
 
 namespace host {
 
+class ActionManager;
+class CommandModes;
 class PluginModule;
+class UndoStack;
 
 /// Loads plug-in modules, starts their utilities and takes all of it down again in reverse order.
 class ModuleLoader {
  public:
-  ModuleLoader();
+  /// What modules leave there, modes and steps of their own included, is taken away before they go.
+  ModuleLoader(ActionManager& actions, CommandModes& modes, UndoStack& undo);
   /// Shuts down what is still loaded.
   ~ModuleLoader();
   ModuleLoader(const ModuleLoader&) = delete;
@@ -31,6 +35,9 @@ class ModuleLoader {
  private:
   bool isLoaded(const std::filesystem::path& file) const;
 
+  ActionManager& actions_;
+  CommandModes& modes_;
+  UndoStack& undo_;
   std::vector<std::unique_ptr<PluginModule>> modules_;
 };
 

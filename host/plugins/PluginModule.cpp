@@ -6,9 +6,8 @@
 #include <exception>
 
 #include "host/actions/ActionManager.h"
-#include "host/application/Application.h"
-#include "host/application/Listener.h"
 #include "host/plugins/ModuleStrings.h"
+#include "host/services/Listener.h"
 
 namespace host {
 
@@ -116,14 +115,13 @@ std::string PluginModule::introduce() {
 }
 
 void PluginModule::registerTables(ClassDesc& description) {
-  ActionManager& actions = Application::instance().actions();
   const int count = std::min(description.NumActionTables(), MOST_TABLES);
   for (int i = 0; i < count; ++i) {
     ActionTable* table = description.GetActionTable(i);
     if (table == nullptr) continue;
     const ActionTableId id = table->GetId();
-    actions.RegisterActionTable(table);
-    if (actions.FindTable(id) == table) tables_.push_back(id);
+    actions_.RegisterActionTable(table);
+    if (actions_.FindTable(id) == table) tables_.push_back(id);
   }
 }
 
@@ -147,7 +145,7 @@ std::string PluginModule::startUtility(ClassDesc& description) {
 
 void PluginModule::stop() {
   const auto report = [](const std::string& problem) {
-    if (!problem.empty()) Application::instance().listener().report("A module " + problem + ".");
+    if (!problem.empty()) Listener::instance().report("A module " + problem + ".");
   };
   for (; !utilities_.empty(); utilities_.pop_back()) {
     report(guarded("Stop", [this] {
@@ -164,7 +162,7 @@ void PluginModule::stop() {
 }
 
 void PluginModule::close() {
-  for (auto id = tables_.rbegin(); id != tables_.rend(); ++id) Application::instance().actions().removeTable(*id);
+  for (auto id = tables_.rbegin(); id != tables_.rend(); ++id) actions_.removeTable(*id);
   if (handle_ == nullptr) return;
   ModuleStrings::instance().forget(handle_);
   if (attached_) {

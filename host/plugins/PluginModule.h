@@ -11,10 +11,13 @@
 
 namespace host {
 
+class ActionManager;
+
 /// One loaded module file. What was done for it is undone in reverse order when it ends, wherever loading stopped.
 class PluginModule {
  public:
-  PluginModule() = default;
+  /// Its action tables are registered there.
+  explicit PluginModule(ActionManager& actions) : actions_(actions) {}
   ~PluginModule();
   PluginModule(const PluginModule&) = delete;
   PluginModule& operator=(const PluginModule&) = delete;
@@ -47,6 +50,7 @@ class PluginModule {
   void stop();
   void close();
 
+  ActionManager& actions_;
   HINSTANCE handle_ = nullptr;
   bool attached_ = false;
   bool initialized_ = false;

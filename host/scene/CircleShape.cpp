@@ -1,7 +1,7 @@
 #include "host/scene/CircleShape.h"
 
-#include "host/scene/Ref.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Change.h"
+#include "host/services/Ref.h"
 
 namespace host {
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <box3.h>
-#include <matrix3.h>
 
 #include <memory>
 
@@ -18,8 +17,5 @@ class Geometry {
   /// Null for an object that is not drawn as a surface.
   virtual std::shared_ptr<const Mesh> mesh() const { return nullptr; }
 };
-
-/// The box around a transformed box; an empty one stays empty.
-Box3 transformed(const Box3& box, const Matrix3& tm);
 
 }  // namespace host

@@ -1,9 +1,8 @@
 #include "host/scene/Layer.h"
 
-#include "host/application/Application.h"
 #include "host/scene/Node.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Change.h"
 
 namespace host {
 
@@ -21,7 +20,7 @@ BaseInterface* Layer::GetInterface(Interface_ID id) {
 
 BOOL Layer::Nodes(Tab<INode*>& layerNodes) {
   layerNodes.ZeroCount();
-  for (Node* node : Application::instance().scene().nodes()) {
+  for (Node* node : scene_.nodes()) {
     INode* member = node;
     if (node->layer() == this) layerNodes.Append(1, &member);
   }

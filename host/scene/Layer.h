@@ -5,9 +5,11 @@
 
 namespace host {
 
+class Scene;
+
 class Layer final : public ILayer, public ILayerProperties {
  public:
-  explicit Layer(const MSTR& name) : name_(name) {}
+  Layer(Scene& scene, const MSTR& name) : scene_(scene), name_(name) {}
 
   void SetName(const MSTR& name) override;
   MSTR GetName() const override { return name_; }
@@ -19,6 +21,7 @@ class Layer final : public ILayer, public ILayerProperties {
   BOOL Nodes(Tab<INode*>& layerNodes) override;
 
  private:
+  Scene& scene_;
   MSTR name_;
 };
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cwctype>
 
-#include "host/undo/UndoStack.h"
+#include "host/services/Change.h"
 
 namespace host {
 
@@ -18,7 +18,7 @@ bool sameName(const MSTR& a, const MSTR& b) {
 
 }  // namespace
 
-LayerManager::LayerManager() { layers_.emplace_back(new Layer(L"0")); }
+LayerManager::LayerManager(Scene& scene) : scene_(scene) { layers_.emplace_back(new Layer(scene, L"0")); }
 
 ILayer* LayerManager::GetLayer(const MSTR& name) const {
   for (const Ref<Layer>& layer : layers_) {
@@ -29,7 +29,7 @@ ILayer* LayerManager::GetLayer(const MSTR& name) const {
 
 ILayer* LayerManager::CreateLayer(MSTR& name) {
   if (GetLayer(name) != nullptr) return nullptr;
-  const Ref<Layer> layer(new Layer(name));
+  const Ref<Layer> layer(new Layer(scene_, name));
   applyChange([this, layer] { layers_.erase(std::remove(layers_.begin(), layers_.end(), layer), layers_.end()); },
               [this, layer] { layers_.push_back(layer); });
   return layer.get();

@@ -5,13 +5,13 @@
 #include <vector>
 
 #include "host/scene/Layer.h"
-#include "host/scene/Ref.h"
+#include "host/services/Ref.h"
 
 namespace host {
 
 class LayerManager final : public ILayerManager {
  public:
-  LayerManager();
+  explicit LayerManager(Scene& scene);
 
   ILayer* GetLayer(const MSTR& name) const override;
   ILayer* CreateLayer(MSTR& name) override;
@@ -22,6 +22,7 @@ class LayerManager final : public ILayerManager {
   void clear();
 
  private:
+  Scene& scene_;
   /// The default layer "0" first.
   std::vector<Ref<Layer>> layers_;
 };

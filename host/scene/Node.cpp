@@ -5,16 +5,14 @@
 
 #include <algorithm>
 
-#include "host/application/Application.h"
+#include "host/geometry/Bounds.h"
 #include "host/scene/Geometry.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Change.h"
 
 namespace host {
 
 namespace {
-
-Scene& scene() { return Application::instance().scene(); }
 
 ULONG nextHandle() {
   static ULONG last = 0;
@@ -28,7 +26,8 @@ auto findProperty(Properties& properties, const MSTR& key) {
 
 }  // namespace
 
-Node::Node(Object* object, const MSTR& name) : object_(object), name_(name), handle_(nextHandle()) {}
+Node::Node(Scene& scene, Object* object, const MSTR& name)
+    : scene_(scene), object_(object), name_(name), handle_(nextHandle()) {}
 
 Node::~Node() {
   for (const Ref<Node>& child : children_) child->parent_ = nullptr;
@@ -46,8 +45,8 @@ void Node::change(Value Node::*member, Value value, Concern concern) {
 }
 
 void Node::tellScene(Concern concern) {
-  if (concern == Concern::Place) return scene().touchPlace(*this);
-  concern == Concern::Look ? scene().touchAppearance() : scene().touch();
+  if (concern == Concern::Place) return scene_.touchPlace(*this);
+  concern == Concern::Look ? scene_.touchAppearance() : scene_.touch();
 }
 
 void Node::SetName(const MCHAR* name) { change(&Node::name_, MSTR(name), Concern::Look); }
@@ -66,7 +65,7 @@ Matrix3 Node::GetObjectTM(TimeValue t, Interval* /*valid*/) { return offset_ * G
 Matrix3 Node::GetParentTM(TimeValue t) { return parent_ != nullptr ? parent_->GetNodeTM(t) : Matrix3(TRUE); }
 
 void Node::AttachChild(INode* node, int keepTM) {
-  if (node != nullptr) scene().attach(static_cast<Node&>(*node), *this, keepTM != 0);
+  if (node != nullptr) scene_.attach(static_cast<Node&>(*node), *this, keepTM != 0);
 }
 
 INode* Node::GetChildNode(int i) {
@@ -74,7 +73,7 @@ INode* Node::GetChildNode(int i) {
   return children_[static_cast<std::size_t>(i)].get();
 }
 
-int Node::Selected() { return scene().isSelected(*this) ? 1 : 0; }
+int Node::Selected() { return scene_.isSelected(*this) ? 1 : 0; }
 
 const ObjectState& Node::EvalWorldState(TimeValue /*t*/, BOOL /*evalHidden*/) {
   state_.obj = object_.get();

@@ -7,9 +7,11 @@
 #include <vector>
 
 #include "host/scene/Layer.h"
-#include "host/scene/Ref.h"
+#include "host/services/Ref.h"
 
 namespace host {
+
+class Scene;
 
 /// A node of the embedded host. Every change made through INode is recorded while theHold holds. Made and moved about
 /// by Scene.
@@ -17,7 +19,7 @@ class Node final : public INode {
  public:
   using Properties = std::vector<std::pair<MSTR, MSTR>>;
 
-  Node(Object* object, const MSTR& name);
+  Node(Scene& scene, Object* object, const MSTR& name);
   ~Node() override;
 
   const MCHAR* GetName() override { return name_; }
@@ -81,6 +83,7 @@ class Node final : public INode {
   /// Gives pivot and geometry new places in the world; `keepKids` leaves the children where they are.
   void place(const Matrix3& nodeTM, const Matrix3& objectTM, bool keepKids);
 
+  Scene& scene_;
   Node* parent_ = nullptr;
   std::vector<Ref<Node>> children_;
   Ref<Object> object_;

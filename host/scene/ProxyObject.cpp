@@ -1,20 +1,15 @@
 #include "host/scene/ProxyObject.h"
 
-#include "host/application/Application.h"
-#include "host/application/Listener.h"
 #include "host/files/Paths.h"
 #include "host/meshes/MeshCache.h"
-#include "host/scene/Scene.h"
-#include "host/scene/StandInMesh.h"
-#include "host/view/RayMesh.h"
+#include "host/meshes/PlaceholderMesh.h"
+#include "host/rays/RayMesh.h"
+#include "host/services/Listener.h"
 
 namespace host {
 
 ProxyObject::ProxyObject() : loaded_(std::make_shared<Loaded>()) {
-  const auto forget = [loaded = loaded_] {
-    *loaded = Loaded();
-    Application::instance().scene().touchAppearance();
-  };
+  const auto forget = [loaded = loaded_] { *loaded = Loaded(); };
   block_ = Ref<ParameterBlock>(
       new ParameterBlock(0, {{FILE_NAME, TYPE_FILENAME, std::wstring()}, {SCALE, TYPE_FLOAT, 1.0F}}, forget));
 }
@@ -43,11 +38,11 @@ std::wstring ProxyObject::fileName() const { return std::get<std::wstring>(block
 
 void ProxyObject::load() const {
   if (loaded_->mesh != nullptr) return;
-  const MeshReading reading = MeshCache::instance().get(resolvePath(fileName()).string());
-  loaded_->mesh = reading.mesh != nullptr ? reading.mesh : standInMesh();
+  const MeshResult reading = sharedMeshes().get(resolvePath(fileName()).string());
+  loaded_->mesh = reading.mesh != nullptr ? reading.mesh : placeholderMesh();
   loaded_->problem = reading.error;
   if (!reading.error.empty()) {
-    Application::instance().listener().report("Mesh " + toUtf8(fileName()) + ": " + reading.error);
+    Listener::instance().report("Mesh " + toUtf8(fileName()) + ": " + reading.error);
   }
 }
 

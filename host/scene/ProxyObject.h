@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "host/materials/ParameterBlock.h"
 #include "host/scene/Geometry.h"
-#include "host/scene/Ref.h"
+#include "host/services/ParameterBlock.h"
+#include "host/services/Ref.h"
 
 namespace host {
 

@@ -1,14 +1,14 @@
 #include "host/scene/Scene.h"
 
+#include <hold.h>
 #include <notify.h>
 
 #include <algorithm>
 #include <cwchar>
 
-#include "host/application/Application.h"
 #include "host/scene/GroupHead.h"
 #include "host/scene/SceneContent.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Change.h"
 
 namespace host {
 
@@ -46,7 +46,9 @@ Point3 centre(const std::vector<Node*>& nodes) {
 
 }  // namespace
 
-Scene::Scene() : root_(new Node(nullptr, L"Scene Root")), layers_(new LayerManager) { root_->isRoot_ = true; }
+Scene::Scene() : root_(new Node(*this, nullptr, L"Scene Root")), layers_(new LayerManager(*this)) {
+  root_->isRoot_ = true;
+}
 
 std::vector<Node*> Scene::nodes() const {
   std::vector<Node*> result;
@@ -86,7 +88,7 @@ void Scene::touchPlace(Node& node) {
 
 Node* Scene::create(Object* object) {
   if (object == nullptr) return nullptr;
-  const Ref<Node> node(new Node(object, defaultName(*object)));
+  const Ref<Node> node(new Node(*this, object, defaultName(*object)));
   node->layer_ = Ref<Layer>(static_cast<Layer*>(layers_->GetRootLayer()));
   applyChange([this, node] { leave(*node); }, [this, node] { enter(*node, {root_, LAST, node->local_}); });
   return node.get();
@@ -119,7 +121,7 @@ unsigned int Scene::remove(Node& node) {
   }
   const Place place = placeOf(node);
   applyChange([this, kept, place] { enter(*kept, place); }, [this, kept] { leave(*kept); });
-  node.gone_ = !Application::instance().undo().recording();
+  node.gone_ = theHold.Holding() == 0;
   if (place.parent->groupHead_) removeEmptyGroup(place.parent.get());
   return 1;
 }
@@ -191,7 +193,7 @@ void Scene::replace(const SceneContent& content) {
 }
 
 void Scene::build(const NodeContent& content, Node& parent) {
-  const Ref<Node> node(new Node(content.object.get(), content.name));
+  const Ref<Node> node(new Node(*this, content.object.get(), content.name));
   node->material_ = content.material;
   node->local_ = content.local;
   node->offset_ = content.offset;

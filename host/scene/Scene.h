@@ -10,7 +10,7 @@
 
 #include "host/scene/LayerManager.h"
 #include "host/scene/Node.h"
-#include "host/scene/Ref.h"
+#include "host/services/Ref.h"
 
 namespace host {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "host/scene/Node.h"
-#include "host/scene/Ref.h"
+#include "host/services/Ref.h"
 
 namespace host {
 

@@ -1,19 +1,18 @@
 #include "host/scene/SurroundingsObject.h"
 
-#include "host/application/Application.h"
-#include "host/application/Listener.h"
 #include "host/files/Paths.h"
 #include "host/meshes/MeshCache.h"
-#include "host/scene/StandInMesh.h"
-#include "host/view/RayMesh.h"
+#include "host/meshes/PlaceholderMesh.h"
+#include "host/rays/RayMesh.h"
+#include "host/services/Listener.h"
 
 namespace host {
 
 SurroundingsObject::SurroundingsObject(const std::wstring& file) : file_(file) {
-  MeshReading reading = MeshCache::instance().get(resolvePath(file));
-  mesh_ = reading.mesh != nullptr ? std::move(reading.mesh) : standInMesh();
+  MeshResult reading = sharedMeshes().get(resolvePath(file));
+  mesh_ = reading.mesh != nullptr ? std::move(reading.mesh) : placeholderMesh();
   problem_ = reading.error;
-  if (!problem_.empty()) Application::instance().listener().report("Mesh " + toUtf8(file) + ": " + problem_);
+  if (!problem_.empty()) Listener::instance().report("Mesh " + toUtf8(file) + ": " + problem_);
 }
 
 int SurroundingsObject::IntersectRay(TimeValue /*t*/, Ray& ray, float& at, Point3& norm) {

@@ -1,17 +1,15 @@
 #include "host/scripting/ScriptRunner.h"
 
-#include <maxscript/maxscript.h>
+#include <maxapi.h>
 
 #include <cstdint>
 #include <optional>
 
 #include "host/actions/ActionManager.h"
 #include "host/actions/QuickAccessBar.h"
-#include "host/application/Application.h"
-#include "host/application/HostInterface.h"
-#include "host/application/Listener.h"
 #include "host/files/Paths.h"
 #include "host/scripting/ScriptTokens.h"
+#include "host/services/Listener.h"
 
 namespace host {
 
@@ -36,26 +34,25 @@ std::optional<std::uint32_t> number(const std::wstring& text) {
   return value <= 0xFFFFFFFFU ? std::optional(static_cast<std::uint32_t>(value)) : std::nullopt;
 }
 
-std::string executeAction(const std::wstring& table, const std::wstring& command) {
+std::string executeAction(ActionManager& actions, const std::wstring& table, const std::wstring& command) {
   const auto tableId = number(table);
   const auto commandId = number(command);
-  const bool ran =
-      tableId && commandId && Application::instance().actions().executeAction(*tableId, static_cast<int>(*commandId));
+  const bool ran = tableId && commandId && actions.executeAction(*tableId, static_cast<int>(*commandId));
   return ran ? "" : "No such action is active: " + toUtf8(table) + " \"" + toUtf8(command) + "\"";
 }
 
 }  // namespace
 
 std::string ScriptRunner::execute(const Tokens& tokens) {
-  Application& application = Application::instance();
   if (matches(tokens, L"qat.add", "tt")) {
-    application.quickAccess().add(tokens[1].value, tokens[2].value);
+    quickAccess_.add(tokens[1].value, tokens[2].value);
     return "";
   }
-  if (matches(tokens, L"actionman.executeaction", "wt")) return executeAction(tokens[1].value, tokens[2].value);
+  if (matches(tokens, L"actionman.executeaction", "wt"))
+    return executeAction(actions_, tokens[1].value, tokens[2].value);
   if (matches(tokens, L"animbuttonstate", "ww") && tokens[1].value == L"=" &&
       (tokens[2].value == L"true" || tokens[2].value == L"false")) {
-    application.interface().SetAnimateButtonState(tokens[2].value == L"true" ? TRUE : FALSE);
+    interface_.SetAnimateButtonState(tokens[2].value == L"true" ? TRUE : FALSE);
     return "";
   }
   return "Script not understood";
@@ -65,12 +62,8 @@ bool ScriptRunner::run(const std::wstring& text) {
   texts_.push_back(text);
   const std::string problem = execute(scriptTokens(text));
   if (problem.empty()) return true;
-  Application::instance().listener().report(problem + ": " + toUtf8(text));
+  Listener::instance().report(problem + ": " + toUtf8(text));
   return false;
 }
 
 }  // namespace host
-
-BOOL ExecuteMAXScriptScript(const MCHAR* text, BOOL /*quietErrors*/, FPValue* /*value*/) {
-  return text != nullptr && host::Application::instance().scripts().run(text) ? TRUE : FALSE;
-}

@@ -9,7 +9,7 @@ namespace {
 
 const Point3 threeQuarterFront(0.42F, -1.0F, 0.19F);
 // A little air around what is framed.
-constexpr float margin = 1.10F;
+constexpr float MARGIN = 1.10F;
 
 Box3 framed(const Box3& box) {
   if (!box.IsEmpty() && box.Width().Length() > 0.0F) return box;
@@ -40,7 +40,7 @@ Camera::Camera(const Point3& eye, const Point3& target, float verticalAngle) : e
 Camera Camera::framing(const Box3& worldBounds, float aspect) {
   const Box3 box = framed(worldBounds);
   const Camera direction(threeQuarterFront, Point3());
-  const float tanY = std::tan(defaultAngle / 2.0F) / margin;
+  const float tanY = std::tan(DEFAULT_ANGLE / 2.0F) / MARGIN;
   const float tanX = tanY * std::max(aspect, 0.01F);
 
   // The nearest eye from which every corner is inside the four planes of view: each pair of planes asks for a place of

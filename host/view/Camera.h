@@ -12,7 +12,7 @@ namespace host {
 class Camera {
  public:
   /// `verticalAngle` in radians. An eye on its target looks along Y.
-  Camera(const Point3& eye, const Point3& target, float verticalAngle = defaultAngle);
+  Camera(const Point3& eye, const Point3& target, float verticalAngle = DEFAULT_ANGLE);
 
   /// Sees the whole box from in front (things face -Y), a little from the right and from above. `aspect` is width by
   /// height. The same picture in any unit; an empty box is seen as one around the origin.
@@ -26,7 +26,7 @@ class Camera {
   /// Where a place in the world is in the picture; nothing for what is not in front of the eye.
   std::optional<QPointF> project(const Point3& world, int width, int height) const;
 
-  static constexpr float defaultAngle = 0.50F;
+  static constexpr float DEFAULT_ANGLE = 0.50F;
 
  private:
   Point3 eye_;

@@ -7,10 +7,10 @@ namespace host {
 
 namespace {
 
-constexpr float exposure = 0.72F;
+constexpr float EXPOSURE = 0.72F;
 
 float filmicChannel(float light) {
-  const float x = std::max(0.0F, light) * exposure;
+  const float x = std::max(0.0F, light) * EXPOSURE;
   // A rational curve with a short toe and a long shoulder.
   return std::min(1.0F, (x * (2.51F * x + 0.03F)) / (x * (2.43F * x + 0.59F) + 0.14F));
 }

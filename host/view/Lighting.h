@@ -18,6 +18,6 @@ Color skyLight(const Point3& direction);
 Color openSkyLight();
 
 /// Sine of the angle at which the edge of the sun stands from its middle; wider than the real one, for soft shadows.
-constexpr float sunRadius = 0.048F;
+constexpr float SUN_RADIUS = 0.048F;
 
 }  // namespace host

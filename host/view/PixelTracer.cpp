@@ -10,9 +10,9 @@ namespace host {
 
 namespace {
 
-constexpr float nowhere = std::numeric_limits<float>::infinity();
+constexpr float NOWHERE = std::numeric_limits<float>::infinity();
 /// Translucent surfaces behind each other that are still told apart.
-constexpr int mostLayers = 16;
+constexpr int MOST_LAYERS = 16;
 
 float smoothStep(float from, float to, float value) {
   const float t = std::clamp((value - from) / (to - from), 0.0F, 1.0F);
@@ -51,7 +51,7 @@ class Spread {
     squares_ += seen * seen;
   }
   bool within(float deviation) const {
-    if (count_ < fewest || deviation <= 0.0F) return false;
+    if (count_ < FEWEST || deviation <= 0.0F) return false;
     const float count = static_cast<float>(count_);
     const float variance = std::max(0.0F, squares_ - sum_ * sum_ / count) / (count - 1.0F);
     return variance < deviation * deviation * count;
@@ -59,7 +59,7 @@ class Spread {
 
  private:
   /// Fewer samples than these may agree by chance.
-  static constexpr int fewest = 4;
+  static constexpr int FEWEST = 4;
 
   int count_ = 0;
   float sum_ = 0.0F;
@@ -103,7 +103,7 @@ Coverage PixelTracer::sample(const Ray& ray, int y, const SampleSource& source) 
   Coverage sum;
   Ray rest = ray;
   float travelled = 0.0F;
-  for (int layer = 0; layer < mostLayers && sum.alpha < 0.99F; ++layer) {
+  for (int layer = 0; layer < MOST_LAYERS && sum.alpha < 0.99F; ++layer) {
     std::optional<SceneHit> hit = scene_.intersect(rest, {}, ground - travelled);
     if (!hit) break;
     hit->distance += travelled;
@@ -112,13 +112,13 @@ Coverage PixelTracer::sample(const Ray& ray, int y, const SampleSource& source) 
     travelled = hit->distance * (1.0F + 4e-5F);
     rest.p = ray.p + ray.dir * travelled;
   }
-  if (sum.alpha < 0.99F) addBehind(sum, ground < nowhere ? groundSeen(ray, ground, y, source) : background(y));
+  if (sum.alpha < 0.99F) addBehind(sum, ground < NOWHERE ? groundSeen(ray, ground, y, source) : background(y));
   return sum;
 }
 
 float PixelTracer::groundDistance(const Ray& ray) const {
   const bool seen = options_.ground && ray.p.z > 0.0F && ray.dir.z < 0.0F;
-  return seen ? ray.p.z / -ray.dir.z : nowhere;
+  return seen ? ray.p.z / -ray.dir.z : NOWHERE;
 }
 
 Coverage PixelTracer::groundSeen(const Ray& ray, float distance, int y, const SampleSource& source) const {

@@ -2,8 +2,8 @@
 
 #include <color.h>
 
+#include "host/rays/RayScene.h"
 #include "host/view/Camera.h"
-#include "host/view/RayScene.h"
 #include "host/view/Renderer.h"
 #include "host/view/SamplePattern.h"
 #include "host/view/Shader.h"

@@ -1,14 +1,12 @@
 #include "host/view/Renderer.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
 #include <thread>
 #include <vector>
 
-#include "host/files/WholeFile.h"
-#include "host/scene/Geometry.h"
+#include "host/geometry/Bounds.h"
 #include "host/view/ColorCurves.h"
 #include "host/view/PixelTracer.h"
 
@@ -16,7 +14,7 @@ namespace host {
 
 namespace {
 
-constexpr int tileSize = 32;
+constexpr int TILE_SIZE = 32;
 
 /// A byte for a value from 0 to 1; `grain`, from 0 to 1, decides which way a value between two bytes goes.
 int toByte(float value, float grain) { return std::clamp(static_cast<int>(value * 255.0F + grain), 0, 255); }
@@ -36,8 +34,8 @@ class TileQueue {
  public:
   TileQueue(const PixelTracer& tracer, const RenderOptions& options, QImage& image)
       : tracer_(tracer), options_(options), bits_(image.bits()), stride_(image.bytesPerLine()) {
-    columns_ = (options.width + tileSize - 1) / tileSize;
-    count_ = columns_ * ((options.height + tileSize - 1) / tileSize);
+    columns_ = (options.width + TILE_SIZE - 1) / TILE_SIZE;
+    count_ = columns_ * ((options.height + TILE_SIZE - 1) / TILE_SIZE);
   }
 
   /// Draws tiles until none is left or the picture is cancelled.
@@ -55,11 +53,11 @@ class TileQueue {
   bool cancelled() const { return options_.cancel != nullptr && *options_.cancel; }
 
   void draw(int tile) {
-    const int left = tile % columns_ * tileSize;
-    const int top = tile / columns_ * tileSize;
-    for (int y = top; y < std::min(top + tileSize, options_.height); ++y) {
+    const int left = tile % columns_ * TILE_SIZE;
+    const int top = tile / columns_ * TILE_SIZE;
+    for (int y = top; y < std::min(top + TILE_SIZE, options_.height); ++y) {
       QRgb* line = reinterpret_cast<QRgb*>(bits_ + y * stride_);
-      for (int x = left; x < std::min(left + tileSize, options_.width); ++x)
+      for (int x = left; x < std::min(left + TILE_SIZE, options_.width); ++x)
         line[x] = stored(tracer_.pixel(x, y), x, y);
     }
   }
@@ -127,14 +125,6 @@ QImage render(const RayScene& scene, const Camera& camera, const RenderOptions& 
   drawLabels(image, scene, camera);
   if (options.progress) options.progress(1.0F);
   return image;
-}
-
-std::string writePicture(const QImage& picture, const std::filesystem::path& file) {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  if (!picture.save(&buffer, "PNG")) return "the picture cannot be written as PNG";
-  return writeWholeFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 }  // namespace host

@@ -3,12 +3,10 @@
 #include <QColor>
 #include <QImage>
 #include <atomic>
-#include <filesystem>
 #include <functional>
-#include <string>
 
+#include "host/rays/RayScene.h"
 #include "host/view/Camera.h"
-#include "host/view/RayScene.h"
 
 namespace host {
 
@@ -39,8 +37,5 @@ struct RenderOptions {
 /// Draws the scene with sun and sky, ready to be shown or saved; the same picture on every run. A null image when it
 /// was cancelled or the options are out of range.
 QImage render(const RayScene& scene, const Camera& camera, const RenderOptions& options);
-
-/// Writes a PNG whole or not at all. Answers an empty text, or what went wrong.
-[[nodiscard]] std::string writePicture(const QImage& picture, const std::filesystem::path& file);
 
 }  // namespace host

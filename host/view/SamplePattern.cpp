@@ -7,7 +7,7 @@ namespace host {
 
 namespace {
 
-constexpr float twoPi = 6.28318531F;
+constexpr float TWO_PI = 6.28318531F;
 
 std::uint32_t mixed(std::uint32_t x) {
   x ^= x >> 16U;
@@ -53,7 +53,7 @@ SamplePattern::Pair onDisk(const SamplePattern::Pair& pair) {
   if (x == 0.0F && y == 0.0F) return {0.0F, 0.0F};
   const bool wide = std::abs(x) > std::abs(y);
   const float radius = wide ? x : y;
-  const float angle = wide ? twoPi / 8.0F * (y / x) : twoPi / 4.0F - twoPi / 8.0F * (x / y);
+  const float angle = wide ? TWO_PI / 8.0F * (y / x) : TWO_PI / 4.0F - TWO_PI / 8.0F * (x / y);
   return {radius * std::cos(angle), radius * std::sin(angle)};
 }
 

@@ -2,10 +2,10 @@
 
 #include <map>
 
-#include "host/materials/Surfaces.h"
 #include "host/scene/ProxyObject.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
+#include "host/view/Surfaces.h"
 
 namespace host {
 
@@ -25,7 +25,7 @@ class SurfaceTable {
 };
 
 /// Whether a box is seen where the file of the object should be.
-bool standsIn(const Geometry& geometry) {
+bool isPlaceholder(const Geometry& geometry) {
   const auto* proxy = dynamic_cast<const ProxyObject*>(&geometry);
   if (proxy != nullptr) return !proxy->problem().empty();
   const auto* surroundings = dynamic_cast<const SurroundingsObject*>(&geometry);
@@ -46,7 +46,7 @@ std::vector<ViewItem> viewItems(const Scene& scene) {
     item.toWorld = node->GetObjectTM(0);
     item.surfaces = surfaces.of(node->GetMtl());
     item.node = node;
-    if (standsIn(*geometry)) item.label = node->GetName();
+    if (isPlaceholder(*geometry)) item.label = node->GetName();
     items.push_back(std::move(item));
   }
   return items;

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/view/ViewItem.h"
+#include "host/rays/ViewItem.h"
 
 namespace host {
 

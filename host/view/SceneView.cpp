@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/scene/Geometry.h"
+#include "host/geometry/Bounds.h"
 #include "host/scene/Scene.h"
 #include "host/view/SceneItems.h"
 

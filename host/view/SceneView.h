@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/view/RayScene.h"
+#include "host/rays/RayScene.h"
 
 namespace host {
 

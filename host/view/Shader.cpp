@@ -10,13 +10,13 @@ namespace host {
 
 namespace {
 
-constexpr std::uint32_t skyRays = 3;
+constexpr std::uint32_t SKY_RAYS = 3;
 /// How far, as a cosine, light creeps around the softest surface.
-constexpr float creepAtMost = 0.35F;
+constexpr float CREEP_AT_MOST = 0.35F;
 /// Of the distance to the eye: a tenth of a pixel, so that starting a ray this far off a surface never shows.
-constexpr float liftOff = 1e-4F;
+constexpr float LIFT_OFF = 1e-4F;
 /// How much of a polished surface's light comes from a mirror image when it is looked at squarely.
-constexpr float squareReflection = 0.04F;
+constexpr float SQUARE_REFLECTION = 0.04F;
 
 Color operator+(const Color& a, const Color& b) { return {a.r + b.r, a.g + b.g, a.b + b.b}; }
 Color operator*(const Color& a, const Color& b) { return {a.r * b.r, a.g * b.g, a.b * b.b}; }
@@ -30,7 +30,7 @@ Color baseColor(const Surface& surface, const TexCoord& coord) {
 float fresnel(float cosine, float highest) {
   const float away = 1.0F - std::clamp(cosine, 0.0F, 1.0F);
   const float square = away * away;
-  return squareReflection + (highest - squareReflection) * square * square * away;
+  return SQUARE_REFLECTION + (highest - SQUARE_REFLECTION) * square * square * away;
 }
 
 /// The sun's highlight: a GGX lobe with Smith's shadowing, as a factor of the sun's light.
@@ -49,7 +49,7 @@ float highlight(const Point3& normal, const Point3& toEye, const Point3& toSun, 
 
 /// How strongly the sun falls on a surface; light creeps around a soft one.
 float sunFalloff(float cosine, float softness) {
-  const float creep = creepAtMost * softness;
+  const float creep = CREEP_AT_MOST * softness;
   return std::max(0.0F, (cosine + creep) / (1.0F + creep));
 }
 
@@ -63,7 +63,7 @@ Facing facing(const SceneHit& hit, const Point3& toEye) {
   const bool outside = hit.faceNormal % toEye >= 0.0F;
   const float side = outside ? 1.0F : -1.0F;
   const Point3 place = outside ? hit.smoothPosition : hit.position;
-  return {hit.normal * side, place + hit.faceNormal * (side * liftOff * hit.distance)};
+  return {hit.normal * side, place + hit.faceNormal * (side * LIFT_OFF * hit.distance)};
 }
 
 }  // namespace
@@ -77,7 +77,7 @@ Color Shader::light(const SceneHit& hit, const Ray& ray, const SampleSource& sou
   const float sunCosine = normal % sunDirection();
   const float diffuse = sunFalloff(sunCosine, surface.softness);
   // Light that creeps around a soft surface came in over its horizon.
-  const Point3 tilt = normal * std::max(0.0F, surface.softness * creepAtMost - sunCosine);
+  const Point3 tilt = normal * std::max(0.0F, surface.softness * CREEP_AT_MOST - sunCosine);
   Color result = base * skyReceived(start, normal, base * 0.35F, hit.distance, source);
   if (diffuse > 0.0F && sunSeen(start, tilt, source)) {
     const float shine = highlight(normal, toEye, sunDirection(), surface.roughness);
@@ -85,13 +85,13 @@ Color Shader::light(const SceneHit& hit, const Ray& ray, const SampleSource& sou
   }
   const float cosine = normal % toEye;
   const Point3 mirrored = normal * (2.0F * cosine) - toEye;
-  const float reflected = fresnel(cosine, std::max(squareReflection, 1.0F - surface.roughness));
+  const float reflected = fresnel(cosine, std::max(SQUARE_REFLECTION, 1.0F - surface.roughness));
   return result + skyFrom(start, mirrored, hit.distance) * (reflected * (1.0F - 0.6F * surface.roughness));
 }
 
 Color Shader::groundLight(const Point3& place, float eyeDistance, const SampleSource& source) const {
   const Point3 up(0, 0, 1);
-  const Point3 start = place + up * (liftOff * eyeDistance);
+  const Point3 start = place + up * (LIFT_OFF * eyeDistance);
   const Color direct = sunLight() * (sunDirection() % up);
   const Color open = openSkyLight();
   const Color sky = skyReceived(start, up, open * 0.12F, eyeDistance, source);
@@ -102,15 +102,15 @@ Color Shader::groundLight(const Point3& place, float eyeDistance, const SampleSo
 bool Shader::sunSeen(const Point3& start, const Point3& tilt, const SampleSource& source) const {
   Ray ray;
   ray.p = start;
-  ray.dir = coneDirection(sunDirection(), sunRadius, source.pair(SamplePattern::Sun)) + tilt;
+  ray.dir = coneDirection(sunDirection(), SUN_RADIUS, source.pair(SamplePattern::Sun)) + tilt;
   return !scene_.occluded(ray, std::numeric_limits<float>::infinity(), source.pair(SamplePattern::Opacity).x);
 }
 
 Color Shader::skyReceived(const Point3& start, const Point3& normal, const Color& nearby, float eyeDistance,
                           const SampleSource& source) const {
   Color sum;
-  for (std::uint32_t i = 0; i < skyRays; ++i) {
-    const SampleSource own{source.pattern, source.index * skyRays + i, source.count * skyRays};
+  for (std::uint32_t i = 0; i < SKY_RAYS; ++i) {
+    const SampleSource own{source.pattern, source.index * SKY_RAYS + i, source.count * SKY_RAYS};
     Ray ray;
     ray.p = start;
     ray.dir = cosineDirection(normal, own.pair(SamplePattern::Sky));
@@ -118,7 +118,7 @@ Color Shader::skyReceived(const Point3& start, const Point3& normal, const Color
         scene_.occluded(ray, std::numeric_limits<float>::infinity(), own.pair(SamplePattern::Opacity).y);
     sum = sum + (blocked ? nearby : skyFrom(start, ray.dir, eyeDistance));
   }
-  return sum * (1.0F / static_cast<float>(skyRays));
+  return sum * (1.0F / static_cast<float>(SKY_RAYS));
 }
 
 Color Shader::skyFrom(const Point3& start, const Point3& direction, float eyeDistance) const {

@@ -2,7 +2,7 @@
 
 #include <color.h>
 
-#include "host/view/RayScene.h"
+#include "host/rays/RayScene.h"
 #include "host/view/SamplePattern.h"
 
 namespace host {

@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-constexpr qint64 mostPixels = 64'000'000;
+constexpr qint64 MOST_PIXELS = 64'000'000;
 
 const std::array<float, 256>& linearOfByte() {
   static const std::array<float, 256> table = [] {
@@ -42,11 +42,11 @@ Color mix(const Color& a, const Color& b, float share) {
 
 }  // namespace
 
-Texture::Reading Texture::read(const std::filesystem::path& file) {
+Texture::Result Texture::read(const std::filesystem::path& file) {
   QImageReader reader(QString::fromStdString(file.u8string()));
   reader.setDecideFormatFromContent(true);
   const QSize size = reader.size();
-  if (size.isValid() && qint64(size.width()) * size.height() > mostPixels) {
+  if (size.isValid() && qint64(size.width()) * size.height() > MOST_PIXELS) {
     return {nullptr, "the picture has more than 64 megapixels"};
   }
   if (!size.isValid() && reader.canRead()) return {nullptr, "the picture does not say how large it is"};

@@ -14,10 +14,10 @@ namespace host {
 /// A picture to be laid on a surface, repeated beyond its edges. Never changes.
 class Texture {
  public:
-  struct Reading;
+  struct Result;
 
   /// Reads any picture format that Qt knows; one of more than 64 megapixels is refused before it is decoded.
-  static Reading read(const std::filesystem::path& file);
+  static Result read(const std::filesystem::path& file);
   explicit Texture(const QImage& picture, std::filesystem::path file = {});
 
   /// Linear light, between pixels bilinear. Any coordinates may be given.
@@ -33,7 +33,7 @@ class Texture {
 };
 
 /// The texture, or one line that says why there is none.
-struct Texture::Reading {
+struct Texture::Result {
   std::shared_ptr<const Texture> texture;
   std::string error;
 };

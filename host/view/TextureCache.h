@@ -1,20 +1,14 @@
 #pragma once
 
-#include "host/meshes/SharedFiles.h"
+#include "host/files/FileCache.h"
 #include "host/view/Texture.h"
 
 namespace host {
 
-/// Textures decoded when first needed, shared by path, size and time of the file. A texture dies with its last user.
-class TextureCache {
- public:
-  static TextureCache& instance();
+/// Decoded textures by path, size and time of their files. A texture dies with its last user.
+using TextureCache = FileCache<Texture, Texture::Result>;
 
-  /// `file` is resolved already.
-  Texture::Reading get(const std::filesystem::path& file);
-
- private:
-  SharedFiles<Texture> files_;
-};
+/// The one that all pictures share.
+TextureCache& sharedTextures();
 
 }  // namespace host

@@ -42,7 +42,7 @@ class Viewport final : public ViewExp {
   /// Keeps the direction and shows the whole box; an empty one is left alone.
   void frame(const Box3& worldBounds);
 
-  static constexpr float verticalAngle = 0.70F;
+  static constexpr float VERTICAL_ANGLE = 0.70F;
 
  private:
   Point3 towardsEye() const;

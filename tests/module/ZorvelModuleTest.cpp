@@ -9,10 +9,10 @@
 #include "host/actions/IconFolders.h"
 #include "host/actions/QuickAccessBar.h"
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
-#include "host/application/Notifications.h"
 #include "host/plugins/ModuleLoader.h"
 #include "host/scripting/ScriptRunner.h"
+#include "host/services/Listener.h"
+#include "host/services/Notifications.h"
 #include "tests/support/LocalAppData.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include "core/Settings.h"
 #include "host/application/Application.h"
-#include "host/application/FileDialog.h"
+#include "host/services/FileDialog.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"

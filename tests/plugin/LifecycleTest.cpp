@@ -3,8 +3,8 @@
 
 #include "core/Settings.h"
 #include "host/application/Application.h"
-#include "host/application/Notifications.h"
 #include "host/scripting/ScriptRunner.h"
+#include "host/services/Notifications.h"
 #include "model/Data2.h"
 #include "plugin/zorvel.h"
 #include "tests/support/LocalAppData.h"

@@ -256,7 +256,7 @@ TEST_F(SampleRepository, HasClosedBodiesOnTheGroundOfTheRightHeightAndMeshesThat
   for (const auto& [path, content] : contentOf(root())) {
     bytes += content.size();
     if (fs::path(path).extension() != ".vrmesh") continue;
-    const host::MeshReading file = host::readMeshFile(root() / path);
+    const host::MeshResult file = host::readMeshFile(root() / path);
     ASSERT_TRUE(file.mesh) << path;
     EXPECT_GT(volume(*file.mesh), 0) << path;
     EXPECT_TRUE(MeshEdges(*file.mesh).closed()) << path;

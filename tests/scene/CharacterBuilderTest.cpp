@@ -5,10 +5,10 @@
 
 #include "host/application/Application.h"
 #include "host/application/ClassRegistry.h"
-#include "host/application/Prompts.h"
 #include "host/scene/ProxyObject.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Prompts.h"
+#include "host/services/UndoStack.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
 #include "tests/support/LoadedRepositoryFixture.h"

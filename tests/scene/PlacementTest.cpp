@@ -6,14 +6,14 @@
 #include <cmath>
 
 #include "host/application/Application.h"
-#include "host/application/Prompts.h"
 #include "host/meshes/Mesh.h"
 #include "host/modes/CommandModes.h"
 #include "host/modes/MouseFeed.h"
 #include "host/scene/LampHelper.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Prompts.h"
+#include "host/services/UndoStack.h"
 #include "host/view/Viewports.h"
 #include "scene/CharacterBuilder.h"
 #include "scene/PlacementPickMode.h"

@@ -4,7 +4,7 @@
 
 #include <chrono>
 
-#include "tests/meshes/Shapes.h"
+#include "tests/host/meshes/Shapes.h"
 
 using stage::PictureWorker;
 using stage::TileBoard;

@@ -11,9 +11,9 @@
 #include "apps/stage/StageMenus.h"
 #include "host/actions/ActionManager.h"
 #include "host/application/Application.h"
-#include "host/application/Units.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/UndoStack.h"
+#include "host/services/Units.h"
 #include "tests/stage/StageFixture.h"
 
 namespace {

@@ -14,10 +14,10 @@
 #include "apps/stage/PluginWindows.h"
 #include "apps/stage/Stage.h"
 #include "host/application/Application.h"
-#include "host/application/Prompts.h"
-#include "host/export/SceneJson.h"
+#include "host/formats/SceneJson.h"
 #include "host/scene/Scene.h"
-#include "host/undo/UndoStack.h"
+#include "host/services/Prompts.h"
+#include "host/services/UndoStack.h"
 #include "tests/stage/ManagerWindow.h"
 #include "tests/support/SmallRepository.h"
 
@@ -216,7 +216,7 @@ TEST_F(WholeUse, WhatIsChosenByClicksIsTheSceneThatTheCommandLineMakesFromTheSam
     for (const char* step : {"move", "click"}) play(window, step, QPoint(430, 330));
     for (const char* step : {"move", "click"}) play(window, step, QPoint(500, 310));
     place = placeOfLast();
-    byHand = Json::parse(host::sceneJson(Application::instance().scene()));
+    byHand = Json::parse(host::sceneJson(Application::instance().scene(), Application::instance().units()));
     play(window, "undo", {});
     EXPECT_TRUE(Application::instance().scene().nodes().empty());
   }

@@ -1,7 +1,7 @@
 #include "tests/support/LoadedRepositoryFixture.h"
 
 #include "host/application/Application.h"
-#include "host/application/Listener.h"
+#include "host/services/Listener.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"

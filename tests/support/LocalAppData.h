@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/winapi/LocalAppData.h"
+#include "host/files/LocalAppData.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace support {

@@ -41,6 +41,17 @@ class ElementPages : public support::WindowFixture {
   }
 };
 
+TEST_F(ElementPages, OfferAMaterialOfTheClothingEvenWithoutItsPicture) {
+  files().remove("anna/blouse/red.png");
+  files().remove("anna/skin/light.png");
+  clickNode(node("Anna", "Dress"));
+  clickNode(node("Anna", "Blouse"));
+  EXPECT_EQ(names("Fabric"), (QStringList{"Red", "Green"}));
+  EXPECT_EQ(checked("Fabric"), QStringList("Red"));
+  EXPECT_EQ(element("Fabric", "Red").GetPicture(), nullptr);
+  EXPECT_EQ(names("Skin"), QStringList("Dark")) << "poses, skins and assets are shown by their pictures";
+}
+
 TEST_F(ElementPages, ShowOneTabForEachKindThatHasSomething) {
   EXPECT_EQ(titles(), (QStringList{"Pose", "Skin", "Fabric", "Things", "Hats", "Shoes", "Seats"}));
   EXPECT_EQ(tabs().currentIndex(), 0);

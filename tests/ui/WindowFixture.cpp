@@ -5,8 +5,8 @@
 
 #include "core/Settings.h"
 #include "host/application/Application.h"
-#include "host/application/FileDialog.h"
 #include "host/modes/CommandModes.h"
+#include "host/services/FileDialog.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
@@ -14,6 +14,16 @@
 #include "ui/PictureCache.h"
 
 namespace support {
+
+namespace {
+
+/// Only what has no picture is known by its box alone.
+QString nameOf(const ZORVEL::MainWindowElementBase& element) {
+  const ZORVEL::PictureBox* picture = element.GetPicture();
+  return picture != nullptr ? picture->accessibleName() : element.GetCheckBox()->text();
+}
+
+}  // namespace
 
 using ZORVEL::Data2;
 using ZORVEL::MainWindowClass;
@@ -140,7 +150,7 @@ void WindowFixture::clickPicture(const QString& title, const QString& name) {
 
 QStringList WindowFixture::names(const QString& title) {
   QStringList all;
-  for (const auto& element : page(title).GetElements()) all.append(element->GetPicture()->accessibleName());
+  for (const auto& element : page(title).GetElements()) all.append(nameOf(*element));
   return all;
 }
 
@@ -148,7 +158,7 @@ QStringList WindowFixture::checked(const QString& title) {
   QStringList all;
   for (const auto& element : page(title).GetElements()) {
     if (element->isAvailable() && element->GetCheckBox()->isChecked()) {
-      all.append(element->GetPicture()->accessibleName());
+      all.append(nameOf(*element));
     }
   }
   return all;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/application/Application.h"
+#include "host/files/PictureFile.h"
 #include "host/view/SceneView.h"
 
 namespace stage {

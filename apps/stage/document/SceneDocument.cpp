@@ -4,9 +4,9 @@
 
 #include "apps/stage/document/Surroundings.h"
 #include "host/application/Application.h"
-#include "host/application/Units.h"
-#include "host/export/SceneFile.h"
+#include "host/application/SceneFile.h"
 #include "host/scene/Scene.h"
+#include "host/services/Units.h"
 
 namespace stage {
 

@@ -13,8 +13,8 @@
 
 #include "apps/stage/viewport/TileBoard.h"
 #include "apps/stage/viewport/TilePainter.h"
+#include "host/rays/RayScene.h"
 #include "host/view/Camera.h"
-#include "host/view/RayScene.h"
 
 namespace stage {
 

@@ -5,7 +5,7 @@
 #include "apps/stage/viewport/Bounds.h"
 #include "apps/stage/viewport/GroundGrid.h"
 #include "host/application/Application.h"
-#include "host/scene/Geometry.h"
+#include "host/geometry/Bounds.h"
 #include "host/scene/Scene.h"
 
 namespace stage {

@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "host/view/RayScene.h"
+#include "host/rays/RayScene.h"
 #include "host/view/Viewport.h"
 
 namespace stage {

@@ -1,0 +1,84 @@
+#include "host/application/SceneFile.h"
+
+#include <notify.h>
+
+#include <fstream>
+#include <optional>
+#include <sstream>
+
+#include "host/application/Application.h"
+#include "host/application/HostInterface.h"
+#include "host/formats/SceneJson.h"
+#include "host/formats/SceneReader.h"
+#include "host/formats/Unreadable.h"
+#include "host/scene/Scene.h"
+#include "host/services/Listener.h"
+#include "host/services/UndoStack.h"
+
+namespace host {
+
+namespace {
+
+constexpr std::uintmax_t MAXIMUM_BYTES = 1U << 30U;
+
+std::string report(const std::filesystem::path& file, const std::string& done, const std::string& problem) {
+  const std::string line = "Scene " + file.string() + " could not be " + done + ": " + problem + ".";
+  Listener::instance().report(line);
+  return line;
+}
+
+std::string contentOf(const std::filesystem::path& file) {
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(file, error);
+  if (error) throw Unreadable(error.message());
+  if (size > MAXIMUM_BYTES) throw Unreadable("it is too large for a scene");
+  std::ifstream stream(file, std::ios::binary);
+  std::ostringstream content;
+  content << stream.rdbuf();
+  if (!stream) throw Unreadable("it cannot be read");
+  return content.str();
+}
+
+/// Nothing, and `problem` says why, when any part of the file cannot be read.
+std::optional<SceneReading> read(const std::filesystem::path& file, std::string& problem) {
+  try {
+    return readScene(nlohmann::ordered_json::parse(contentOf(file), nullptr, false));
+  } catch (const nlohmann::json::exception& damage) {
+    problem = std::string("it is damaged: ") + damage.what();
+  } catch (const std::exception& damage) {
+    problem = damage.what();
+  }
+  return std::nullopt;
+}
+
+void takeOver(const SceneReading& reading) {
+  Application& application = Application::instance();
+  application.undo().clear();
+  application.units() = reading.units;
+  application.scene().replace(reading.content);
+  application.interface().clearMaterials();
+}
+
+}  // namespace
+
+std::string openScene(const std::filesystem::path& file) {
+  FileIOType type = IOTYPE_MAX;
+  std::string problem;
+  const std::optional<SceneReading> reading = read(file, problem);
+  if (!reading) {
+    BroadcastNotification(NOTIFY_FILE_OPEN_FAILED, &type);
+    return report(file, "opened", problem);
+  }
+  BroadcastNotification(NOTIFY_FILE_PRE_OPEN, &type);
+  takeOver(*reading);
+  BroadcastNotification(NOTIFY_FILE_POST_OPEN, &type);
+  return "";
+}
+
+std::string saveScene(const std::filesystem::path& file) {
+  Application& application = Application::instance();
+  const std::string problem = writeSceneJson(application.scene(), application.units(), file);
+  return problem.empty() ? "" : report(file, "saved", problem);
+}
+
+}  // namespace host

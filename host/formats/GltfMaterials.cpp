@@ -1,0 +1,96 @@
+#include "host/formats/GltfMaterials.h"
+
+#include <imtl.h>
+
+#include <QFile>
+#include <QImage>
+#include <QString>
+#include <algorithm>
+
+#include "host/files/PictureFile.h"
+#include "host/meshes/GltfGeometry.h"
+#include "host/view/Surfaces.h"
+#include "host/view/Texture.h"
+
+namespace host {
+
+namespace {
+
+struct Picture {
+  QByteArray bytes;
+  const char* mimeType;
+};
+
+/// The file's own bytes where glTF allows its format, else the same picture as PNG; no bytes where it cannot be read.
+Picture pictureOf(const std::filesystem::path& path) {
+  const QString name = QString::fromStdString(path.u8string());
+  QFile file(name);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray bytes = file.readAll();
+  if (bytes.startsWith("\x89PNG")) return {bytes, "image/png"};
+  if (bytes.startsWith("\xFF\xD8\xFF")) return {bytes, "image/jpeg"};
+  return {pngBytes(QImage::fromData(bytes)), "image/png"};
+}
+
+std::string nameOf(Mtl* material, std::size_t slot, std::size_t slotCount) {
+  if (material == nullptr) return "Clay";
+  const MSTR name = material->GetName();
+  const std::string text = QString::fromWCharArray(name.data()).toStdString();
+  return slotCount > 1 ? text + " " + std::to_string(slot + 1) : text;
+}
+
+}  // namespace
+
+int GltfMaterials::indexOf(Mtl* material, std::size_t materialId) {
+  const std::vector<Surface>& all = surfaces(material);
+  const std::size_t slot = materialId % all.size();
+  const auto known = materials_.find({material, slot});
+  if (known != materials_.end()) return known->second;
+  return materials_[{material, slot}] = append(material, all[slot], slot, all.size());
+}
+
+const std::vector<Surface>& GltfMaterials::surfaces(Mtl* material) {
+  const auto known = surfaces_.find(material);
+  if (known != surfaces_.end()) return known->second;
+  std::vector<Surface> all = surfacesOf(material);
+  if (all.empty()) all.emplace_back();
+  return surfaces_[material] = std::move(all);
+}
+
+int GltfMaterials::append(Mtl* material, const Surface& surface, std::size_t slot, std::size_t slotCount) {
+  const auto share = [](float value) { return static_cast<double>(std::clamp(value, 0.0F, 1.0F)); };
+  tinygltf::Material result;
+  result.name = nameOf(material, slot, slotCount);
+  result.doubleSided = true;
+  result.alphaMode = surface.opacity < 1.0F ? "BLEND" : "OPAQUE";
+  tinygltf::PbrMetallicRoughness& look = result.pbrMetallicRoughness;
+  look.baseColorFactor = {share(surface.color.r), share(surface.color.g), share(surface.color.b),
+                          share(surface.opacity)};
+  look.metallicFactor = 0.0;
+  look.roughnessFactor = share(surface.roughness);
+  if (surface.texture) look.baseColorTexture.index = textureOf(surface.texture->file());
+  model_.materials.push_back(result);
+  return static_cast<int>(model_.materials.size()) - 1;
+}
+
+int GltfMaterials::textureOf(const std::filesystem::path& file) {
+  const auto known = textures_.find(file);
+  if (known != textures_.end()) return known->second;
+  return textures_[file] = appendTexture(file);
+}
+
+int GltfMaterials::appendTexture(const std::filesystem::path& file) {
+  const Picture picture = pictureOf(file);
+  if (picture.bytes.isEmpty()) return -1;
+  tinygltf::Image image;
+  image.name = file.stem().u8string();
+  image.mimeType = picture.mimeType;
+  image.bufferView = appendBytes(model_, picture.bytes.constData(), static_cast<std::size_t>(picture.bytes.size()));
+  model_.images.push_back(image);
+  tinygltf::Texture texture;
+  texture.source = static_cast<int>(model_.images.size()) - 1;
+  model_.textures.push_back(texture);
+  return static_cast<int>(model_.textures.size()) - 1;
+}
+
+}  // namespace host

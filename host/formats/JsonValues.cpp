@@ -1,0 +1,29 @@
+#include "host/formats/JsonValues.h"
+
+#include <limits>
+
+namespace host {
+
+nlohmann::ordered_json matrixJson(const Matrix3& tm) {
+  nlohmann::ordered_json rows = nlohmann::ordered_json::array();
+  for (int i = 0; i < 4; ++i) {
+    const Point3 row = tm.GetRow(i);
+    rows.push_back({row.x, row.y, row.z});
+  }
+  return rows;
+}
+
+float floatFrom(const nlohmann::ordered_json& json) {
+  return json.is_null() ? std::numeric_limits<float>::quiet_NaN() : json.get<float>();
+}
+
+Matrix3 matrixFrom(const nlohmann::ordered_json& json) {
+  Matrix3 tm(TRUE);
+  for (int i = 0; i < 4; ++i) {
+    const nlohmann::ordered_json& row = json.at(static_cast<std::size_t>(i));
+    tm.SetRow(i, {floatFrom(row.at(0)), floatFrom(row.at(1)), floatFrom(row.at(2))});
+  }
+  return tm;
+}
+
+}  // namespace host

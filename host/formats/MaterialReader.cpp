@@ -1,0 +1,139 @@
+#include "host/formats/MaterialReader.h"
+#include "host/formats/Unreadable.h"
+
+#include "host/files/Paths.h"
+#include "host/materials/BitmapTexture.h"
+#include "host/materials/MaterialClasses.h"
+#include "host/materials/TextureMap.h"
+
+namespace host {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr int MAXIMUM_DEPTH = 32;
+constexpr std::size_t MAXIMUM_SLOTS = 1000;
+
+MSTR text(const Json& object, const char* key) {
+  const auto found = object.find(key);
+  if (found == object.end()) return {};
+  return toWide(found->get<std::string>()).c_str();
+}
+
+Class_ID classOf(const Json& object) {
+  const Json& value = object.at("class");
+  if (value.is_array()) return {value.at(0).get<std::uint32_t>(), value.at(1).get<std::uint32_t>()};
+  const auto name = value.get<std::string>();
+  if (name == "standard") return STANDARD_MATERIAL;
+  if (name == "multi") return MULTI_MATERIAL;
+  if (name == "scaled") return SCALED_MATERIAL;
+  if (name == "bitmap") return BITMAP_TEXTURE;
+  throw Unreadable("unknown class \"" + name + "\"");
+}
+
+/// What JSON cannot say, an infinity or no number at all, is written as null.
+float number(const Json& value) {
+  return value.is_null() ? std::numeric_limits<float>::quiet_NaN() : value.get<float>();
+}
+
+/// The one that a reference means, or a new one, remembered when it has an id.
+template <class T, class Make>
+Ref<T> sharedOrNew(std::map<int, Ref<T>>& known, const Json& object, Make make) {
+  const auto reference = object.find("ref");
+  if (reference != object.end()) {
+    const auto found = known.find(reference->get<int>());
+    if (found == known.end()) throw Unreadable("a reference leads nowhere");
+    return found->second;
+  }
+  const Ref<T> made = make(object);
+  const auto id = object.find("id");
+  if (id != object.end()) known[id->get<int>()] = made;
+  return made;
+}
+
+}  // namespace
+
+/// Counts how deep materials and maps hold each other.
+class MaterialReader::Deeper {
+ public:
+  explicit Deeper(int& depth) : depth_(depth) {
+    if (depth_ == MAXIMUM_DEPTH) throw Unreadable("materials hold each other too deeply");
+    ++depth_;
+  }
+  ~Deeper() { --depth_; }
+  Deeper(const Deeper&) = delete;
+  Deeper& operator=(const Deeper&) = delete;
+
+ private:
+  int& depth_;
+};
+
+template <class T, class Read>
+std::vector<Ref<T>> MaterialReader::list(const Json& object, const char* key, Read read) {
+  std::vector<Ref<T>> result;
+  const auto found = object.find(key);
+  if (found == object.end()) return result;
+  if (!found->is_array() || found->size() > MAXIMUM_SLOTS) throw Unreadable(std::string("bad list \"") + key + "\"");
+  for (const Json& one : *found) result.push_back(read(one));
+  return result;
+}
+
+Ref<Mtl> MaterialReader::material(const Json& object) {
+  const Deeper deeper(depth_);
+  if (object.is_null()) return {};
+  return sharedOrNew<Mtl>(materials_, object, [this](const Json& one) { return newMaterial(one); });
+}
+
+Ref<Mtl> MaterialReader::newMaterial(const Json& object) {
+  Material::Content content;
+  content.blocks = blocks(object);
+  content.subMaterials = list<Mtl>(object, "subMaterials", [this](const Json& one) { return material(one); });
+  content.subTextures = list<Texmap>(object, "subTextures", [this](const Json& one) { return map(one); });
+  const Ref<Mtl> result(new Material(classOf(object), std::move(content)));
+  result->SetName(text(object, "name"));
+  return result;
+}
+
+Ref<Texmap> MaterialReader::map(const Json& object) {
+  const Deeper deeper(depth_);
+  if (object.is_null()) return {};
+  return sharedOrNew<Texmap>(maps_, object, [this](const Json& one) { return newMap(one); });
+}
+
+Ref<Texmap> MaterialReader::newMap(const Json& object) {
+  const Class_ID id = classOf(object);
+  Ref<Texmap> result;
+  if (id == BITMAP_TEXTURE) {
+    result = Ref<Texmap>(new BitmapTexture(text(object, "file")));
+  } else {
+    auto slots = list<Texmap>(object, "subTextures", [this](const Json& one) { return map(one); });
+    result = Ref<Texmap>(new TextureMap(id, blocks(object), std::move(slots)));
+  }
+  result->SetName(text(object, "name"));
+  return result;
+}
+
+std::vector<Ref<ParameterBlock>> MaterialReader::blocks(const Json& object) {
+  BlockID next = 0;
+  return list<ParameterBlock>(object, "blocks", [&](const Json& one) {
+    std::vector<ParameterBlock::Parameter> parameters;
+    for (const Json& entry : one) parameters.push_back(parameter(entry));
+    return Ref<ParameterBlock>(new ParameterBlock(next++, std::move(parameters)));
+  });
+}
+
+ParameterBlock::Parameter MaterialReader::parameter(const Json& entry) {
+  const auto id = entry.at("id").get<ParamID>();
+  const auto type = entry.at("type").get<std::string>();
+  const Json& value = entry.at("value");
+  if (type == "float") return {id, TYPE_FLOAT, number(value)};
+  if (type == "int") return {id, TYPE_INT, value.get<int>()};
+  if (type == "color") return {id, TYPE_RGBA, Color(number(value.at(0)), number(value.at(1)), number(value.at(2)))};
+  if (type == "text") return {id, TYPE_STRING, toWide(value.get<std::string>())};
+  if (type == "material") return {id, TYPE_MTL, material(value)};
+  if (type == "texmap") return {id, TYPE_TEXMAP, map(value)};
+  throw Unreadable("unknown parameter type \"" + type + "\"");
+}
+
+}  // namespace host

@@ -1,0 +1,77 @@
+#include "host/formats/SceneJson.h"
+
+#include <ILayerProperties.h>
+
+#include <nlohmann/json.hpp>
+
+#include "host/files/Paths.h"
+#include "host/files/WholeFile.h"
+#include "host/formats/JsonValues.h"
+#include "host/formats/MaterialWriter.h"
+#include "host/formats/ObjectJson.h"
+#include "host/scene/Scene.h"
+#include "host/services/Units.h"
+
+namespace host {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json properties(const Node& node) {
+  Json json;
+  for (const auto& property : node.properties()) json[toUtf8(property.first.data())] = toUtf8(property.second.data());
+  return json;
+}
+
+/// Null for a node that is in no group.
+Json groupRole(Node& node) {
+  if (node.IsGroupHead() == FALSE) return node.IsGroupMember() != FALSE ? Json("member") : Json();
+  return node.IsGroupMember() != FALSE ? "member head" : "head";
+}
+
+class Writer {
+ public:
+  Json node(Node& node) {
+    Json json;
+    json["name"] = toUtf8(node.GetName());
+    json["handle"] = node.GetHandle();
+    json["transform"] = matrixJson(node.GetNodeTM(0));
+    json["local"] = matrixJson(node.localTM());
+    if (node.objectOffset().IsIdentity() == 0) json["objectOffset"] = matrixJson(node.objectOffset());
+    json["layer"] = toUtf8(node.layer()->getName());
+    const Json group = groupRole(node);
+    if (!group.is_null()) json["group"] = group;
+    if (node.Selected() != 0) json["selected"] = true;
+    if (!node.properties().empty()) json["properties"] = properties(node);
+    if (node.GetObjectRef() != nullptr) json["object"] = objects_.object(*node.GetObjectRef());
+    if (node.GetMtl() != nullptr) json["material"] = materials_.material(node.GetMtl());
+    for (const Ref<Node>& child : node.children()) json["children"].push_back(this->node(*child));
+    return json;
+  }
+
+ private:
+  ObjectWriter objects_;
+  MaterialWriter materials_;
+};
+
+}  // namespace
+
+std::string sceneJson(Scene& scene, const Units& units) {
+  Json json;
+  json["format"] = SCENE_FORMAT;
+  json["version"] = SCENE_FORMAT_VERSION;
+  json["unit"] = {{"type", units.type()}, {"scale", units.scale()}, {"centimetres", units.sceneUnitIn(4)}};
+  json["layers"] = Json::array();
+  for (const Ref<Layer>& layer : scene.layers().layers()) json["layers"].push_back(toUtf8(layer->getName()));
+  json["nodes"] = Json::array();
+  Writer writer;
+  for (const Ref<Node>& top : scene.root().children()) json["nodes"].push_back(writer.node(*top));
+  return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+std::string writeSceneJson(Scene& scene, const Units& units, const std::filesystem::path& file) {
+  return writeWholeFile(file, sceneJson(scene, units));
+}
+
+}  // namespace host

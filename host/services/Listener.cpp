@@ -1,0 +1,10 @@
+#include "host/services/Listener.h"
+
+namespace host {
+
+Listener& Listener::instance() {
+  static Listener listener;
+  return listener;
+}
+
+}  // namespace host

@@ -1,0 +1,10 @@
+#include "host/services/LookChanges.h"
+
+namespace host {
+
+LookChanges& LookChanges::instance() {
+  static LookChanges changes;
+  return changes;
+}
+
+}  // namespace host

@@ -1,0 +1,167 @@
+#include "host/rays/RayScene.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "host/rays/RayMesh.h"
+#include "tests/host/meshes/Shapes.h"
+
+using host::RayScene;
+using host::SceneHit;
+using host::ViewItem;
+using shapes::expectNear;
+
+namespace {
+
+std::shared_ptr<const host::Mesh> sharedSquare() {
+  static const auto square = std::make_shared<const host::Mesh>(shapes::square());
+  return square;
+}
+
+ViewItem squareAt(const Point3& place, INode* node = nullptr) {
+  ViewItem item;
+  item.mesh = sharedSquare();
+  item.toWorld.SetTrans(place);
+  item.node = node;
+  return item;
+}
+
+Ray ray(const Point3& from, const Point3& direction) {
+  Ray result;
+  result.p = from;
+  result.dir = direction;
+  return result;
+}
+
+/// Nodes are never looked into, so any two addresses do.
+char places[2];
+INode* const firstNode = reinterpret_cast<INode*>(&places[0]);
+INode* const secondNode = reinterpret_cast<INode*>(&places[1]);
+
+TEST(RayScene, MeasuresAScaledAndTurnedInstanceAlongARayOfAnyLength) {
+  ViewItem item = squareAt({});
+  item.toWorld.Scale({2, 3, 1});
+  item.toWorld.RotateZ(std::acos(-1.0F) / 2);
+  item.toWorld.Translate({10, 0, 5});
+  RayScene scene;
+  scene.setItems({squareAt({100, 0, 0}), item});
+  // (0.5, -0.5, 0) of the square: scaled (1, -1.5), turned a quarter (1.5, 1), moved (11.5, 1, 5).
+  const auto hit = scene.intersect(ray({11.5F, 1, 15}, {0, 0, -2.5F}));
+  ASSERT_TRUE(hit);
+  EXPECT_FLOAT_EQ(hit->distance, 4.0F);
+  EXPECT_EQ(hit->item, 1U);
+  EXPECT_EQ(hit->materialId, 0);
+  expectNear(hit->position, {11.5F, 1, 5});
+  expectNear(hit->normal, {0, 0, 1});
+  EXPECT_NEAR(hit->texCoord.u, 0.75F, 1e-5F);
+  EXPECT_NEAR(hit->texCoord.v, 0.25F, 1e-5F);
+  EXPECT_EQ(scene.intersect(ray({8.4F, 1, 15}, {0, 0, -1}))->materialId, 1);
+  EXPECT_FALSE(scene.intersect(ray({11.5F, 2.1F, 15}, {0, 0, -1})));
+  EXPECT_FALSE(scene.intersect(ray({11.5F, 1, 15}, {0, 0, 1})));
+  expectNear(scene.bounds().pmin, {7, -2, 0});
+  expectNear(scene.bounds().pmax, {101, 2, 5});
+}
+
+TEST(RayScene, CarriesSmoothNormalsThroughUnevenScaleAndMirrors) {
+  for (const float side : {1.0F, -1.0F}) {
+    ViewItem item;
+    item.mesh = shapes::sphere(1, {}, 64);
+    item.toWorld.Scale({side, 1, 2});
+    RayScene scene;
+    scene.setItems({item});
+    const auto hit = scene.intersect(ray({10, 0, 1}, {-1, 0, 0}));
+    ASSERT_TRUE(hit);
+    // On x^2 + y^2 + z^2/4 = 1 at z = 1 the gradient is (x, y, z/4).
+    expectNear(hit->normal, Point3(std::sqrt(0.75F), 0, 0.25F).Normalize(), 5e-3F);
+    EXPECT_GT(hit->faceNormal % hit->normal, 0.99F);
+  }
+}
+
+TEST(RayScene, LooksThroughWhatTheFilterRefuses) {
+  RayScene scene;
+  scene.setItems({squareAt({0, 0, 3}, firstNode), squareAt({0, 0, 2}, firstNode), squareAt({0, 0, 1}, secondNode)});
+  const Ray down = ray({0.5F, 0.2F, 10}, {0, 0, -1});
+  EXPECT_EQ(scene.intersect(down)->item, 0U);
+  const auto hit = scene.intersect(down, [](INode* node) { return node == secondNode; });
+  ASSERT_TRUE(hit);
+  EXPECT_EQ(hit->item, 2U);
+  EXPECT_FLOAT_EQ(hit->distance, 9.0F);
+  EXPECT_FALSE(scene.intersect(down, [](INode*) { return false; }));
+}
+
+TEST(RayScene, FindsWhatWasMovedInItsNewPlaceOnly) {
+  RayScene scene;
+  scene.setItems({squareAt({0, 0, 1}, firstNode), squareAt({0, 0, 2}, secondNode)});
+  const Ray down = ray({0.5F, 0.2F, 10}, {0, 0, -1});
+  const auto itemSeen = [&](const Ray& from) {
+    const auto hit = scene.intersect(from);
+    return hit ? static_cast<int>(hit->item) : -1;
+  };
+  Matrix3 away(TRUE);
+  away.SetTrans({50, 0, 0});
+  scene.moveItem(1, away);
+  EXPECT_EQ(itemSeen(down), 0);
+  EXPECT_EQ(itemSeen(ray({50.5F, 0.2F, 10}, {0, 0, -1})), 1);
+  away.SetTrans({0, 0, 4});
+  scene.moveItem(1, away);
+  EXPECT_EQ(itemSeen(down), 1);
+  EXPECT_EQ(scene.intersect(down, [](INode* node) { return node == firstNode; })->item, 0U);
+  EXPECT_TRUE(scene.occluded(down, 6.5F));
+  // Flattened to nothing it is not there, and it may come back.
+  scene.moveItem(1, Matrix3(FALSE));
+  scene.moveItem(0, Matrix3({0, 0, 0}, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}));
+  EXPECT_FALSE(scene.occluded(ray({0.5F, 0.2F, 3.9F}, {0, 0, -1})));
+  scene.moveItem(1, away);
+  EXPECT_EQ(itemSeen(down), 1);
+}
+
+TEST(RayScene, IsOccludedUpToADistanceAndPastTranslucentSurfaces) {
+  ViewItem glass = squareAt({0, 0, 5});
+  glass.surfaces.resize(1);
+  glass.surfaces[0].opacity = 0.3F;
+  RayScene scene;
+  scene.setItems({glass, squareAt({0, 0, 1})});
+  const Ray down = ray({0.5F, 0.2F, 10}, {0, 0, -2});
+  EXPECT_TRUE(scene.occluded(down));
+  EXPECT_FALSE(scene.occluded(down, 2.4F));
+  EXPECT_TRUE(scene.occluded(down, 2.6F));
+  EXPECT_FALSE(scene.occluded(down, 2.6F, 0.5F));
+  EXPECT_TRUE(scene.occluded(down, 4.6F, 0.5F));
+}
+
+TEST(RayScene, AnswersNothingForItemsAndRaysThatAreNone) {
+  RayScene scene;
+  EXPECT_TRUE(scene.bounds().IsEmpty());
+  EXPECT_FALSE(scene.intersect(ray({}, {0, 0, 1})));
+  ViewItem broken = squareAt({});
+  broken.toWorld.SetTrans({std::nanf(""), 0, 0});
+  scene.setItems({ViewItem(), broken, squareAt({})});
+  EXPECT_FALSE(scene.intersect(ray({0, 0, 5}, {0, 0, 0})));
+  EXPECT_FALSE(scene.intersect(ray({0, 0, 5}, {0, 0, std::nanf("")})));
+  EXPECT_EQ(scene.intersect(ray({0.1F, 0.2F, 5}, {0, 0, -1}))->item, 2U);
+}
+
+TEST(RayMesh, IsHitInItsOwnSpaceFromEitherSide) {
+  const auto hit = host::intersect(sharedSquare(), ray({0.5F, -0.5F, -8}, {0, 0, 4}));
+  ASSERT_TRUE(hit);
+  EXPECT_FLOAT_EQ(hit->distance, 2.0F);
+  EXPECT_EQ(hit->triangle, 0U);
+  expectNear(hit->normal, {0, 0, 1});
+  EXPECT_FALSE(host::intersect(sharedSquare(), ray({0.5F, -0.5F, -8}, {0, 0, -4})));
+  EXPECT_FALSE(host::intersect(nullptr, ray({}, {0, 0, 1})));
+}
+
+TEST(RayMesh, IsPreparedOncePerMeshAndNotConfusedByAnotherAtTheSameAddress) {
+  auto mesh = std::make_shared<host::Mesh>(shapes::square());
+  const auto prepared = host::RayMesh::of(mesh);
+  EXPECT_EQ(host::RayMesh::of(mesh), prepared);
+  mesh.reset();
+  for (int i = 0; i < 16; ++i) {
+    auto higher = std::make_shared<host::Mesh>(shapes::square());
+    for (Point3& p : higher->positions) p.z = static_cast<float>(i);
+    EXPECT_FLOAT_EQ(host::intersect(higher, ray({0, 0.1F, 20}, {0, 0, -1}))->distance, 20.0F - static_cast<float>(i));
+  }
+}
+
+}  // namespace
