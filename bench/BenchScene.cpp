@@ -13,6 +13,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 
 namespace bench {
@@ -57,7 +58,8 @@ void fillScene(int characters) {
   addGround();
   const int side = static_cast<int>(std::ceil(std::sqrt(static_cast<double>(characters))));
   for (int i = 0; i < characters; ++i) {
-    INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter();
+    ZORVEL::BuildReport report;
+    INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter(report);
     if (parent == nullptr) throw std::runtime_error("nothing was built");
     Matrix3 tm(TRUE);
     tm.SetTrans(

@@ -8,6 +8,7 @@
 #include "host/scene/Scene.h"
 #include "host/services/UndoStack.h"
 #include "host/view/SceneItems.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 
 namespace {
@@ -16,7 +17,8 @@ using bench::GeneratedRepository;
 using host::Application;
 
 void buildOnce(benchmark::State& state) {
-  if (ZORVEL::CharacterBuilder::BuildSelectedCharacter() == nullptr) state.SkipWithError("nothing was built");
+  ZORVEL::BuildReport report;
+  if (ZORVEL::CharacterBuilder::BuildSelectedCharacter(report) == nullptr) state.SkipWithError("nothing was built");
 }
 
 void readMeshFilesAlone(benchmark::State& state) {

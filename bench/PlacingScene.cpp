@@ -4,6 +4,7 @@
 #include "host/application/Application.h"
 #include "host/modes/CommandModes.h"
 #include "host/view/Viewports.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 #include "scene/Placement.h"
 
@@ -26,7 +27,8 @@ PlacingScene& PlacingScene::ofSize(int characters) {
 PlacingScene::PlacingScene(int characters) : view_(Application::instance().viewports().open(960, 600)) {
   fillScene(characters);
   view_.lookAt(Point3(0, 0, 0), 3000.0F, 0.3F, 0.7F);
-  parent_ = ZORVEL::CharacterBuilder::BuildSelectedCharacter();
+  ZORVEL::BuildReport report;
+  parent_ = ZORVEL::CharacterBuilder::BuildSelectedCharacter(report);
   ZORVEL::Placement::StartPlacement(parent_);
 }
 

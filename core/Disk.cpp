@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <cstdio>
+
 namespace ZORVEL {
 
 bool Disk::FolderExists(const std::wstring& path) {
@@ -12,6 +14,14 @@ bool Disk::FolderExists(const std::wstring& path) {
 bool Disk::FileExists(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool Disk::FileIsReadable(const std::wstring& path) {
+  std::FILE* file = _wfopen(path.c_str(), L"rb");
+  if (file == nullptr) return false;
+  const bool hasContent = std::fgetc(file) != EOF;
+  std::fclose(file);
+  return hasContent;
 }
 
 }  // namespace ZORVEL

@@ -10,6 +10,8 @@ class Disk {
   static bool FolderExists(const std::wstring& path);
   /// True for everything that exists and is no folder.
   static bool FileExists(const std::wstring& path);
+  /// True for a file that can be opened and has something in it.
+  static bool FileIsReadable(const std::wstring& path);
 };
 
 }  // namespace ZORVEL

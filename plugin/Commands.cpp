@@ -11,6 +11,7 @@
 #include "model/Selection2.h"
 #include "plugin/RepositoryDialog.h"
 #include "repository/Parser2.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 #include "scene/Placement.h"
 #include "ui/MainWindow.h"
@@ -123,7 +124,8 @@ bool Commands::SetPath() {
 
 void Commands::CreateCharacter() {
   ExecuteMAXScriptScript(L"animButtonState=false");
-  INode* parent = CharacterBuilder::BuildSelectedCharacter();
+  BuildReport report;
+  INode* parent = CharacterBuilder::BuildSelectedCharacter(report);
   if (parent == nullptr) return LogError(L"Commands::CreateCharacter could not create character");
   Placement::StartPlacement(parent);
 }

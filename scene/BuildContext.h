@@ -1,34 +1,35 @@
 #pragma once
 
+#include <memory>
+#include <string>
+
 class INode;
 
 namespace ZORVEL {
 
 class CharacterData;
 class DataContainer;
+struct BuildReport;
 
-/// What one build works with. Everything is borrowed from the model, the settings and the scene.
+/// What one build works with: the parent node and the selection, looked up in the model. The records are borrowed.
 struct BuildContext {
-  INode* parent = nullptr;
-  CharacterData* character = nullptr;
-  const wchar_t* characterId = nullptr;
-  /// A complete path.
-  const wchar_t* characterFolder = nullptr;
-  const wchar_t* generalTextureFolder = nullptr;
-  DataContainer* pose = nullptr;
-  const wchar_t* poseId = nullptr;
-  DataContainer* cloth = nullptr;
-  const wchar_t* clothId = nullptr;
-  DataContainer* skin = nullptr;
-  const wchar_t* skinId = nullptr;
-  DataContainer* style = nullptr;
-  /// Set for each asset that is added.
-  DataContainer* currentAsset = nullptr;
-  /// Null when the asset itself names its material.
-  DataContainer* currentMaterial = nullptr;
+  /// Null when something is not chosen or not in the model, which the report then names. Writes the character's
+  /// "generalTextureFolder" and "globalMaps", as far as it comes.
+  static std::unique_ptr<BuildContext> Prepare(INode& parent, BuildReport& report);
+
+  INode& parent;
+  const CharacterData& character;
+  const DataContainer& pose;
+  const DataContainer& cloth;
+  const DataContainer& style;
+  const DataContainer& skin;
+  std::wstring poseId;
+  std::wstring clothId;
   /// Ends in a separator, as does the folder of textures.
-  const wchar_t* repositoryPath = nullptr;
-  const wchar_t* globalMaps = nullptr;
+  std::wstring repositoryPath;
+  /// A complete path.
+  std::wstring characterFolder;
+  std::wstring globalMaps;
 };
 
 }  // namespace ZORVEL

@@ -3,118 +3,29 @@
 #include <hold.h>
 #include <maxapi.h>
 
+#include <memory>
 #include <string>
 
 #include "core/Debug.h"
-#include "core/Settings.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
+#include "model/RepositoryFormat.h"
 #include "model/Selection2.h"
-#include "scene/AssetBuilder.h"
 #include "scene/BuildContext.h"
-#include "scene/MaterialResolver.h"
+#include "scene/BuildReport.h"
+#include "scene/ElementBuilder.h"
 #include "scene/SceneNodes.h"
 #include "scene/UnitFactor.h"
 
 namespace ZORVEL {
 
+using namespace RepositoryFormat;
+
 namespace {
 
 std::wstring CharacterNodeName(const DataContainer* character) {
-  const wchar_t* name = Fields::OptionalText(character, L"name");
-  return std::wstring(L"ZORVEL Character ") + (name != nullptr ? name : L"");
-}
-
-/// Writes a field that is derived from others and answers the stored text.
-const wchar_t* DeriveField(DataContainer& record, const wchar_t* field, const std::wstring& text) {
-  record.SetData(field, text.c_str());
-  return Fields::OptionalText(&record, field);
-}
-
-bool PrepareCharacter(BuildContext& context) {
-  context.repositoryPath = Settings::GetPath();
-  if (context.repositoryPath == nullptr) return false;
-  context.characterId = Selection2::GetCharacter();
-  context.character = Data2::GetCharacter(context.characterId);
-  context.characterFolder = Fields::OptionalText(context.character, L"folder");
-  if (context.characterFolder == nullptr) return false;
-  context.generalTextureFolder =
-      DeriveField(*context.character, L"generalTextureFolder", std::wstring(context.characterFolder) + L"\\maps\\");
-  return context.generalTextureFolder != nullptr;
-}
-
-bool PrepareElements(BuildContext& context) {
-  const CharacterData& character = *context.character;
-  context.poseId = Selection2::GetPose();
-  context.pose = character.GetPose(context.poseId);
-  if (context.pose == nullptr) return false;
-  context.clothId = Selection2::GetCloth();
-  context.cloth = character.GetCloth(context.clothId);
-  if (context.cloth == nullptr) return false;
-  context.style = character.GetStyle(context.clothId, Selection2::GetStyle());
-  if (context.style == nullptr) return false;
-  context.skinId = Selection2::GetSkin();
-  context.skin = character.GetSkin(context.skinId);
-  return context.skin != nullptr;
-}
-
-bool Prepare(BuildContext& context) {
-  if (!PrepareCharacter(context) || !PrepareElements(context)) return false;
-  context.globalMaps = DeriveField(*context.character, L"globalMaps", std::wstring(context.repositoryPath) + L"maps\\");
-  return context.globalMaps != nullptr;
-}
-
-/// Null when a field or the host's proxy class is missing.
-INode* AddBody(const BuildContext& context) {
-  const wchar_t* folder = Fields::OptionalText(context.pose, L"folder");
-  const wchar_t* name = Fields::OptionalText(context.pose, L"name");
-  if (folder == nullptr || name == nullptr) return nullptr;
-  const std::wstring characterFolder = context.characterFolder;
-  INode* node = SceneNodes::AddProxy(characterFolder + L"\\" + folder + L"\\pose.vrmesh", name, context.parent);
-  if (node == nullptr) return nullptr;
-  node->SetUserPropString(L"ZORVEL_CHAR", Fields::OptionalText(context.character, L"id"));
-  node->SetUserPropString(L"ZORVEL_POSE", Fields::OptionalText(context.pose, L"id"));
-  MaterialResolver::Resolve(Fields::OptionalText(context.skin, L"material"), characterFolder + L"\\skin\\skin.mat",
-                            node, context);
-  return node;
-}
-
-void AddMandatoryElements(BuildContext& context) {
-  for (int i = 0; i < context.pose->GetChildCount(); ++i) {
-    Debug::AddDebugMessage(DEBUG_INFO, L"add mandatory element...");
-    const DataContainer* entry = context.pose->GetChild(i);
-    if (Fields::OptionalText(entry, L"id") == nullptr) continue;
-    context.currentAsset = context.character->ResolveAsset(entry);
-    context.currentMaterial = nullptr;
-    if (context.currentAsset != nullptr && Data2::GetUnique(context.currentAsset) != 0) AssetBuilder::Add(context);
-  }
-}
-
-void AddCloth(const BuildContext& context) {
-  const wchar_t* folder = Fields::OptionalText(context.cloth, L"folder");
-  const wchar_t* name = Fields::OptionalText(context.cloth, L"name");
-  if (folder == nullptr || name == nullptr) return;
-  const std::wstring base = std::wstring(context.characterFolder) + L"\\" + folder;
-  INode* node =
-      SceneNodes::AddProxy(base + L"\\" + context.clothId + L"_" + context.poseId + L".vrmesh", name, context.parent);
-  if (node == nullptr) return;
-  node->SetUserPropString(L"ZORVEL_CLOTH", context.clothId);
-  node->SetUserPropString(L"ZORVEL_POSE", context.poseId);
-  MaterialResolver::Resolve(Fields::OptionalText(context.style, L"material"), base + L"\\materials.mat", node, context);
-}
-
-void AddSelectedAssets(BuildContext& context) {
-  Debug::AddDebugMessage(DEBUG_INFO, L"add assets:");
-  for (int i = 0; i < Selection2::GetAssetCount(); ++i) {
-    const int unique = Selection2::GetAsset(i);
-    if (unique == 0) continue;
-    context.currentAsset = nullptr;
-    context.currentMaterial = nullptr;
-    const bool found = Data2::GetGlobalAssetAndMaterial(unique, context.currentAsset, context.currentMaterial) ||
-                       context.character->GetAssetAndMaterial(unique, context.currentAsset, context.currentMaterial);
-    if (found) AssetBuilder::Add(context);
-  }
+  return L"ZORVEL Character " + Fields::TextOrEmpty(character, FIELD_NAME);
 }
 
 void ScaleToSceneUnits(INode& parent) {
@@ -141,49 +52,53 @@ void MovePivotToOrigin(INode& head) {
   head.Move(0, Matrix3(TRUE), -position, FALSE, FALSE, PIV_PIVOT_ONLY, FALSE);
 }
 
-void Group(const BuildContext& context) {
+/// False when the host makes no group.
+bool Group(const BuildContext& context) {
   Interface* host = GetCOREInterface();
-  INodeTab nodes = ParentAndChildren(*context.parent);
-  MSTR name(CharacterNodeName(context.character).c_str());
+  INodeTab nodes = ParentAndChildren(context.parent);
+  MSTR name(CharacterNodeName(&context.character).c_str());
   INode* head = host->GroupNodes(&nodes, &name, FALSE);
-  if (head == nullptr) return;
+  if (head == nullptr) return false;
   head->SetUserPropBool(L"ZORVEL_GROUP", TRUE);
   SceneNodes::AddToCharacterLayer(head);
   MovePivotToOrigin(*head);
   host->GetRootNode()->AttachChild(head, 1);
+  return true;
 }
 
-void AddElements(BuildContext& context) {
-  if (AddBody(context) != nullptr) AddMandatoryElements(context);
-  AddCloth(context);
-  AddSelectedAssets(context);
+/// The parent, which is a part of the scene only when the hold is accepted; null when something is missing.
+INode* Build(BuildReport& report) {
+  INode* parent = SceneNodes::AddParent(CharacterNodeName(Data2::GetCharacter(Selection2::GetCharacter())));
+  if (parent == nullptr) {
+    report.obstacle = BuildObstacle::Parent;
+    return nullptr;
+  }
+  report.isOnLayer = SceneNodes::AddToCharacterLayer(parent);
+  const std::unique_ptr<BuildContext> context = BuildContext::Prepare(*parent, report);
+  if (context == nullptr) return nullptr;
+  ElementBuilder(*context, report).AddAll();
+  ScaleToSceneUnits(*parent);
+  report.isGrouped = Group(*context);
+  return parent;
 }
 
 }  // namespace
 
-INode* CharacterBuilder::BuildSelectedCharacter() {
+INode* CharacterBuilder::BuildSelectedCharacter(BuildReport& report) {
+  report = BuildReport();
   Debug::AddDebugMessage(DEBUG_INFO, L"Create Character from Selection...");
   Interface* host = GetCOREInterface();
   host->ReplacePrompt(L"Create ZORVEL Character...");
   theHold.Begin();
-  BuildContext context;
-  context.parent = SceneNodes::AddParent(CharacterNodeName(Data2::GetCharacter(Selection2::GetCharacter())));
-  if (context.parent == nullptr) {
+  INode* parent = Build(report);
+  if (parent == nullptr) {
     theHold.Cancel();
     return nullptr;
   }
-  SceneNodes::AddToCharacterLayer(context.parent);
-  if (!Prepare(context)) {
-    theHold.Cancel();
-    return nullptr;
-  }
-  AddElements(context);
-  ScaleToSceneUnits(*context.parent);
-  Group(context);
   theHold.Accept(L"ZORVEL Character");
   host->ReplacePrompt(L"ZORVEL Character created");
   host->RedrawViews(host->GetTime(), REDRAW_NORMAL);
-  return context.parent;
+  return parent;
 }
 
 }  // namespace ZORVEL

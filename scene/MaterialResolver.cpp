@@ -2,10 +2,10 @@
 
 #include <maxapi.h>
 
-#include <vector>
+#include <algorithm>
 
 #include "core/Debug.h"
-#include "scene/BuildContext.h"
+#include "core/Disk.h"
 #include "scene/TextureRedirection.h"
 
 namespace ZORVEL {
@@ -14,74 +14,91 @@ namespace {
 
 void Log(const wchar_t* text) { Debug::AddDebugMessage(DEBUG_INFO, text); }
 
-/// Null when the list has no material of that name; a texture map of the name does not count.
-Mtl* FindMaterial(MtlBaseList& list, const wchar_t* name) {
+/// Null when the list has nothing of that name.
+MtlBase* FindByName(MtlBaseList& list, const wchar_t* name) {
   MSTR wanted(name);
   const int index = list.FindMtlByName(wanted);
-  if (index < 0 || list[index]->SuperClassID() != MATERIAL_CLASS_ID) return nullptr;
-  return static_cast<Mtl*>(list[index]);
+  return index < 0 ? nullptr : list[index];
 }
 
-bool LibraryHolds(const std::wstring& file, const wchar_t* name) {
+/// Null for a texture map, which may have the name of a material.
+Mtl* AsMaterial(MtlBase* found) {
+  if (found == nullptr || found->SuperClassID() != MATERIAL_CLASS_ID) return nullptr;
+  return static_cast<Mtl*>(found);
+}
+
+LibraryState Search(const std::wstring& file, const wchar_t* name) {
   Interface* host = GetCOREInterface();
-  if (host->LoadMaterialLib(file.c_str()) == 0) return false;
-  return FindMaterial(host->GetMaterialLibrary(), name) != nullptr;
+  if (host->LoadMaterialLib(file.c_str()) == 0) {
+    return Disk::FileExists(file) ? LibraryState::Unreadable : LibraryState::Missing;
+  }
+  MtlBase* found = FindByName(host->GetMaterialLibrary(), name);
+  if (found == nullptr) return LibraryState::WithoutName;
+  return AsMaterial(found) != nullptr ? LibraryState::HoldsMaterial : LibraryState::NameOfMap;
 }
 
-bool FallbackHolds(const std::vector<std::wstring>& files, const wchar_t* name) {
+/// Ends with the first library that holds the material.
+std::vector<LibrarySearch> SearchAll(const std::vector<std::wstring>& files, const wchar_t* name) {
+  std::vector<LibrarySearch> searches;
   for (const std::wstring& file : files) {
     Log(file.c_str());
-    if (LibraryHolds(file, name)) return true;
+    searches.push_back({file, Search(file, name)});
+    if (searches.back().state == LibraryState::HoldsMaterial) break;
   }
-  return false;
+  return searches;
 }
 
-Mtl* UpdateLibraryMaterial(const wchar_t* name, MtlBaseLib& library, const wchar_t* mapsFolder) {
+bool Saw(const MaterialResult& result, LibraryState state) {
+  return std::any_of(result.searches.begin(), result.searches.end(),
+                     [state](const LibrarySearch& one) { return one.state == state; });
+}
+
+/// From the host's current library; null when it does not hold the material.
+Mtl* UpdateLibraryMaterial(const MaterialSearch& search, std::vector<std::wstring>& missingTextures) {
   Log(L"Update Material:");
-  Log(name);
-  Mtl* material = FindMaterial(library, name);
-  if (material != nullptr) TextureRedirection::RedirectMaterial(material, mapsFolder);
+  Log(search.name);
+  Mtl* material = AsMaterial(FindByName(GetCOREInterface()->GetMaterialLibrary(), search.name));
+  if (material != nullptr) missingTextures = TextureRedirection::Redirect(*material, search.mapsFolder);
   return material;
 }
 
-void ResolveWith(const std::vector<std::wstring>& fallbacks, const wchar_t* name, const std::wstring& firstLibrary,
-                 INode* node, const BuildContext& context) {
-  if (node == nullptr || name == nullptr) return;
-  Log(L"Search for material: ");
-  Log(name);
-  Interface* host = GetCOREInterface();
-  if (Mtl* present = FindMaterial(*host->GetSceneMtls(), name)) {
-    Log(L"Found material!");
-    node->SetMtl(present);
-    return;
-  }
+void ResolveFromLibraries(const MaterialSearch& search, INode& node, MaterialResult& result) {
   Log(L"Search in material lib: ");
-  Log(firstLibrary.c_str());
-  if (!LibraryHolds(firstLibrary, name) && !FallbackHolds(fallbacks, name)) {
+  result.searches = SearchAll(search.libraries, search.name);
+  if (!Saw(result, LibraryState::HoldsMaterial)) {
     Log(L"Could not find material");
+    if (Saw(result, LibraryState::NameOfMap)) result.state = MaterialState::NameOfMap;
     return;
   }
-  Mtl* material = UpdateLibraryMaterial(name, host->GetMaterialLibrary(), context.globalMaps);
+  Mtl* material = UpdateLibraryMaterial(search, result.missingTextures);
   if (material == nullptr) {
     Log(L"Could not find material in lib");
     return;
   }
   Log(L"Found material in lib");
-  node->SetMtl(material);
+  node.SetMtl(material);
+  result.state = MaterialState::FromLibrary;
 }
 
 }  // namespace
 
-void MaterialResolver::Resolve(const wchar_t* materialName, const std::wstring& firstLibrary, INode* node,
-                               const BuildContext& context) {
-  const std::wstring folder = context.characterFolder;
-  ResolveWith({folder + L"\\materials.mat", folder + L"\\props.mat"}, materialName, firstLibrary, node, context);
-}
-
-void MaterialResolver::ResolveGlobal(const wchar_t* materialName, const std::wstring& firstLibrary, INode* node,
-                                     const BuildContext& context) {
-  const std::wstring root = context.repositoryPath;
-  ResolveWith({root + L"\\global_assets\\materials.mat"}, materialName, firstLibrary, node, context);
+MaterialResult MaterialResolver::Resolve(const MaterialSearch& search, INode& node) {
+  MaterialResult result;
+  result.state = search.name != nullptr ? MaterialState::InNoLibrary : MaterialState::NoField;
+  if (search.name == nullptr) return result;
+  result.name = search.name;
+  Log(L"Search for material: ");
+  Log(search.name);
+  MtlBase* present = FindByName(*GetCOREInterface()->GetSceneMtls(), search.name);
+  if (Mtl* material = AsMaterial(present)) {
+    Log(L"Found material!");
+    node.SetMtl(material);
+    result.state = MaterialState::FromScene;
+    return result;
+  }
+  if (present != nullptr) result.state = MaterialState::NameOfMap;
+  ResolveFromLibraries(search, node, result);
+  return result;
 }
 
 }  // namespace ZORVEL

@@ -1,12 +1,22 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "scene/BuildReport.h"
 
 class INode;
 
 namespace ZORVEL {
 
-struct BuildContext;
+struct MaterialSearch {
+  /// Null when the record names no material.
+  const wchar_t* name;
+  /// In the order in which they are tried.
+  std::vector<std::wstring> libraries;
+  /// Ends in a separator.
+  std::wstring mapsFolder;
+};
 
 /// Gives nodes their materials by name: one that the scene already has, else one from the repository's libraries, whose
 /// textures are pointed at the repository's folder of textures.
@@ -14,13 +24,9 @@ class MaterialResolver {
  public:
   MaterialResolver() = delete;
 
-  /// For body, clothing and the character's own assets. A name that is found nowhere leaves the node without a
-  /// material; a null node or name does nothing.
-  static void Resolve(const wchar_t* materialName, const std::wstring& firstLibrary, INode* node,
-                      const BuildContext& context);
-  /// For assets that all characters share: the fallback library is the repository's.
-  static void ResolveGlobal(const wchar_t* materialName, const std::wstring& firstLibrary, INode* node,
-                            const BuildContext& context);
+  /// Where it was found; the answer says why the node was left without one. The library that was loaded last stays the
+  /// host's current one.
+  static MaterialResult Resolve(const MaterialSearch& search, INode& node);
 };
 
 }  // namespace ZORVEL

@@ -4,6 +4,7 @@
 #include <maxapi.h>
 
 #include "core/Debug.h"
+#include "core/Disk.h"
 #include "scene/ProxyObjectDatabase.h"
 
 namespace ZORVEL {
@@ -18,23 +19,33 @@ const int CIRCLE_RADIUS = 0;
 const float PARENT_RADIUS = 50.0F;
 const wchar_t* const LAYER_NAME = L"ZORVEL Characters";
 
+/// Null when no node of the scene shows the file.
+Object* SharedProxy(const std::wstring& meshFile) {
+  Object* shared = ProxyObjectDatabase::LookUp(meshFile.c_str());
+  if (shared != nullptr) Debug::AddDebugMessage(DEBUG_INFO, L"use instance...");
+  return shared;
+}
+
 /// Null when the host has no proxy class. A failed attempt is registered too, so the next one tries again.
-Object* ProxyFor(const std::wstring& meshFile) {
-  if (Object* shared = ProxyObjectDatabase::LookUp(meshFile.c_str())) {
-    Debug::AddDebugMessage(DEBUG_INFO, L"use instance...");
-    return shared;
-  }
+Object* NewProxy(const std::wstring& meshFile) {
   auto* object = static_cast<Object*>(GetCOREInterface()->CreateInstance(GEOMOBJECT_CLASS_ID, PROXY_CLASS));
   ProxyObjectDatabase::Add(object, meshFile.c_str());
   return object;
 }
 
-void SetMeshFile(Object& object, const std::wstring& meshFile) {
+/// False when the object does not take it.
+bool SetMeshFile(Object& object, const std::wstring& meshFile) {
   IParamBlock2* block = object.GetParamBlock(0);
-  if (block == nullptr) return;
+  if (block == nullptr) return false;
   const TimeValue now = GetCOREInterface()->GetTime();
   block->SetValue(PROXY_SCALE, now, 1.0F);
-  block->SetValue(PROXY_FILE, now, meshFile.c_str());
+  return block->SetValue(PROXY_FILE, now, meshFile.c_str()) != FALSE;
+}
+
+MeshState StateOnDisk(const std::wstring& meshFile) {
+  if (Disk::FileIsReadable(meshFile)) return MeshState::Found;
+  const bool exists = Disk::FileExists(meshFile) || Disk::FolderExists(meshFile);
+  return exists ? MeshState::Unreadable : MeshState::Missing;
 }
 
 ILayer* CharacterLayer() {
@@ -47,21 +58,26 @@ ILayer* CharacterLayer() {
 
 }  // namespace
 
-INode* SceneNodes::AddProxy(const std::wstring& meshFile, const wchar_t* name, INode* parent) {
+ProxyNode SceneNodes::AddProxy(const std::wstring& meshFile, const wchar_t* name, INode& parent) {
   Debug::AddDebugMessage(DEBUG_INFO, L"proxy mesh:");
   Debug::AddDebugMessage(DEBUG_INFO, meshFile.c_str());
-  Object* object = ProxyFor(meshFile);
-  if (object == nullptr) return nullptr;
-  SetMeshFile(*object, meshFile);
+  ProxyNode added;
+  Object* object = SharedProxy(meshFile);
+  const bool isShared = object != nullptr;
+  if (!isShared) object = NewProxy(meshFile);
+  if (object == nullptr) return added;
+  added.mesh = isShared ? MeshState::Shared : StateOnDisk(meshFile);
+  if (!SetMeshFile(*object, meshFile)) added.mesh = MeshState::Refused;
   Interface* host = GetCOREInterface();
-  INode* node = host->CreateObjectNode(object);
-  if (node == nullptr) return nullptr;
+  added.node = host->CreateObjectNode(object);
+  added.problem = OmissionReason::NodeNotMade;
+  if (added.node == nullptr) return added;
   Matrix3 origin = host->GetRootNode()->GetNodeTM(0);
-  node->SetNodeTM(0, origin);
-  node->SetName(name);
-  parent->AttachChild(node, 1);
-  AddToCharacterLayer(node);
-  return node;
+  added.node->SetNodeTM(0, origin);
+  added.node->SetName(name);
+  parent.AttachChild(added.node, 1);
+  AddToCharacterLayer(added.node);
+  return added;
 }
 
 INode* SceneNodes::AddParent(const std::wstring& name) {
@@ -78,11 +94,12 @@ INode* SceneNodes::AddParent(const std::wstring& name) {
   return node;
 }
 
-void SceneNodes::AddToCharacterLayer(INode* node) {
+bool SceneNodes::AddToCharacterLayer(INode* node) {
   ILayer* layer = CharacterLayer();
-  if (layer == nullptr) return;
+  if (layer == nullptr) return false;
   auto* properties = static_cast<ILayerProperties*>(layer->GetInterface(LAYERPROPERTIES_INTERFACE));
   if (properties != nullptr) properties->addNode(node);
+  return properties != nullptr;
 }
 
 }  // namespace ZORVEL

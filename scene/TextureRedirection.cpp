@@ -5,9 +5,10 @@
 #include <stdmat.h>
 #include <windows.h>
 
-#include <string>
+#include <algorithm>
 
 #include "core/Debug.h"
+#include "core/Disk.h"
 #include "scene/UnitFactor.h"
 
 namespace ZORVEL {
@@ -52,42 +53,72 @@ std::wstring FileNameOf(const wchar_t* path) {
   return std::wstring(name) + extension;
 }
 
-void RedirectBitmap(BitmapTex& bitmap, const wchar_t* mapsFolder) {
+/// One walk through a material.
+class Redirection {
+ public:
+  explicit Redirection(const std::wstring& mapsFolder) : m_mapsFolder(mapsFolder) {}
+
+  /// Null is passed over, here and below.
+  void RedirectMaterial(Mtl* material);
+  const std::vector<std::wstring>& Missing() const { return m_missing; }
+
+ private:
+  void RedirectMap(Texmap* map);
+  void RedirectBitmap(BitmapTex& bitmap);
+  void NoteMissing(const std::wstring& file);
+
+  const std::wstring& m_mapsFolder;
+  std::vector<std::wstring> m_missing;
+};
+
+void Redirection::RedirectMaterial(Mtl* material) {
+  if (material == nullptr) return;
+  if (material->ClassID() == MULTI_MATERIAL_CLASS) {
+    for (int i = 0; i < material->NumSubMtls(); ++i) RedirectMaterial(material->GetSubMtl(i));
+    return;
+  }
+  for (int slot = 0; slot < TEXTURE_SLOTS; ++slot) RedirectMap(material->GetSubTexmap(slot));
+  const bool scaled = material->ClassID() == SCALED_MATERIAL_CLASS;
+  ForEachParameter(*material, [this, scaled](IParamBlock2& block, ParamID id) {
+    if (scaled && id == SCALED_PARAMETER) ScaleLength(block, id);
+    const ParamType2 type = block.GetParameterType(id);
+    if (type == TYPE_MTL) RedirectMaterial(Referenced<Mtl>(block, id));
+    if (type == TYPE_TEXMAP) RedirectMap(Referenced<Texmap>(block, id));
+  });
+}
+
+void Redirection::RedirectMap(Texmap* map) {
+  if (map == nullptr) return;
+  if (map->ClassID() == BITMAP_CLASS) {
+    RedirectBitmap(static_cast<BitmapTex&>(*map));
+    return;
+  }
+  ForEachParameter(*map, [this](IParamBlock2& block, ParamID id) {
+    if (block.GetParameterType(id) == TYPE_TEXMAP) RedirectMap(Referenced<Texmap>(block, id));
+  });
+}
+
+void Redirection::RedirectBitmap(BitmapTex& bitmap) {
   using MaxSDK::AssetManagement::IAssetManager;
   using MaxSDK::AssetManagement::kBitmapAsset;
-  const std::wstring file = mapsFolder + FileNameOf(bitmap.GetMap().GetFileName().data());
+  const std::wstring file = m_mapsFolder + FileNameOf(bitmap.GetMap().GetFileName().data());
   Debug::AddDebugMessage(DEBUG_INFO, L"set new texture path:");
   Debug::AddDebugMessage(DEBUG_INFO, file.c_str());
   bitmap.SetMap(IAssetManager::GetInstance()->GetAsset(file.c_str(), kBitmapAsset));
+  NoteMissing(file);
+}
+
+void Redirection::NoteMissing(const std::wstring& file) {
+  const bool isKnown = std::find(m_missing.begin(), m_missing.end(), file) != m_missing.end();
+  if (!isKnown && !Disk::FileExists(file)) m_missing.push_back(file);
 }
 
 }  // namespace
 
-void TextureRedirection::RedirectMaterial(Mtl* material, const wchar_t* mapsFolder) {
-  if (material == nullptr) return;
-  if (material->ClassID() == MULTI_MATERIAL_CLASS) {
-    for (int i = 0; i < material->NumSubMtls(); ++i) RedirectMaterial(material->GetSubMtl(i), mapsFolder);
-    return;
-  }
-  for (int slot = 0; slot < TEXTURE_SLOTS; ++slot) RedirectMap(material->GetSubTexmap(slot), mapsFolder);
-  const bool scaled = material->ClassID() == SCALED_MATERIAL_CLASS;
-  ForEachParameter(*material, [scaled, mapsFolder](IParamBlock2& block, ParamID id) {
-    if (scaled && id == SCALED_PARAMETER) ScaleLength(block, id);
-    const ParamType2 type = block.GetParameterType(id);
-    if (type == TYPE_MTL) RedirectMaterial(Referenced<Mtl>(block, id), mapsFolder);
-    if (type == TYPE_TEXMAP) RedirectMap(Referenced<Texmap>(block, id), mapsFolder);
-  });
-}
-
-void TextureRedirection::RedirectMap(Texmap* map, const wchar_t* mapsFolder) {
-  if (map == nullptr) return;
-  if (map->ClassID() == BITMAP_CLASS) {
-    RedirectBitmap(static_cast<BitmapTex&>(*map), mapsFolder);
-    return;
-  }
-  ForEachParameter(*map, [mapsFolder](IParamBlock2& block, ParamID id) {
-    if (block.GetParameterType(id) == TYPE_TEXMAP) RedirectMap(Referenced<Texmap>(block, id), mapsFolder);
-  });
+std::vector<std::wstring> TextureRedirection::Redirect(Mtl& material, const std::wstring& mapsFolder) {
+  Redirection redirection(mapsFolder);
+  redirection.RedirectMaterial(&material);
+  return redirection.Missing();
 }
 
 }  // namespace ZORVEL

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 class Mtl;
-class Texmap;
 
 namespace ZORVEL {
 
@@ -11,9 +13,8 @@ class TextureRedirection {
  public:
   TextureRedirection() = delete;
 
-  /// The folder ends in a separator.
-  static void RedirectMaterial(Mtl* material, const wchar_t* mapsFolder);
-  static void RedirectMap(Texmap* map, const wchar_t* mapsFolder);
+  /// The folder ends in a separator. Answers the files that the bitmaps now name and that are not there, each once.
+  static std::vector<std::wstring> Redirect(Mtl& material, const std::wstring& mapsFolder);
 };
 
 }  // namespace ZORVEL

@@ -5,7 +5,6 @@
 #include <iostream>
 #include <set>
 
-#include "apps/cli/BuildReport.h"
 #include "apps/cli/Choice.h"
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/LoadedRepository.h"
@@ -22,6 +21,8 @@
 #include "host/services/Units.h"
 #include "host/view/Renderer.h"
 #include "host/view/SceneItems.h"
+#include "scene/BuildFindings.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 
 namespace cli {
@@ -43,19 +44,20 @@ class Findings {
   std::set<std::string> known_;
 };
 
-std::string describe(const BuildReport::Piece& piece) {
-  std::string text = "  " + piece.meshFile + (piece.sharesMesh ? "  (mesh shared)" : "");
-  if (piece.materialFound) text += "  material " + piece.material + (piece.sharesMaterial ? " (shared)" : "");
-  return text;
+std::string describe(const ZORVEL::BuiltPiece& piece) {
+  using ZORVEL::MaterialState;
+  std::string text = "  " + host::toUtf8(piece.meshFile);
+  if (piece.mesh == ZORVEL::MeshState::Shared) text += "  (mesh shared)";
+  const MaterialState state = piece.material.state;
+  if (state != MaterialState::FromScene && state != MaterialState::FromLibrary) return text;
+  text += "  material " + host::toUtf8(piece.material.name);
+  return state == MaterialState::FromScene ? text + " (shared)" : text;
 }
 
-void reportPieces(const BuildReport& report, Findings& findings) {
-  for (const BuildReport::Piece& piece : report.pieces) {
-    std::cout << describe(piece) << '\n';
-    if (piece.withoutPlace) findings.add(piece.meshFile + ": no row of the asset matrix, left at the origin.");
-    if (!piece.material.empty() && !piece.materialFound) {
-      findings.add(piece.meshFile + ": material \"" + piece.material + "\" is in no library.");
-    }
+void tell(const ZORVEL::BuildReport& report, Findings& findings) {
+  for (const ZORVEL::BuiltPiece& piece : report.pieces) std::cout << describe(piece) << '\n';
+  for (const ZORVEL::BuildFinding& finding : ZORVEL::BuildFindings::Describe(report)) {
+    findings.add(host::toUtf8(finding.text));
   }
 }
 
@@ -106,7 +108,6 @@ bool prepareScene(const CreateOptions& options) {
   host::Application& application = host::Application::instance();
   application.reset();
   application.listener().clear();
-  ZORVEL::LogStore::Clear();
   if (options.into.empty()) {
     application.units().set(options.unit, 1.0F);
     return true;
@@ -120,15 +121,16 @@ int build(const CreateOptions& options, Findings& findings) {
   if (!prepareScene(options)) return EXIT_UNREADABLE;
   host::Application& application = host::Application::instance();
   const std::size_t nodesBefore = application.scene().nodes().size();
-  INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter();
+  ZORVEL::BuildReport report;
+  INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter(report);
   if (parent == nullptr) {
-    complain("nothing was built.");
+    tell(report, findings);
     return EXIT_FINDINGS;
   }
   placeByClicks(*parent, pointOf(options.at), options.turn);
   std::cout << "Built " << host::toUtf8(parent->GetName()) << ", " << application.scene().nodes().size() - nodesBefore
             << " nodes\n";
-  reportPieces(reportOf(ZORVEL::LogStore::Entries()), findings);
+  tell(report, findings);
   // Reads every mesh and texture, so that those which cannot be read are named even when no file is asked for.
   std::vector<host::ViewItem> items = host::viewItems(application.scene());
   const bool good = writeFiles(options, std::move(items));
@@ -150,7 +152,7 @@ int runCreate(const CreateOptions& options) {
   Findings findings;
   for (const std::string& note : choice.notes) findings.add(note);
   const int status = build(options, findings);
-  for (const std::string& finding : findings.lines()) std::cerr << "skipped: " << finding << '\n';
+  for (const std::string& finding : findings.lines()) std::cerr << "finding: " << finding << '\n';
   // The scene's objects name files of this repository; nothing of them may outlive it.
   host::Application::instance().reset();
   return status == EXIT_CLEAN && !findings.lines().empty() ? EXIT_FINDINGS : status;

@@ -13,7 +13,7 @@
 #include "core/FileStamps.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
-#include "host/export/SceneJson.h"
+#include "host/formats/SceneJson.h"
 #include "host/modes/CommandModes.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
@@ -129,7 +129,7 @@ class Agreement : public testing::Test {
     if (parent == nullptr) return "nothing";
     // Handles go on counting from scene to scene.
     static const std::regex HANDLES("\"handle\": [0-9]+");
-    return std::regex_replace(host::sceneJson(host::Application::instance().scene()), HANDLES, "");
+    return std::regex_replace(host::sceneJson(host::Application::instance().scene(), host::Application::instance().units()), HANDLES, "");
   }
 
   support::LocalAppData settings_;

@@ -44,14 +44,6 @@ class CommandLine : public testing::Test {
   std::string file(const std::string& name) const { return (out_.path() / name).string(); }
   bool isWritten(const std::string& name) const { return std::filesystem::exists(out_.path() / name); }
   Json json(const std::string& name) const { return Json::parse(out_.read(name)); }
-  /// Every picture that the materials name, as one grey pixel.
-  void writeTextures() const {
-    const std::string pixel("P6 1 1 255\n\x80\x80\x80", 14);
-    for (const char* name : {"skin_d.png", "blue.png", "canvas.png", "props.png", "leather.png", "oak.png"}) {
-      repository_.folder().write(std::string("maps/") + name, pixel);
-    }
-  }
-
   support::SmallRepository repository_;
   support::TemporaryFolder out_;
 };
@@ -128,7 +120,7 @@ TEST_F(CommandLine, ListNamesWhatWasLeftOutOrSkippedWithItsPlace) {
 }
 
 TEST_F(CommandLine, BuildsTheFirstUsableChoiceCleanlyAndWritesItsFiles) {
-  writeTextures();
+  repository_.mend();
   const Outcome outcome = run({"create", root(), "--picture", file("a.png"), "--width", "64", "--height", "48",
                                "--gltf", file("a.glb"), "--json", file("a.json")});
   EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
@@ -172,8 +164,21 @@ TEST_F(CommandLine, BuildsWithoutWhatIsMissingOrUnreadableAndSaysWhich) {
   EXPECT_TRUE(isWritten("a.json"));
 }
 
+TEST_F(CommandLine, NamesWhatIsLeftOutOrBuiltBare) {
+  repository_.mend();
+  repository_.edit(R"(name="Standing" )", "");
+  repository_.edit(R"(material="Blue" preview)", "preview");
+  const Outcome outcome = run({"create", root(), "--asset", "a1", "--bare"});
+  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+  EXPECT_THAT(outcome.out, HasSubstr("bag\\asset.vrmesh  material Canvas\n"));
+  EXPECT_EQ(outcome.err,
+            "finding: Body (p1): left out: it has no \"name\".\n"
+            "finding: Mandatory asset (a2): left out: the body that it belongs to was left out.\n"
+            "finding: Clothing \"Summer\" (k1): no material: style \"k1m1\" has no \"material\".\n");
+}
+
 TEST_F(CommandLine, ChoosesAssetsByTheRulesOfClothingPoseAndCategory) {
-  writeTextures();
+  repository_.mend();
   const Outcome outcome =
       run({"create", root(), "--asset", "a1:a1m1", "--asset", "a3", "--asset", "a6", "--asset", "g1:g1m1"});
   EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
@@ -192,7 +197,7 @@ TEST_F(CommandLine, LeavesNothingBehindWhereAFileCannotBeWritten) {
 }
 
 TEST_F(CommandLine, PlacesTheGroupWhereItIsTold) {
-  writeTextures();
+  repository_.mend();
   const Outcome outcome =
       run({"create", root(), "--unit", "meters", "--at", "1.5,-2,0.75", "--turn", "90", "--json", file("a.json")});
   EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
@@ -204,7 +209,7 @@ TEST_F(CommandLine, PlacesTheGroupWhereItIsTold) {
 }
 
 TEST_F(CommandLine, BuildsIntoASceneThatIsThereAndTakesThePictureFromWhereItIsTold) {
-  writeTextures();
+  repository_.mend();
   ASSERT_EQ(run({"create", root(), "--unit", "meters", "--json", file("one.json")}).status, cli::EXIT_CLEAN);
   const Outcome outcome =
       run({"create", root(), "--into", file("one.json"), "--at", "2,0,0", "--json", file("two.json"), "--picture",

@@ -13,6 +13,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 #include "tests/samples/RoughRepository.h"
 #include "tests/support/LogStoreFixture.h"
@@ -84,7 +85,8 @@ class EveryCombination : public support::LogStoreFixture {
   void build() {
     clearLog();
     host::Scene& scene = host::Application::instance().scene();
-    ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+    ZORVEL::BuildReport report;
+    ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(report), nullptr);
     expectComplaints({});
     for (host::Node* node : scene.nodes()) {
       const auto* proxy = dynamic_cast<host::ProxyObject*>(node->GetObjectRef());

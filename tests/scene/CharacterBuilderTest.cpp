@@ -18,7 +18,6 @@ namespace {
 using host::Application;
 using host::Node;
 using host::ProxyObject;
-using ZORVEL::CharacterBuilder;
 using ZORVEL::Selection2;
 
 class CharacterBuild : public support::LoadedRepositoryFixture {
@@ -57,7 +56,7 @@ TEST_F(CharacterBuild, MakesEveryPieceWithItsFileMaterialPropertiesLayerAndGroup
   addAsset(L"a1", L"a1m1");
   addAsset(L"a4");
   addAsset(L"g1", L"g1m1");
-  INode* parent = CharacterBuilder::BuildSelectedCharacter();
+  INode* parent = build();
   ASSERT_NE(parent, nullptr);
   EXPECT_STREQ(parent->GetName(), L"ZORVEL Character Anna");
   EXPECT_EQ(property(parent, L"ZORVEL_PARENT"), L"TRUE");
@@ -94,7 +93,7 @@ TEST_F(CharacterBuild, MakesEveryPieceWithItsFileMaterialPropertiesLayerAndGroup
 TEST_F(CharacterBuild, PlacesParentGroupAndAssetsAsComputedByHand) {
   SetMasterUnitInfo(UNITS_INCHES, 1.0F);
   addAsset(L"a1");
-  INode* parent = CharacterBuilder::BuildSelectedCharacter();
+  INode* parent = build();
   const float f = 1.0F / 2.54F;
   expectNear(parent->GetNodeTM(0), Matrix3({f, 0, 0}, {0, f, 0}, {0, 0, f}, {0, 0, 0}));
   expectNear(parent->GetParentNode()->GetNodeTM(0), Matrix3(TRUE));
@@ -113,7 +112,7 @@ TEST_F(CharacterBuild, HasTheSameSizeInTheWorldInEverySystemUnit) {
   for (const int unit : {UNITS_CENTIMETERS, UNITS_INCHES, UNITS_METERS, UNITS_MILES}) {
     Application::instance().reset();
     SetMasterUnitInfo(unit, 1.0F);
-    ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+    ASSERT_NE(build(), nullptr);
     const Point3 size =
         proxies().front()->worldBounds().Width() * static_cast<float>(GetMasterScale(UNITS_CENTIMETERS));
     EXPECT_NEAR(size.x, 40.0F, 1e-3F);
@@ -134,7 +133,7 @@ TEST_F(CharacterBuild, WithoutACompleteSelectionLeavesNoNodeNoLayerMemberAndNoRe
   for (const Case& one : cases) {
     for (const wchar_t* bad : {static_cast<const wchar_t*>(nullptr), L"unknown"}) {
       one.set(bad);
-      EXPECT_EQ(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+      EXPECT_EQ(build(), nullptr);
       EXPECT_TRUE(scene().nodes().empty());
       EXPECT_EQ(scene().layers().layers().size(), 1U);
       EXPECT_TRUE(undo().undoNames().empty());
@@ -142,14 +141,14 @@ TEST_F(CharacterBuild, WithoutACompleteSelectionLeavesNoNodeNoLayerMemberAndNoRe
     }
     one.set(one.good);
   }
-  EXPECT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+  EXPECT_NE(build(), nullptr);
 }
 
 TEST_F(CharacterBuild, ASecondOneSharesEveryProxyUntilTheLastNodeIsDeleted) {
-  CharacterBuilder::BuildSelectedCharacter();
+  build();
   const std::vector<Node*> first = proxies();
   clearLog();
-  CharacterBuilder::BuildSelectedCharacter();
+  build();
   EXPECT_EQ(countLogged(L"use instance..."), static_cast<int>(first.size()));
   const std::vector<Node*> both = proxies();
   ASSERT_EQ(both.size(), 2 * first.size());
@@ -164,18 +163,18 @@ TEST_F(CharacterBuild, ASecondOneSharesEveryProxyUntilTheLastNodeIsDeleted) {
   GetCOREInterface()->DeleteNode(both[first.size()]);
   EXPECT_EQ(countLogged(L"Delete object from database..."), 1);
   clearLog();
-  CharacterBuilder::BuildSelectedCharacter();
+  build();
   EXPECT_EQ(countLogged(L"use instance..."), static_cast<int>(first.size()) - 1);
 }
 
 TEST_F(CharacterBuild, SurvivesUndoRedoDeletionAndNewScenesInAnyOrder) {
   addAsset(L"a1");
   const std::size_t nodes = 6;  // head, parent, body, seat, clothing, bag
-  const auto build = [&] {
+  const auto buildAnew = [&] {
     clearLog();
-    ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+    ASSERT_NE(build(), nullptr);
   };
-  build();
+  buildAnew();
   EXPECT_EQ(scene().nodes().size(), nodes);
   undo().undo();
   EXPECT_TRUE(scene().nodes().empty());
@@ -183,7 +182,7 @@ TEST_F(CharacterBuild, SurvivesUndoRedoDeletionAndNewScenesInAnyOrder) {
   undo().redo();
   EXPECT_EQ(scene().nodes().size(), nodes);
   undo().undo();
-  build();
+  buildAnew();
   EXPECT_EQ(countLogged(L"use instance..."), 0) << "what undo took away is not in the register any more";
   EXPECT_EQ(scene().nodes().size(), nodes);
   EXPECT_EQ(undo().undoNames().size(), 1U);
@@ -193,7 +192,7 @@ TEST_F(CharacterBuild, SurvivesUndoRedoDeletionAndNewScenesInAnyOrder) {
   undo().redo();
   EXPECT_EQ(scene().nodes().size(), nodes - 1) << "the deleted body stays away";
   Application::instance().newScene();
-  build();
+  buildAnew();
   EXPECT_EQ(countLogged(L"use instance..."), 0);
   EXPECT_EQ(scene().nodes().size(), nodes);
   for (Node* node : scene().nodes()) node->EvalWorldState(0);
@@ -202,9 +201,9 @@ TEST_F(CharacterBuild, SurvivesUndoRedoDeletionAndNewScenesInAnyOrder) {
 TEST_F(CharacterBuild, LeavesAnAssetWithoutAMatrixRowUnplacedAndBare) {
   addAsset(L"a6");
   addAsset(L"a1");
-  addAsset(L"g1");
+  addAsset(L"g1", L"g1m1");
   Selection2::SetPose(L"p2");
-  ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+  ASSERT_NE(build(), nullptr);
   expectComplaints({L"could not find asset matrix...", L"could not find asset matrix..."});
   ASSERT_EQ(proxies().size(), 5U) << "pose p2 has no mandatory elements";
   for (std::size_t i = 2; i < 5; ++i) {
@@ -215,17 +214,17 @@ TEST_F(CharacterBuild, LeavesAnAssetWithoutAMatrixRowUnplacedAndBare) {
 
 TEST_F(CharacterBuild, WithoutTheRendererMakesParentAndGroupAloneAndTriesAgainNextTime) {
   Application::instance().classes().setRendererPresent(false);
-  EXPECT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+  EXPECT_NE(build(), nullptr);
   EXPECT_EQ(scene().nodes().size(), 2U);
   Application::instance().classes().setRendererPresent(true);
-  EXPECT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+  EXPECT_NE(build(), nullptr);
   EXPECT_EQ(proxies().size(), 3U);
 }
 
 TEST_F(CharacterBuild, ShowsABoxAndSaysWhyWhereAMeshCannotBeRead) {
   std::filesystem::remove(repository().folder().path() / "anna/standing/pose.vrmesh");
   repository().folder().write("anna/seat/asset.vrmesh", std::string("vrmesh\0\1\2", 9));
-  ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr);
+  ASSERT_NE(build(), nullptr);
   for (std::size_t i = 0; i < 2; ++i) {
     const auto* proxy = dynamic_cast<ProxyObject*>(proxies()[i]->GetObjectRef());
     EXPECT_FALSE(proxy->problem().empty());

@@ -5,19 +5,22 @@
 #include <stdmat.h>
 
 #include "host/application/Application.h"
+#include "host/materials/BitmapTexture.h"
 #include "host/materials/MaterialClasses.h"
 #include "host/materials/MaterialWalk.h"
 #include "host/scene/CircleShape.h"
 #include "host/scene/Scene.h"
-#include "scene/BuildContext.h"
+#include "scene/TextureRedirection.h"
 #include "tests/support/LogStoreFixture.h"
 #include "tests/support/SmallRepository.h"
 
 namespace {
 
 using host::Application;
-using ZORVEL::BuildContext;
+using ZORVEL::LibraryState;
 using ZORVEL::MaterialResolver;
+using ZORVEL::MaterialResult;
+using ZORVEL::MaterialState;
 
 class MaterialResolution : public support::LogStoreFixture {
  protected:
@@ -25,11 +28,7 @@ class MaterialResolution : public support::LogStoreFixture {
     LogStoreFixture::SetUp();
     Application::instance().reset();
     root_ = repository_.root();
-    characterFolder_ = root_ + L"\\anna";
     maps_ = root_ + L"maps\\";
-    context_.characterFolder = characterFolder_.c_str();
-    context_.repositoryPath = root_.c_str();
-    context_.globalMaps = maps_.c_str();
   }
   void TearDown() override {
     Application::instance().reset();
@@ -37,10 +36,15 @@ class MaterialResolution : public support::LogStoreFixture {
   }
 
   static INode* addNode() { return Application::instance().scene().create(new host::CircleShape); }
-  /// Writes a library for the clothing and resolves one of its materials onto a new node.
+  MaterialResult resolveOn(INode& node, const wchar_t* name) const {
+    const std::wstring anna = root_ + L"anna\\";
+    return MaterialResolver::Resolve(
+        {name, {anna + L"summer\\materials.mat", anna + L"materials.mat", anna + L"props.mat"}, maps_}, node);
+  }
+  /// A new node that got the material of that name, if there is one.
   INode* resolve(const wchar_t* name) {
     INode* node = addNode();
-    MaterialResolver::Resolve(name, characterFolder_ + L"\\summer\\materials.mat", node, context_);
+    resolveOn(*node, name);
     return node;
   }
   void writeLibrary(const std::string& materials) {
@@ -56,30 +60,98 @@ class MaterialResolution : public support::LogStoreFixture {
     return files;
   }
   using Files = std::vector<std::wstring>;
+  using States = std::vector<LibraryState>;
+  static States statesOf(const MaterialResult& result) {
+    States states;
+    for (const ZORVEL::LibrarySearch& one : result.searches) states.push_back(one.state);
+    return states;
+  }
 
   support::SmallRepository repository_;
   std::wstring root_;
-  std::wstring characterFolder_;
   std::wstring maps_;
-  BuildContext context_;
 };
 
-TEST_F(MaterialResolution, SearchesOwnLibraryThenTheCharactersThenItsProps) {
+TEST_F(MaterialResolution, SearchesTheLibrariesInTheirOrder) {
   EXPECT_EQ(bitmapsOf(*resolve(L"Blue")->GetMtl()), Files{L"blue.png"});
   EXPECT_EQ(bitmapsOf(*resolve(L"Canvas")->GetMtl()), Files{L"canvas.png"});
   clearLog();
   EXPECT_EQ(bitmapsOf(*resolve(L"From props")->GetMtl()), Files{L"props.png"});
-  expectLogged(ZORVEL::DEBUG_INFO, characterFolder_ + L"\\materials.mat");
-  expectLogged(ZORVEL::DEBUG_INFO, characterFolder_ + L"\\props.mat");
+  expectLogged(ZORVEL::DEBUG_INFO, root_ + L"anna\\materials.mat");
+  expectLogged(ZORVEL::DEBUG_INFO, root_ + L"anna\\props.mat");
   expectLogged(ZORVEL::DEBUG_INFO, L"Found material in lib");
   MSTR name(L"From props");
   EXPECT_EQ(GetCOREInterface()->GetMaterialLibrary().FindMtlByName(name), 0)
       << "the last library stays the current one";
-  EXPECT_EQ(resolve(L"Oak")->GetMtl(), nullptr) << "only assets that all share look in the repository's library";
+  EXPECT_EQ(resolve(L"Oak")->GetMtl(), nullptr);
   expectLogged(ZORVEL::DEBUG_INFO, L"Could not find material");
-  INode* shared = addNode();
-  MaterialResolver::ResolveGlobal(L"Oak", root_ + L"\\global_assets\\bench\\materials.mat", shared, context_);
-  EXPECT_EQ(bitmapsOf(*shared->GetMtl()), Files{L"oak.png"});
+}
+
+TEST_F(MaterialResolution, AnswersWhereItFoundTheMaterialOrWhyThereIsNone) {
+  repository_.folder().write("anna/summer/materials.mat", "no library");
+  std::filesystem::remove(repository_.folder().path() / "anna/props.mat");
+  repository_.folder().write("maps/canvas.png", "");
+  INode* node = addNode();
+  const MaterialResult canvas = resolveOn(*node, L"Canvas");
+  EXPECT_EQ(canvas.state, MaterialState::FromLibrary);
+  EXPECT_EQ(statesOf(canvas), (States{LibraryState::Unreadable, LibraryState::HoldsMaterial}));
+  EXPECT_EQ(canvas.searches.back().file, root_ + L"anna\\materials.mat");
+  EXPECT_EQ(canvas.missingTextures, Files());
+  EXPECT_EQ(resolveOn(*node, L"Canvas").state, MaterialState::FromScene);
+  const MaterialResult none = resolveOn(*node, L"Blue");
+  EXPECT_EQ(none.state, MaterialState::InNoLibrary);
+  EXPECT_EQ(statesOf(none), (States{LibraryState::Unreadable, LibraryState::WithoutName, LibraryState::Missing}));
+  EXPECT_EQ(resolveOn(*node, nullptr).state, MaterialState::NoField);
+  EXPECT_STREQ(node->GetMtl()->GetName(), L"Canvas") << "what was not found changes nothing";
+
+  auto* map = new host::BitmapTexture(L"a.png");
+  map->SetName(L"Blue");
+  GetCOREInterface()->GetSceneMtls()->Add(map);
+  EXPECT_EQ(resolveOn(*node, L"Blue").state, MaterialState::NameOfMap);
+}
+
+TEST_F(MaterialResolution, NamesEveryMissingTextureOnce) {
+  const std::string twice = R"({"class": "bitmap", "file": "X:\\b.png"})";
+  writeLibrary(R"({"name": "Two", "class": [1, 2], "subTextures": [)" + twice + "," + twice +
+               R"(, {"class": "bitmap", "file": "a.png"}]})");
+  repository_.folder().makeFolder("maps/a.png");
+  EXPECT_EQ(resolveOn(*addNode(), L"Two").missingTextures, (Files{maps_ + L"b.png", maps_ + L"a.png"}));
+}
+
+TEST_F(MaterialResolution, RedirectsEighteenSlotsWhateverTheMaterialHas) {
+  std::string slots;
+  for (int i = 0; i < 20; ++i) slots += std::string(i == 0 ? "" : ",") + R"({"class": "bitmap", "file": "Y:\\t.png"})";
+  writeLibrary(R"({"name": "Many", "class": [1, 2], "subTextures": [)" + slots + "]}");
+  Files expected(18, L"t.png");
+  expected.resize(20, L"elsewhere: Y:\\t.png");
+  EXPECT_EQ(bitmapsOf(*resolve(L"Many")->GetMtl()), expected);
+}
+
+/// A bitmap with a map of its own among its parameters, as filters have.
+class BitmapWithMap : public BitmapTex {
+ public:
+  explicit BitmapWithMap(Texmap* map)
+      : block_(new host::ParameterBlock(0, {{1, TYPE_TEXMAP, host::Ref<Texmap>(map)}})) {}
+  int NumParamBlocks() override { return 1; }
+  IParamBlock2* GetParamBlock(int /*index*/) override { return block_.get(); }
+  void SetMap(const MaxSDK::AssetManagement::AssetUser& map) override { map_ = map; }
+  const MaxSDK::AssetManagement::AssetUser& GetMap() const override { return map_; }
+  const MCHAR* GetMapName() override { return map_.GetFileName(); }
+  void ReloadBitmapAndUpdate() override {}
+
+ private:
+  host::Ref<host::ParameterBlock> block_;
+  MaxSDK::AssetManagement::AssetUser map_;
+};
+
+TEST_F(MaterialResolution, LeavesTheMapsBelowABitmapAsTheyAre) {
+  const host::Ref<host::BitmapTexture> below(new host::BitmapTexture(L"Z:\\below.png"));
+  host::Material::Content content;
+  content.subTextures = {host::Ref<Texmap>(new BitmapWithMap(below.get()))};
+  const host::Ref<Mtl> material(new host::Material(Class_ID(1, 2), content));
+  ZORVEL::TextureRedirection::Redirect(*material, maps_);
+  EXPECT_EQ(bitmapsOf(*material), Files{L""});
+  EXPECT_STREQ(below->GetMapName(), L"Z:\\below.png");
 }
 
 TEST_F(MaterialResolution, TakesAMaterialOfTheSceneAsItIs) {
@@ -139,13 +211,6 @@ TEST_F(MaterialResolution, BringsTheScaledLengthIntoSceneUnitsOnceForEachMateria
   EXPECT_EQ(resolve(L"Wax")->GetMtl(), wax);
   EXPECT_NEAR(parameter(wax, 22), 1.0F, 1e-6F);
   EXPECT_EQ(parameter(resolve(L"Plain")->GetMtl(), 22), 2.54F);
-}
-
-TEST_F(MaterialResolution, DoesNothingWithoutANodeOrAName) {
-  MaterialResolver::Resolve(L"Blue", characterFolder_ + L"\\summer\\materials.mat", nullptr, context_);
-  INode* node = addNode();
-  MaterialResolver::Resolve(nullptr, characterFolder_ + L"\\summer\\materials.mat", node, context_);
-  EXPECT_EQ(node->GetMtl(), nullptr);
 }
 
 }  // namespace

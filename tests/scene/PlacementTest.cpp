@@ -15,7 +15,6 @@
 #include "host/services/Prompts.h"
 #include "host/services/UndoStack.h"
 #include "host/view/Viewports.h"
-#include "scene/CharacterBuilder.h"
 #include "scene/PlacementPickMode.h"
 #include "scene/PlacementState.h"
 #include "tests/support/LoadedRepositoryFixture.h"
@@ -24,7 +23,6 @@ namespace {
 
 using host::Application;
 using host::Node;
-using ZORVEL::CharacterBuilder;
 using ZORVEL::Placement::StartPlacement;
 
 constexpr int WIDTH = 800;
@@ -61,7 +59,7 @@ class PlacementByMouse : public support::LoadedRepositoryFixture {
   static const std::wstring& prompt() { return Application::instance().prompts().top(); }
 
   INode* start() {
-    INode* parent = CharacterBuilder::BuildSelectedCharacter();
+    INode* parent = build();
     StartPlacement(parent);
     return parent;
   }
@@ -137,6 +135,27 @@ TEST_F(PlacementByMouse, LooksThroughHelpersAndShapes) {
   EXPECT_EQ(filter.Filter(&scene().root()), TRUE) << "a node without an object passes";
 }
 
+TEST_F(PlacementByMouse, StandsOnWhatHangsOnOneOfItsParts) {
+  INode* parent = start();
+  Node* tray = addSurface(new host::SurroundingsObject(tableTop(60)), at({150, 0, 75}));
+  parent->GetChildNode(0)->AttachChild(tray, 1);
+  ZORVEL::PlacementPickMode filter;
+  EXPECT_EQ(filter.Filter(tray), TRUE);
+  moveTo({160, 10, 75});
+  expectAt(parent, {160, 10, 75});
+}
+
+TEST_F(PlacementByMouse, StandsWhereARayBeginsOnTheGround) {
+  INode* parent = start();
+  Matrix3 elsewhere = at({120, 40, 0});
+  view_->lookAt(Point3(0, 500, 0), 1000.0F, 0.0F, 0.0F);
+  for (const int row : {HEIGHT / 4, HEIGHT * 3 / 4}) {
+    parent->SetNodeTM(0, elsewhere);
+    feed_->move(0, {WIDTH / 2, row});
+    EXPECT_EQ(parent->GetNodeTM(0).GetTrans(), view_->camera().eye()) << row;
+  }
+}
+
 TEST_F(PlacementByMouse, StaysWhereItIsWhileTheRayRunsAwayFromTheGround) {
   INode* parent = start();
   moveTo({50, 50, 0});
@@ -189,7 +208,7 @@ TEST_F(PlacementByMouse, ARightClickInEitherStepDeletesCharacterAndGroupAndUndoD
   }
   clearLog();
   Application::instance().modes().set(nullptr);
-  ASSERT_NE(CharacterBuilder::BuildSelectedCharacter(), nullptr) << "the register points at nothing that is gone";
+  ASSERT_NE(build(), nullptr) << "the register points at nothing that is gone";
   EXPECT_EQ(countLogged(L"use instance..."), 0);
 }
 

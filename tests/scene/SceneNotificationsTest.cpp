@@ -61,4 +61,14 @@ TEST_F(SceneNotifications, ReleaseOnlyWhatIsRegisteredUnderItsExactName) {
   EXPECT_EQ(ProxyObjectDatabase::LookUp(L"C:\\a\\Body.vrmesh"), nullptr);
 }
 
+TEST_F(SceneNotifications, AnObjectThatIsAddedAgainCountsAsUsedOnce) {
+  auto* object = new host::CircleShape;
+  host::Node* node = host::Application::instance().scene().create(object);
+  ProxyObjectDatabase::Add(object, L"a.vrmesh");
+  ProxyObjectDatabase::LookUp(L"a.vrmesh");
+  ProxyObjectDatabase::Add(object, L"a.vrmesh");
+  host::Application::instance().scene().remove(*node);
+  EXPECT_EQ(countLogged(L"Delete object from database..."), 1);
+}
+
 }  // namespace

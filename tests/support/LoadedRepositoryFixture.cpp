@@ -5,6 +5,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
+#include "scene/CharacterBuilder.h"
 
 namespace support {
 
@@ -25,6 +26,13 @@ void LoadedRepositoryFixture::SetUp() {
   Selection2::SetStyle(L"k1m1");
   clearLog();
 }
+
+void LoadedRepositoryFixture::reload() {
+  loaded_->read();
+  ASSERT_EQ(loaded_->error(), "");
+}
+
+INode* LoadedRepositoryFixture::build() { return ZORVEL::CharacterBuilder::BuildSelectedCharacter(report_); }
 
 void LoadedRepositoryFixture::TearDown() {
   host::Application::instance().reset();

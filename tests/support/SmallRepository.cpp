@@ -92,6 +92,20 @@ SmallRepository::SmallRepository() {
   writeMaterials(folder_);
 }
 
+void SmallRepository::edit(const std::string& from, const std::string& to) const {
+  std::string text = folder_.read("zorvel.xml");
+  text.replace(text.find(from), from.size(), to);  // throws where the text is not there
+  folder_.write("zorvel.xml", text);
+}
+
+void SmallRepository::mend() const {
+  edit(R"(<asset id="gone"/>)", "");
+  const std::string pixel("P6 1 1 255\n\x80\x80\x80", 14);
+  for (const char* name : {"skin_d.png", "blue.png", "canvas.png", "props.png", "leather.png", "oak.png"}) {
+    folder_.write(std::string("maps/") + name, pixel);
+  }
+}
+
 void SmallRepository::writePictures() const {
   writePicture(folder_, "anna/previews/preview_k1.png", 110, 330);
   for (const char* file : {"anna/previews/k1_p1.png", "anna/previews/k1_p2.png", "anna/summer/blue.png",

@@ -12,6 +12,10 @@ namespace support {
 class SmallRepository {
  public:
   SmallRepository();
+  /// Replaces the first such text of the description, which has to be there.
+  void edit(const std::string& from, const std::string& to) const;
+  /// As it comes, a pose asks for an asset that is not there and no texture is; after this everything is.
+  void mend() const;
   /// A picture for every element, so that the main window shows them all: without, it shows none.
   void writePictures() const;
 
