@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTreeWidget>
 #include <cstdlib>
+#include <map>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -13,25 +14,32 @@
 #include "core/FileStamps.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
+#include "host/files/LocalAppData.h"
+#include "host/files/TemporaryFolder.h"
 #include "host/formats/SceneJson.h"
 #include "host/modes/CommandModes.h"
+#include "host/scene/Scene.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/PageOffers.h"
 #include "model/Selection2.h"
 #include "plugin/Commands.h"
+#include "repository/ParseObserver.h"
+#include "scene/BuildFindings.h"
+#include "scene/BuildReport.h"
 #include "scene/CharacterBuilder.h"
 #include "scene/SceneNotifications.h"
 #include "tests/agreement/Damage.h"
-#include "tests/support/LocalAppData.h"
 #include "tests/ui/WindowRepository.h"
 #include "ui/MainWindowClass.h"
 
 namespace {
 
+using ZORVEL::BuildReport;
 using ZORVEL::CharacterData;
 using ZORVEL::Data2;
 using ZORVEL::DataContainer;
+using ZORVEL::ElementKind;
 using ZORVEL::MainWindowClass;
 using ZORVEL::OfferedElement;
 using ZORVEL::PageOffer;
@@ -57,6 +65,44 @@ struct Shown {
 
 void PrintTo(const Shown& shown, std::ostream* out) { *out << shown.unique << (shown.available ? "" : " grey"); }
 
+/// What the parser has read and what it has left out.
+class Notes : public ZORVEL::ParseObserver {
+ public:
+  void clear() { documents_ = characters_ = skipped_ = records_ = 0; }
+  void Noted(const ZORVEL::ParseNote& note) override {
+    using Kind = ZORVEL::ParseNoteKind;
+    if (note.kind <= Kind::WrongDocumentElement) ++documents_;
+    if (note.kind >= Kind::CharacterWithoutAttributes && note.kind <= Kind::CharacterWithoutSkin) ++characters_;
+    if (note.kind == Kind::ElementSkipped) ++skipped_;
+  }
+  void RecordRead(const DataContainer& /*record*/, int /*line*/, int /*column*/) override { ++records_; }
+  /// Whether every element has become a record or was told to be left out.
+  void expectAll(const std::string& description) const {
+    if (documents_ > 0) {
+      EXPECT_EQ(Data2::GetCharacterCount(), 0);
+      return;
+    }
+    EXPECT_EQ(Data2::GetCharacterCount() + characters_, countIn(description, "<character"));
+    if (characters_ > 0) return;
+    EXPECT_EQ(records_ + skipped_, countIn(description, ELEMENTS));
+  }
+
+ private:
+  /// All but the lists, which are no records.
+  static constexpr const char* ELEMENTS =
+      "<(character|skin|clothing|material|exclude|select|pose|category|asset|matrix)[ />]";
+
+  static int countIn(const std::string& text, const char* pattern) {
+    const std::regex elements(pattern);
+    return static_cast<int>(std::distance(std::sregex_iterator(text.begin(), text.end(), elements), {}));
+  }
+
+  int documents_ = 0;
+  int characters_ = 0;
+  int skipped_ = 0;
+  int records_ = 0;
+};
+
 /// Any repository, in the plug-in's store and its window.
 class Agreement : public testing::Test {
  protected:
@@ -81,6 +127,7 @@ class Agreement : public testing::Test {
     Selection2::SetStyle(nullptr);
     ZORVEL::Settings::StorePath(root.c_str());
     ZORVEL::Commands::CallMainWindow();
+    notes_.clear();
     ZORVEL::Commands::ReloadRepository();
   }
 
@@ -125,14 +172,38 @@ class Agreement : public testing::Test {
 
   static std::string builtScene() {
     host::Application::instance().reset();
-    const INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter();
+    BuildReport report;
+    const INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter(report);
+    expectAllTold(report);
     if (parent == nullptr) return "nothing";
+    EXPECT_EQ(host::Application::instance().scene().nodes().size(), report.pieces.size() + 2) << "with parent and head";
     // Handles go on counting from scene to scene.
     static const std::regex HANDLES("\"handle\": [0-9]+");
-    return std::regex_replace(host::sceneJson(host::Application::instance().scene(), host::Application::instance().units()), HANDLES, "");
+    return std::regex_replace(
+        host::sceneJson(host::Application::instance().scene(), host::Application::instance().units()), HANDLES, "");
   }
 
-  support::LocalAppData settings_;
+  /// Whatever was chosen, or comes with the pose, was built or has a reason.
+  static void expectAllTold(const BuildReport& report) {
+    if (report.obstacle != ZORVEL::BuildObstacle::None) {
+      EXPECT_EQ(ZORVEL::BuildFindings::Describe(report).size(), 1U);
+      return;
+    }
+    std::map<ElementKind, int> told;
+    for (const ZORVEL::BuiltPiece& piece : report.pieces) ++told[piece.element.kind];
+    for (const ZORVEL::Omission& omission : report.omissions) ++told[omission.element.kind];
+    const CharacterData& character = *Data2::GetCharacter(Selection2::GetCharacter());
+    EXPECT_EQ(told[ElementKind::Body], 1);
+    EXPECT_EQ(told[ElementKind::Clothing], 1);
+    EXPECT_EQ(told[ElementKind::MandatoryAsset], character.GetPose(Selection2::GetPose())->GetChildCount());
+    EXPECT_EQ(told[ElementKind::Asset] + told[ElementKind::SharedAsset], Selection2::GetAssetCount());
+    EXPECT_GE(ZORVEL::BuildFindings::Describe(report).size(), report.omissions.size());
+  }
+
+  host::TemporaryFolder folder_;
+  host::LocalAppData settings_{folder_.path()};
+  Notes notes_;
+  const ZORVEL::ObservedParsing observed_{notes_};
 };
 
 /// What the pages of the present choice offer, and that every element of the character is on one of them or has a
@@ -205,6 +276,7 @@ TEST_F(Agreement, OfWindowCommandLineAndBuilderSurvivesAnyDamage) {
     SCOPED_TRACE("seed " + std::to_string(seed) + ": " + done);
 
     load(repository.root());
+    notes_.expectAll(repository.folder().read("zorvel.xml"));
     clickThroughTheTree();
     const std::wstring clicked = selection();
     const std::vector<std::vector<Shown>> shown = shownPages();
