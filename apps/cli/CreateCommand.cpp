@@ -7,9 +7,9 @@
 
 #include "apps/cli/Choice.h"
 #include "apps/cli/ExitStatus.h"
-#include "apps/cli/LoadedRepository.h"
 #include "apps/cli/PlaceByClicks.h"
 #include "apps/cli/Progress.h"
+#include "apps/support/LoadedRepository.h"
 #include "host/application/Application.h"
 #include "host/application/SceneFile.h"
 #include "host/files/Paths.h"
@@ -141,7 +141,7 @@ int build(const CreateOptions& options, Findings& findings) {
 }  // namespace
 
 int runCreate(const CreateOptions& options) {
-  const LoadedRepository repository(options.repository);
+  const apps::LoadedRepository repository(options.repository);
   if (!repository.error().empty()) {
     complain(repository.error());
     return EXIT_UNREADABLE;

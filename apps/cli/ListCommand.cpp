@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 
 #include "apps/cli/ExitStatus.h"
-#include "apps/cli/LoadedRepository.h"
 #include "apps/cli/ModelText.h"
+#include "apps/support/LoadedRepository.h"
 #include "apps/support/ParseNoteText.h"
 #include "host/files/Paths.h"
 #include "model/Data2.h"
@@ -177,7 +177,7 @@ bool reportNotes(const std::vector<ZORVEL::ParseNote>& notes, const std::filesys
 }  // namespace
 
 int runList(const std::filesystem::path& repository, bool asJson) {
-  const LoadedRepository loaded(repository);
+  const apps::LoadedRepository loaded(repository);
   if (!loaded.error().empty()) {
     std::cerr << "zorvel list: " << loaded.error() << '\n';
     return EXIT_UNREADABLE;

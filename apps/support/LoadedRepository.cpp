@@ -25,9 +25,16 @@ class NoteKeeper : public ZORVEL::ParseObserver {
 
 }  // namespace
 
-LoadedRepository::LoadedRepository(const fs::path& root) : appData_(settingsFolder_.path()) {
+LoadedRepository::LoadedRepository(const fs::path& root) : root_(root), appData_(settingsFolder_.path()) {
   ZORVEL::SceneNotifications::Register();
-  error_ = load(root);
+  if (settingsFolder_.path().empty()) {
+    error_ = "No temporary folder can be made.";
+    return;
+  }
+  ZORVEL::Settings::LoadSettings();
+  // The trailing separator is what choosing the file in the dialog of 3ds Max would leave.
+  ZORVEL::Settings::StorePath((host::toWide(fs::absolute(root).string()) + L"\\").c_str());
+  read();
 }
 
 LoadedRepository::~LoadedRepository() {
@@ -37,17 +44,20 @@ LoadedRepository::~LoadedRepository() {
   ZORVEL::Settings::FreeSettings();
 }
 
-std::string LoadedRepository::load(const fs::path& root) {
+void LoadedRepository::read() {
+  ZORVEL::Data2::Clear();
+  ZORVEL::Selection2::ClearAssets();
+  notes_.clear();
+  error_ = tryRead();
+}
+
+std::string LoadedRepository::tryRead() {
   std::error_code ignored;
-  if (settingsFolder_.path().empty()) return "No temporary folder can be made.";
-  if (!fs::is_directory(root, ignored)) return root.string() + " is not a folder.";
-  ZORVEL::Settings::LoadSettings();
-  // The trailing separator is what choosing the file in the dialog of 3ds Max would leave.
-  ZORVEL::Settings::StorePath((host::toWide(fs::absolute(root).string()) + L"\\").c_str());
+  if (!fs::is_directory(root_, ignored)) return root_.string() + " is not a folder.";
   NoteKeeper keeper(notes_);
   const ZORVEL::ObservedParsing observed(keeper);
   if (!ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath())) {
-    return notes_.empty() ? root.string() + " cannot be read." : lineOf(notes_.back(), root);
+    return notes_.empty() ? root_.string() + " cannot be read." : lineOf(notes_.back(), root_);
   }
   ZORVEL::Data2::SetValidated(true);
   return "";

@@ -20,14 +20,18 @@ class LoadedRepository {
   LoadedRepository(const LoadedRepository&) = delete;
   LoadedRepository& operator=(const LoadedRepository&) = delete;
 
+  /// Reads it again into the emptied store. What is chosen stays so, but the assets, which went with their records.
+  void read();
+
   /// One line, with the place in the file where there is one; empty when the repository could be read.
   const std::string& error() const { return error_; }
   /// What the parser refused, skipped or limited in a repository that could be read.
   const std::vector<ZORVEL::ParseNote>& notes() const { return notes_; }
 
  private:
-  std::string load(const std::filesystem::path& root);
+  std::string tryRead();
 
+  std::filesystem::path root_;
   host::TemporaryFolder settingsFolder_;
   host::LocalAppData appData_;
   std::vector<ZORVEL::ParseNote> notes_;

@@ -1,12 +1,10 @@
 #include "tests/support/LoadedRepositoryFixture.h"
 
-#include "core/Settings.h"
 #include "host/application/Application.h"
 #include "host/services/Listener.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
-#include "repository/Parser2.h"
 #include "scene/CharacterBuilder.h"
 
 namespace support {
@@ -30,10 +28,8 @@ void LoadedRepositoryFixture::SetUp() {
 }
 
 void LoadedRepositoryFixture::reload() {
-  Data2::Clear();
-  Selection2::ClearAssets();
-  ASSERT_TRUE(ZORVEL::Parser2::ParseRepository(ZORVEL::Settings::GetPath()));
-  Data2::SetValidated(true);
+  loaded_->read();
+  ASSERT_EQ(loaded_->error(), "");
 }
 
 INode* LoadedRepositoryFixture::build() { return ZORVEL::CharacterBuilder::BuildSelectedCharacter(report_); }

@@ -30,8 +30,8 @@ class LoadedRepositoryFixture : public LogStoreFixture {
 
  private:
   SmallRepository repository_;
-  ZORVEL::BuildReport report_;
   std::optional<apps::LoadedRepository> loaded_;
+  ZORVEL::BuildReport report_;
 };
 
 }  // namespace support
