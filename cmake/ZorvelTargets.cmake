@@ -19,6 +19,24 @@ if(ZORVEL_SANITIZE)
   target_link_options(zorvel_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# zorvel_check_headers(TARGET FOLDER...): where ZORVEL_CHECK_HEADERS says so, TARGET compiles a source for each header of the folders that
+# includes nothing else, so that each of them stands on its own.
+function(zorvel_check_headers target)
+  if(NOT ZORVEL_CHECK_HEADERS)
+    return()
+  endif()
+  foreach(folder ${ARGN})
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/${folder}/*.h)
+    foreach(header ${headers})
+      set(source ${PROJECT_BINARY_DIR}/header-checks/${header}.cpp)
+      # Those of SDK and Windows are included by their names there.
+      string(REGEX REPLACE "^(sdk|winapi)/" "" name ${header})
+      file(CONFIGURE OUTPUT ${source} CONTENT "#include \"@name@\"\n" @ONLY)
+      target_sources(${target} PRIVATE ${source})
+    endforeach()
+  endforeach()
+endfunction()
+
 # Headers named as in the 3ds Max SDK and as in Windows: the contract between the plug-in and either host.
 add_library(zorvel_sdk INTERFACE)
 target_include_directories(zorvel_sdk SYSTEM INTERFACE ${PROJECT_SOURCE_DIR}/sdk)
@@ -42,6 +60,7 @@ function(zorvel_plugin_folder name)
   target_include_directories(zorvel_${name}_objects PRIVATE ${includes})
   target_link_libraries(zorvel_${name}_objects PRIVATE zorvel_options ${FOLDER_LIBRARIES})
   set_target_properties(zorvel_${name}_objects PROPERTIES CXX_STANDARD 14 UNITY_BUILD ${ZORVEL_UNITY})
+  zorvel_check_headers(zorvel_${name}_objects ${name})
 endfunction()
 
 # zorvel_host_layer(NAME SEES LAYER... LIBRARIES LIBRARY...): the sources of one layer of the embedded host. SEES names the layers that it
@@ -59,6 +78,7 @@ function(zorvel_host_layer name)
   target_include_directories(zorvel_host_${name} PRIVATE ${includes})
   target_link_libraries(zorvel_host_${name} PRIVATE zorvel_options ${LAYER_LIBRARIES})
   set_target_properties(zorvel_host_${name} PROPERTIES CXX_STANDARD 17)
+  zorvel_check_headers(zorvel_host_${name} host/${name})
   set_property(GLOBAL APPEND PROPERTY ZORVEL_HOST_OBJECTS $<TARGET_OBJECTS:zorvel_host_${name}>)
 endfunction()
 
