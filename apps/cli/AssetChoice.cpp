@@ -1,6 +1,7 @@
 #include "apps/cli/AssetChoice.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "apps/cli/ModelText.h"
 #include "apps/cli/NearestIds.h"
@@ -81,12 +82,10 @@ void AssetChoice::visit(const PageOffer& page, bool defaults) {
   bool wished = false;
   for (Wish& wish : wishes_) wished = visit(wish, page) || wished;
   if (wished || !defaults) return;
-  for (const int unique : page.choice) {
-    const auto begun = std::find_if(page.shown.begin(), page.shown.end(),
-                                    [unique](const OfferedElement& one) { return one.unique == unique; });
-    begun_.push_back(*begun);
-  }
   ZORVEL::InitialChoice::Make(page);
+  // Within the page a later one may have taken the place of an earlier.
+  const auto isChosen = [](const OfferedElement& one) { return Selection2::CheckSelectedAsset(one.unique); };
+  std::copy_if(page.shown.begin(), page.shown.end(), std::back_inserter(begun_), isChosen);
 }
 
 /// True when the page offers it.
@@ -134,8 +133,7 @@ void AssetChoice::click(std::size_t index) {
 void AssetChoice::reportLost(const OfferedElement& element) {
   if (Selection2::CheckSelectedAsset(element.unique)) return;
   result_.notes.push_back("Asset " + nameOf(*element.record) +
-                          " left out: the pages begin with it, and a choice in another category drops it, or a later "
-                          "one in its own.");
+                          " left out: its page begins with it, and what is chosen in another category drops it.");
 }
 
 }  // namespace cli

@@ -260,6 +260,17 @@ class Offers {
   std::set<const DataContainer*> known_;
 };
 
+TEST_F(Agreement, NeedsNoWordsWhereNothingIsMissing) {
+  const support::WindowRepository repository;
+  load(repository.root());
+  clickThroughTheTree();
+  const std::wstring clicked = selection();
+  const cli::ChoiceResult choice = cli::choose({});
+  EXPECT_EQ(selection(), clicked);
+  EXPECT_THAT(choice.errors, testing::IsEmpty());
+  EXPECT_THAT(choice.notes, testing::IsEmpty()) << "the bowler takes the place of the required cap";
+}
+
 /// How many repositories are damaged; for a longer search ZORVEL_DAMAGES says otherwise.
 unsigned damages() {
   const char* wanted = std::getenv("ZORVEL_DAMAGES");
