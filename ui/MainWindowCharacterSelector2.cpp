@@ -2,6 +2,8 @@
 
 #include "model/CharacterData.h"
 #include "model/Data2.h"
+#include "model/Fields.h"
+#include "model/RepositoryFormat.h"
 #include "plugin/Commands.h"
 #include "ui/Log.h"
 #include "ui/Texts.h"
@@ -11,7 +13,7 @@ namespace ZORVEL {
 namespace {
 
 QString ShownName(const DataContainer* element) {
-  return Texts::OneLine(Texts::FromWide(Texts::Field(element, L"name")));
+  return Texts::OneLine(Texts::FromWide(Fields::TextOrEmpty(element, RepositoryFormat::FIELD_NAME)));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "model/Fields.h"
+#include "model/RepositoryFormat.h"
 
 namespace ZORVEL {
 
@@ -24,15 +25,10 @@ bool IsLineBreak(QChar c) {
 
 }  // namespace
 
-std::wstring Texts::Field(const DataContainer* record, const wchar_t* field) {
-  const wchar_t* text = Fields::OptionalText(record, field);
-  return text != nullptr ? text : std::wstring();
-}
-
 QString Texts::FromWide(const wchar_t* text) { return text != nullptr ? QString::fromWCharArray(text) : QString(); }
 
 std::wstring Texts::Name(const DataContainer* record) {
-  return Cut(FromWide(Fields::OptionalText(record, L"name")), LONGEST_LINE).toStdWString();
+  return Cut(FromWide(Fields::OptionalText(record, RepositoryFormat::FIELD_NAME)), LONGEST_LINE).toStdWString();
 }
 
 QString Texts::OneLine(const QString& text) {

@@ -10,8 +10,6 @@ class DataContainer;
 /// Names out of a repository on their way to the screen. They may hold anything: line breaks, markup, a megabyte.
 class Texts {
  public:
-  /// The field's text; empty for a null record and a missing field.
-  static std::wstring Field(const DataContainer* record, const wchar_t* field);
   static QString FromWide(const wchar_t* text);
   static QString FromWide(const std::wstring& text) { return QString::fromStdWString(text); }
 
