@@ -25,7 +25,7 @@ struct ClothWithoutPreview {
 struct ListedAsset {
   DataContainer* asset;
   DataContainer* record;  ///< the global record where the asset stands for one that there is, else the asset
-  Refusal refusal;        ///< why it is not listed
+  WhyNot whyNot;          ///< why it is not listed
 };
 
 /// One character: its own fields, five lists of elements and the asset matrix. Elements are named by the text of their

@@ -23,12 +23,6 @@ bool NeedsMatrixRow(const DataContainer* asset, const DataContainer* globalAsset
   return Data2::CheckAssetGlobal(asset) ? globalAsset != nullptr : !CharacterData::IsSpecific(asset);
 }
 
-std::wstring Quoted(const wchar_t* text) { return L"\"" + std::wstring(text ? text : L"") + L"\""; }
-
-std::wstring PoseAndAsset(const wchar_t* pose, const wchar_t* asset) {
-  return L"pose " + Quoted(pose) + L" and asset " + Quoted(asset);
-}
-
 }  // namespace
 
 DataContainer* CharacterData::FindElementById(const DataContainer* container, const wchar_t* id) {
@@ -69,7 +63,7 @@ DataContainer* CharacterData::GetCategoryForGlobalAsset(const DataContainer* glo
 
 void CharacterData::GetAssetsForCategory(std::vector<DataContainer*>& assets, const DataContainer* category) const {
   for (const ListedAsset& listed : ListAssetsForCategory(category)) {
-    if (listed.refusal.why == WhyNot::Nothing) assets.push_back(listed.record);
+    if (listed.whyNot == WhyNot::Nothing) assets.push_back(listed.record);
   }
 }
 
@@ -89,14 +83,12 @@ ListedAsset CharacterData::ListAsset(DataContainer* asset, const DataContainer* 
   const wchar_t* id = Fields::OptionalText(asset, FIELD_ID);
   DataContainer* globalAsset = Data2::CheckAssetGlobal(asset) ? Data2::GetGlobalAssetForAsset(asset) : nullptr;
   if (globalAsset && id) globalAsset->SetData(FIELD_LOCAL_ASSET_ID, id);
-  ListedAsset listed = {asset, globalAsset ? globalAsset : asset, Refusal()};
+  ListedAsset listed = {asset, globalAsset ? globalAsset : asset, WhyNot::Nothing};
   if (NeedsMatrixRow(asset, globalAsset) && !FindAssetMatrixElement(Selection2::GetPose(), id)) {
     Debug::AddDebugMessage(DEBUG_INFO, L"CharacterData::GetAssetsForCategory found no matrix for ");
-    listed.refusal = {WhyNot::NoMatrixRow, PoseAndAsset(Selection2::GetPose(), id)};
-  }
-  // The stronger reason of the two: no other pose would help.
-  if (IsAssetExcludedByCloth(cloth, asset)) {
-    listed.refusal = {WhyNot::Excluded, Fields::TextOrEmpty(asset, FIELD_ID)};
+    listed.whyNot = WhyNot::NoMatrixRow;
+  } else if (IsAssetExcludedByCloth(cloth, asset)) {
+    listed.whyNot = WhyNot::Excluded;
   }
   return listed;
 }

@@ -66,11 +66,31 @@ const wchar_t* ReadDigits(const wchar_t* text, int exponentStep, Decimal& number
   return text;
 }
 
-double ExactValue(const Decimal& number) {
+/// Ten to the power, from 0 to EXACT_POWER.
+double PowerOfTen(int power) {
   static const double powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                   1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  return powers[power];
+}
+
+double ExactValue(const Decimal& number) {
   const double digits = static_cast<double>(number.digits);
-  return number.exponent < 0 ? digits / powers[-number.exponent] : digits * powers[number.exponent];
+  return number.exponent < 0 ? digits / PowerOfTen(-number.exponent) : digits * PowerOfTen(number.exponent);
+}
+
+/// What nearly every number is: a few digits and perhaps a point. False, and nothing read, for all others.
+bool ReadPlain(const wchar_t* const begin, const wchar_t*& end, double& value) {
+  std::uint64_t digits = 0;
+  const wchar_t* text = begin;
+  for (; IsDigit(*text); ++text) digits = digits * 10 + static_cast<unsigned>(*text - L'0');
+  const auto whole = text - begin;
+  const wchar_t* const fraction = *text == L'.' ? text + 1 : text;
+  for (text = fraction; IsDigit(*text); ++text) digits = digits * 10 + static_cast<unsigned>(*text - L'0');
+  const auto places = text - fraction;
+  if (whole + places == 0 || whole + places > EXACT_DIGITS || IsPartOfName(*text)) return false;
+  end = text;
+  value = static_cast<double>(digits) / PowerOfTen(static_cast<int>(places));
+  return true;
 }
 
 /// For the rare number with many digits or a large exponent.
@@ -145,6 +165,8 @@ double ReadWord(const wchar_t* text, const wchar_t*& end) {
 }
 
 double ReadUnsigned(const wchar_t* text, const wchar_t*& end) {
+  double value = 0;
+  if (ReadPlain(text, end, value)) return value;
   if (*text == L'0' && Lower(text[1]) == L'x') return ReadHexadecimal(text, end);
   return IsDigit(*text) || *text == L'.' ? ReadDecimal(text, end) : ReadWord(text, end);
 }

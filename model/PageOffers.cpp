@@ -52,6 +52,17 @@ void ShowByAvailability(PageOffer& page, OfferedElement element) {
   page.shown.insert(place, std::move(element));
 }
 
+std::wstring Quoted(const std::wstring& text) { return L"\"" + text + L"\""; }
+
+Refusal WhyNotListed(const ListedAsset& listed, const CharacterData& character) {
+  const std::wstring id = Fields::TextOrEmpty(listed.asset, FIELD_ID);
+  // The stronger reason where both hold: no other pose would help.
+  const bool excluded = character.IsAssetExcludedByCloth(character.GetCloth(Selection2::GetCloth()), listed.asset);
+  if (excluded) return Refusal(WhyNot::Excluded, id);
+  const wchar_t* pose = Selection2::GetPose();
+  return Refusal(WhyNot::NoMatrixRow, L"pose " + Quoted(pose ? pose : L"") + L" and asset " + Quoted(id));
+}
+
 /// Of a list that takes one choice.
 void ChooseFirstAvailable(PageOffer& page) {
   if (!page.shown.empty() && page.shown.front().IsAvailable()) page.choice.push_back(page.shown.front().unique);
@@ -182,10 +193,10 @@ PageOffer PageOffers::MakeAssets(const DataContainer& category) const {
   page.category = &category;
   std::vector<const DataContainer*> listed;
   for (const ListedAsset& asset : m_character.ListAssetsForCategory(&category)) {
-    if (asset.refusal.why == WhyNot::Nothing) {
+    if (asset.whyNot == WhyNot::Nothing) {
       listed.push_back(asset.record);
     } else {
-      Hide(page, Describe(asset.record, std::wstring()), asset.refusal);
+      Hide(page, Describe(asset.record, std::wstring()), WhyNotListed(asset, m_character));
     }
   }
   page.hasTab = !listed.empty();
