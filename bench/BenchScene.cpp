@@ -62,8 +62,9 @@ void fillScene(int characters) {
     INode* parent = ZORVEL::CharacterBuilder::BuildSelectedCharacter(report);
     if (parent == nullptr) throw std::runtime_error("nothing was built");
     Matrix3 tm(TRUE);
-    tm.SetTrans(
-        Point3(static_cast<float>(i % side - side / 2) * 200.0F, static_cast<float>(i / side - side / 2) * 200.0F, 0));
+    const int column = i % side - side / 2;
+    const int row = i / side - side / 2;
+    tm.SetTrans(Point3(static_cast<float>(column) * 200.0F, static_cast<float>(row) * 200.0F, 0));
     parent->GetParentNode()->SetNodeTM(0, tm);
     Application::instance().undo().clear();
   }

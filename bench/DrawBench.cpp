@@ -125,7 +125,7 @@ void raysOfAFrameAlone(benchmark::State& state) {
     for (std::uint32_t i = 0; i <= SKY_RAYS; ++i) {
       const Point3 direction =
           i == SKY_RAYS ? SUN
-                        : host::cosineDirection(Point3(0, 0, 1), pattern.pair(host::SamplePattern::Sky, i, SKY_RAYS));
+                        : host::cosineDirection(Point3(0, 0, 1), pattern.pair(host::SamplePattern::SKY, i, SKY_RAYS));
       RTCRay up = query.ray;
       up.org_x = place.x;
       up.org_y = place.y;

@@ -36,7 +36,8 @@ void clothingClickFirstTime(benchmark::State& state) {
     state.ResumeTiming();
     window.chooseCloth(next++ % 2);
   }
-  state.counters["pictures"] = (ZORVEL::PictureCache::Instance().GetDecodedCount() - before) / next;
+  state.counters["pictures"] = benchmark::Counter(ZORVEL::PictureCache::Instance().GetDecodedCount() - before,
+                                                  benchmark::Counter::kAvgIterations);
 }
 
 /// What a first click may take more than another one.

@@ -33,7 +33,7 @@ void press(QWidget& target, const QPoint& pixel) {
 
 }  // namespace
 
-OpenMainWindow::OpenMainWindow(int characters) : window_(nullptr), tree_(nullptr) {
+OpenMainWindow::OpenMainWindow(int characters) {
   PictureRepository::ofSize(characters).load();
   ZORVEL::MainWindow::OpenMainWindow();
   settle();

@@ -26,8 +26,8 @@ class OpenMainWindow {
   void click(const QTreeWidgetItem& item);
   QTabWidget& tabs() const;
 
-  QWidget* window_;
-  QTreeWidget* tree_;
+  QWidget* window_ = nullptr;
+  QTreeWidget* tree_ = nullptr;
 };
 
 /// With the events that are still to come, and everything that waits to be destroyed.

@@ -16,7 +16,7 @@ PlacingScene& PlacingScene::ofSize(int characters) {
   static int size = 0;
   // Left to the end of the process: the plug-in's own registers may be gone before it.
   static PlacingScene* scene = nullptr;
-  if (size != characters) {
+  if (scene == nullptr || size != characters) {
     delete scene;
     scene = new PlacingScene(characters);
     size = characters;

@@ -15,7 +15,7 @@ struct Store {
   LogStore::Listener listener;
 };
 
-Store& store() {
+Store& TheStore() {
   static Store instance;
   return instance;
 }
@@ -25,29 +25,29 @@ Store& store() {
 bool LogStore::Create() {
   std::unique_ptr<std::vector<LogEntry>> fresh(new (std::nothrow) std::vector<LogEntry>);
   const bool created = fresh != nullptr;
-  std::lock_guard<std::mutex> lock(store().mutex);
-  store().entries = std::move(fresh);
+  std::lock_guard<std::mutex> lock(TheStore().mutex);
+  TheStore().entries = std::move(fresh);
   return created;
 }
 
 void LogStore::Free() {
-  std::lock_guard<std::mutex> lock(store().mutex);
-  store().entries.reset();
+  std::lock_guard<std::mutex> lock(TheStore().mutex);
+  TheStore().entries.reset();
 }
 
 bool LogStore::Exists() {
-  std::lock_guard<std::mutex> lock(store().mutex);
-  return store().entries != nullptr;
+  std::lock_guard<std::mutex> lock(TheStore().mutex);
+  return TheStore().entries != nullptr;
 }
 
 void LogStore::Add(DEBUG_TYPE level, const wchar_t* text) {
   const wchar_t* const message = text ? text : L"";
   Listener listener;
   try {
-    std::lock_guard<std::mutex> lock(store().mutex);
-    if (!store().entries) return;
-    store().entries->push_back({level, message});
-    listener = store().listener;
+    std::lock_guard<std::mutex> lock(TheStore().mutex);
+    if (!TheStore().entries) return;
+    TheStore().entries->push_back({level, message});
+    listener = TheStore().listener;
   } catch (const std::bad_alloc&) {
     // Losing a message is better than failing the operation that reports it.
   }
@@ -55,18 +55,18 @@ void LogStore::Add(DEBUG_TYPE level, const wchar_t* text) {
 }
 
 void LogStore::SetListener(Listener listener) {
-  std::lock_guard<std::mutex> lock(store().mutex);
-  store().listener = std::move(listener);
+  std::lock_guard<std::mutex> lock(TheStore().mutex);
+  TheStore().listener = std::move(listener);
 }
 
 std::vector<LogEntry> LogStore::Entries() {
-  std::lock_guard<std::mutex> lock(store().mutex);
-  return store().entries ? *store().entries : std::vector<LogEntry>();
+  std::lock_guard<std::mutex> lock(TheStore().mutex);
+  return TheStore().entries ? *TheStore().entries : std::vector<LogEntry>();
 }
 
 void LogStore::Clear() {
-  std::lock_guard<std::mutex> lock(store().mutex);
-  if (store().entries) store().entries->clear();
+  std::lock_guard<std::mutex> lock(TheStore().mutex);
+  if (TheStore().entries) TheStore().entries->clear();
 }
 
 }  // namespace ZORVEL

@@ -10,7 +10,7 @@
 
 namespace ZORVEL {
 
-Settings* Settings::singleton = nullptr;
+Settings* Settings::m_singleton = nullptr;
 
 namespace {
 
@@ -20,18 +20,18 @@ const std::size_t LONGEST_FILE = 1 << 20;
 
 using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
-File openSettingsFile(const std::wstring& name, const wchar_t* mode) {
+File OpenSettingsFile(const std::wstring& name, const wchar_t* mode) {
   return File(_wfopen(name.c_str(), mode), &std::fclose);
 }
 
-bool findSettingsFile(std::wstring& name) {
+bool FindSettingsFile(std::wstring& name) {
   wchar_t folder[MAX_PATH] = {};
   if (FAILED(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder))) return false;
   name = std::wstring(folder) + L"\\zorvel.ini";
   return true;
 }
 
-std::wstring readLatin1(std::FILE* file) {
+std::wstring ReadLatin1(std::FILE* file) {
   std::wstring text;
   char buffer[4096];
   while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, file)) {
@@ -41,7 +41,7 @@ std::wstring readLatin1(std::FILE* file) {
   return text;
 }
 
-std::string latin1Beginning(const std::wstring& text) {
+std::string Latin1Beginning(const std::wstring& text) {
   std::string bytes;
   for (const wchar_t character : text) {
     if (character < 0 || character > 0xFF) break;
@@ -53,67 +53,67 @@ std::string latin1Beginning(const std::wstring& text) {
 }  // namespace
 
 bool Settings::LoadSettings() {
-  if (singleton) {
+  if (m_singleton) {
     Debug::AddDebugMessage(DEBUG_WARNING, L"Settings::LoadSettings - singleton was not nullptr");
-    delete singleton;
+    delete m_singleton;
   }
-  singleton = new Settings;
+  m_singleton = new Settings;
   LoadFromSettingsFile();
   return true;
 }
 
 void Settings::FreeSettings() {
-  if (!singleton) Debug::AddDebugMessage(DEBUG_WARNING, L"Settings::FreeSettings - singleton is nullptr");
-  delete singleton;
-  singleton = nullptr;
+  if (!m_singleton) Debug::AddDebugMessage(DEBUG_WARNING, L"Settings::FreeSettings - singleton is nullptr");
+  delete m_singleton;
+  m_singleton = nullptr;
 }
 
 bool Settings::CheckSingleton() {
-  if (!singleton) Debug::AddDebugMessage(DEBUG_WARNING, L"Settings::CheckSingleton - singleton is nullptr");
-  return singleton != nullptr;
+  if (!m_singleton) Debug::AddDebugMessage(DEBUG_WARNING, L"Settings::CheckSingleton - singleton is nullptr");
+  return m_singleton != nullptr;
 }
 
 Settings* Settings::GetSingleton() {
-  if (!singleton) Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetSingleton - singleton is nullptr");
-  return singleton;
+  if (!m_singleton) Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetSingleton - singleton is nullptr");
+  return m_singleton;
 }
 
 bool Settings::GetPathSet() {
-  if (!singleton) {
+  if (!m_singleton) {
     Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetPathSet - singleton is nullptr");
     return false;
   }
-  return singleton->m_pathSet;
+  return m_singleton->m_pathSet;
 }
 
 const wchar_t* Settings::GetPath() {
-  if (!singleton) {
+  if (!m_singleton) {
     Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetPath - singleton is nullptr");
     return nullptr;
   }
-  return singleton->m_path.c_str();
+  return m_singleton->m_path.c_str();
 }
 
 bool Settings::StorePath(const wchar_t* path) {
-  if (!singleton) {
+  if (!m_singleton) {
     Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetPathSet - singleton is nullptr");
     return false;
   }
   if (!path) return false;
-  singleton->m_path = path;
-  singleton->m_pathSet = true;
+  m_singleton->m_path = path;
+  m_singleton->m_pathSet = true;
   return SaveToSettingsFile();
 }
 
 bool Settings::SaveToSettingsFile() {
-  if (!singleton) {
+  if (!m_singleton) {
     Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::SaveToSettingsFile - singleton is nullptr");
     return false;
   }
   std::wstring name;
-  if (!findSettingsFile(name)) return false;
-  if (const File file = openSettingsFile(name, L"w")) {
-    const std::string bytes = latin1Beginning(singleton->m_path);
+  if (!FindSettingsFile(name)) return false;
+  if (const File file = OpenSettingsFile(name, L"w")) {
+    const std::string bytes = Latin1Beginning(m_singleton->m_path);
     std::fwrite(bytes.data(), 1, bytes.size(), file.get());
   }
   Debug::AddDebugMessage(DEBUG_INFO, name.c_str());
@@ -121,18 +121,18 @@ bool Settings::SaveToSettingsFile() {
 }
 
 bool Settings::LoadFromSettingsFile() {
-  if (!singleton) {
+  if (!m_singleton) {
     Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::SaveToSettingsFile - singleton is nullptr");
     return false;
   }
   std::wstring name;
-  if (!findSettingsFile(name)) return false;
-  const File file = openSettingsFile(name, L"r");
+  if (!FindSettingsFile(name)) return false;
+  const File file = OpenSettingsFile(name, L"r");
   if (!file) return false;
-  std::wstring text = readLatin1(file.get());
+  std::wstring text = ReadLatin1(file.get());
   if (text.size() < SHORTEST_PATH) return false;
-  singleton->m_path = std::move(text);
-  singleton->m_pathSet = true;
+  m_singleton->m_path = std::move(text);
+  m_singleton->m_pathSet = true;
   return true;
 }
 

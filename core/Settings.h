@@ -36,7 +36,7 @@ class Settings {
  private:
   Settings() = default;
 
-  static Settings* singleton;
+  static Settings* m_singleton;
 
   bool m_pathSet = false;
   std::wstring m_path;

@@ -21,12 +21,12 @@ using namespace RepositoryFormat;
 
 namespace {
 
-DataContainer* refuse(const wchar_t* message) {
+DataContainer* Refuse(const wchar_t* message) {
   Debug::AddDebugMessage(DEBUG_ERROR, message);
   return nullptr;
 }
 
-DataContainer* appendChild(DataContainer& parent) {
+DataContainer* AppendChild(DataContainer& parent) {
   auto* child = new (std::nothrow) DataContainer;
   if (child) parent.AddChild(child);
   return child;
@@ -37,14 +37,14 @@ struct NewField {
   const wchar_t* text;
 };
 
-bool appendRecord(DataContainer& list, std::initializer_list<NewField> fields) {
+bool AppendRecord(DataContainer& list, std::initializer_list<NewField> fields) {
   auto* record = new (std::nothrow) DataContainer;
   if (!record) return false;
   for (const NewField& field : fields) record->SetData(field.name, field.text);
   return list.AddChild(record);
 }
 
-const wchar_t* textOrEmpty(const wchar_t* text) { return text ? text : L""; }
+const wchar_t* TextOrEmpty(const wchar_t* text) { return text ? text : L""; }
 
 /// Held here because a character has thousands of rows.
 struct MatrixFields {
@@ -66,59 +66,59 @@ float Coordinate(const DataContainer& row, FieldName field) {
   return std::copysign(std::numeric_limits<float>::infinity(), value < 0 ? -1.0F : 1.0F);
 }
 
-bool isKind(int kind, int count) { return kind >= 0 && kind < count; }
+bool IsKind(int kind, int count) { return kind >= 0 && kind < count; }
 
 }  // namespace
 
 // Building
 
 int CharacterData::AddContainerElement(CONTAINER container) {
-  if (!isKind(container, CONTAINER_COUNT)) return -1;
+  if (!IsKind(container, CONTAINER_COUNT)) return -1;
   DataContainer& list = m_containers[container];
-  DataContainer* element = appendChild(list);
+  DataContainer* element = AppendChild(list);
   if (!element) return -1;
-  for (int group = 0; container == CLOTH && group < CLOTH_CHILD_COUNT; ++group) appendChild(*element);
+  for (int group = 0; container == CLOTH && group < CLOTH_CHILD_COUNT; ++group) AppendChild(*element);
   return list.GetChildCount() - 1;
 }
 
 void CharacterData::SetContainerName(CONTAINER container, const wchar_t* name) {
-  if (container == SKINS) m_skinsName += textOrEmpty(name);
-  if (container == POSES) m_posesName += textOrEmpty(name);
-  if (container == CLOTH) m_clothName += textOrEmpty(name);
+  if (container == SKINS) m_skinsName += TextOrEmpty(name);
+  if (container == POSES) m_posesName += TextOrEmpty(name);
+  if (container == CLOTH) m_clothName += TextOrEmpty(name);
 }
 
 DataContainer* CharacterData::AddChildToClothContainer(int clothIndex, CLOTH_CHILD group) {
-  if (clothIndex >= GetCount(CLOTH)) return refuse(L"CharacterData::AddChildToClothContainer: index out of range");
+  if (clothIndex >= GetCount(CLOTH)) return Refuse(L"CharacterData::AddChildToClothContainer: index out of range");
   if (!GetContainerElement(CLOTH, clothIndex)) {
-    return refuse(L"CharacterData::AddChildToClothContainer: could not get cloth element");
+    return Refuse(L"CharacterData::AddChildToClothContainer: could not get cloth element");
   }
-  DataContainer* children = findClothGroup(clothIndex, group);
-  if (!children) return refuse(L"CharacterData::AddChildToClothContainer: could not get subContainerDC");
-  return appendChild(*children);
+  DataContainer* children = FindClothGroup(clothIndex, group);
+  if (!children) return Refuse(L"CharacterData::AddChildToClothContainer: could not get subContainerDC");
+  return AppendChild(*children);
 }
 
 DataContainer* CharacterData::AddMaterialToCloth(int clothIndex) {
-  if (clothIndex >= GetCount(CLOTH)) return refuse(L"CharacterData::AddMaterialToCloth: index out of range");
+  if (clothIndex >= GetCount(CLOTH)) return Refuse(L"CharacterData::AddMaterialToCloth: index out of range");
   if (!GetContainerElement(CLOTH, clothIndex)) {
-    return refuse(L"CharacterData::AddMaterialToCloth: could not get cloth element");
+    return Refuse(L"CharacterData::AddMaterialToCloth: could not get cloth element");
   }
-  DataContainer* materials = findClothGroup(clothIndex, MATERIAL);
-  if (!materials) return refuse(L"CharacterData::AddMaterialToCloth: could not get materials element");
-  return appendChild(*materials);
+  DataContainer* materials = FindClothGroup(clothIndex, MATERIAL);
+  if (!materials) return Refuse(L"CharacterData::AddMaterialToCloth: could not get materials element");
+  return AppendChild(*materials);
 }
 
 DataContainer* CharacterData::AddMandatoryElement(int poseIndex) {
-  if (poseIndex >= GetCount(POSES)) return refuse(L"CharacterData::AddMandatoryElement: index out of range");
+  if (poseIndex >= GetCount(POSES)) return Refuse(L"CharacterData::AddMandatoryElement: index out of range");
   DataContainer* pose = GetContainerElement(POSES, poseIndex);
-  if (!pose) return refuse(L"CharacterData::AddMandatoryElement: could not get pose element");
-  return appendChild(*pose);
+  if (!pose) return Refuse(L"CharacterData::AddMandatoryElement: could not get pose element");
+  return AppendChild(*pose);
 }
 
 DataContainer* CharacterData::AddMaterialToAsset(int assetIndex) {
-  if (assetIndex >= GetCount(ASSETS)) return refuse(L"CharacterData::AddMaterialToAsset: index out of range");
+  if (assetIndex >= GetCount(ASSETS)) return Refuse(L"CharacterData::AddMaterialToAsset: index out of range");
   DataContainer* asset = GetContainerElement(ASSETS, assetIndex);
-  if (!asset) return refuse(L"CharacterData::AddMaterialToAsset: could not get asset element");
-  return appendChild(*asset);
+  if (!asset) return Refuse(L"CharacterData::AddMaterialToAsset: could not get asset element");
+  return AppendChild(*asset);
 }
 
 bool CharacterData::AddAssetMatrixElement(const DataContainer* element) {
@@ -142,7 +142,7 @@ bool CharacterData::AddAssetMatrixElement(const DataContainer* element) {
 
 void CharacterData::AddAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID, float xpos, float ypos,
                                           float zpos, float xrot, float yrot, float zrot) {
-  m_assetMatrix.push_back({textOrEmpty(poseID), textOrEmpty(assetID), xpos, ypos, zpos, xrot, yrot, zrot});
+  m_assetMatrix.push_back({TextOrEmpty(poseID), TextOrEmpty(assetID), xpos, ypos, zpos, xrot, yrot, zrot});
 }
 
 void CharacterData::ReserveAssetMatrix(int count) {
@@ -150,29 +150,29 @@ void CharacterData::ReserveAssetMatrix(int count) {
 }
 
 bool CharacterData::AddSkinElement(const wchar_t* id, const wchar_t* name, const wchar_t* preview, const wchar_t* url) {
-  return appendRecord(m_containers[SKINS],
+  return AppendRecord(m_containers[SKINS],
                       {{FIELD_ID, id}, {FIELD_NAME, name}, {FIELD_PREVIEW, preview}, {FIELD_URL, url}});
 }
 
 bool CharacterData::AddClothElement(const wchar_t* id, const wchar_t* name, const wchar_t* folder, const wchar_t* url) {
-  return appendRecord(m_containers[CLOTH],
+  return AppendRecord(m_containers[CLOTH],
                       {{FIELD_ID, id}, {FIELD_NAME, name}, {FIELD_FOLDER, folder}, {FIELD_URL, url}});
 }
 
 bool CharacterData::AddPoseElement(const wchar_t* id, const wchar_t* name, const wchar_t* folder, const wchar_t* url) {
-  return appendRecord(m_containers[POSES],
+  return AppendRecord(m_containers[POSES],
                       {{FIELD_ID, id}, {FIELD_NAME, name}, {FIELD_FOLDER, folder}, {FIELD_URL, url}});
 }
 
 bool CharacterData::AddCategoryElement(const wchar_t* id, const wchar_t* name, const wchar_t* selection,
                                        const wchar_t* required) {
-  return appendRecord(m_containers[CATEGORIES],
+  return AppendRecord(m_containers[CATEGORIES],
                       {{FIELD_ID, id}, {FIELD_NAME, name}, {FIELD_SELECTION, selection}, {FIELD_REQUIRED, required}});
 }
 
 bool CharacterData::AddAssetElement(const wchar_t* id, const wchar_t* name, const wchar_t* type, const wchar_t* folder,
                                     const wchar_t* category, const wchar_t* url) {
-  return appendRecord(m_containers[ASSETS], {{FIELD_ID, id},
+  return AppendRecord(m_containers[ASSETS], {{FIELD_ID, id},
                                              {FIELD_NAME, name},
                                              {FIELD_TYPE, type},
                                              {FIELD_FOLDER, folder},
@@ -209,7 +209,7 @@ void CharacterData::SortClothsAlphabetically() {
     sorted.push_back({Fields::OptionalText(cloths.GetChild(i), FIELD_NAME), cloths.GetChild(i)});
   }
   std::stable_sort(sorted.begin(), sorted.end(), [](const NamedCloth& left, const NamedCloth& right) {
-    return compareUtf16(left.name, right.name) < 0;
+    return CompareUtf16(left.name, right.name) < 0;
   });
   int slot = 0;
   for (const NamedCloth& named : sorted) cloths.SetChild(slot++, named.cloth);
@@ -218,11 +218,11 @@ void CharacterData::SortClothsAlphabetically() {
 // The lists
 
 DataContainer* CharacterData::GetContainerElement(CONTAINER container, int index) const {
-  return isKind(container, CONTAINER_COUNT) ? m_containers[container].GetChild(index) : nullptr;
+  return IsKind(container, CONTAINER_COUNT) ? m_containers[container].GetChild(index) : nullptr;
 }
 
 int CharacterData::GetCount(CONTAINER container) const {
-  return isKind(container, CONTAINER_COUNT) ? m_containers[container].GetChildCount() : 0;
+  return IsKind(container, CONTAINER_COUNT) ? m_containers[container].GetChildCount() : 0;
 }
 
 const wchar_t* CharacterData::GetContainerName(CONTAINER container) const {
@@ -231,33 +231,33 @@ const wchar_t* CharacterData::GetContainerName(CONTAINER container) const {
   return container == CLOTH ? m_clothName.c_str() : nullptr;
 }
 
-DataContainer* CharacterData::findClothGroup(int clothIndex, CLOTH_CHILD group) const {
+DataContainer* CharacterData::FindClothGroup(int clothIndex, CLOTH_CHILD group) const {
   const DataContainer* cloth = GetContainerElement(CLOTH, clothIndex);
-  return cloth && isKind(group, CLOTH_CHILD_COUNT) ? cloth->GetChild(group) : nullptr;
+  return cloth && IsKind(group, CLOTH_CHILD_COUNT) ? cloth->GetChild(group) : nullptr;
 }
 
 int CharacterData::GetClothChildCount(int clothIndex, CLOTH_CHILD group) const {
   const DataContainer* children = nullptr;
   if (clothIndex >= GetCount(CLOTH)) {
-    refuse(L"CharacterData::GetClothChildCount: index out of range");
+    Refuse(L"CharacterData::GetClothChildCount: index out of range");
   } else if (!GetContainerElement(CLOTH, clothIndex)) {
-    refuse(L"CharacterData::GetClothChildCount: could not get cloth element");
-  } else if (!(children = findClothGroup(clothIndex, group))) {
-    refuse(L"CharacterData::GetClothChildCount: could not get subContainerDC");
+    Refuse(L"CharacterData::GetClothChildCount: could not get cloth element");
+  } else if (!(children = FindClothGroup(clothIndex, group))) {
+    Refuse(L"CharacterData::GetClothChildCount: could not get subContainerDC");
   }
   return children ? children->GetChildCount() : -1;
 }
 
 DataContainer* CharacterData::GetClothChildElement(int clothIndex, CLOTH_CHILD group, int index) const {
-  if (clothIndex >= GetCount(CLOTH)) return refuse(L"CharacterData::GetClothChildElement: clothIndex out of range");
+  if (clothIndex >= GetCount(CLOTH)) return Refuse(L"CharacterData::GetClothChildElement: clothIndex out of range");
   if (!GetContainerElement(CLOTH, clothIndex)) {
-    return refuse(L"CharacterData::GetClothChildElement: could not get cloth element");
+    return Refuse(L"CharacterData::GetClothChildElement: could not get cloth element");
   }
-  const DataContainer* children = findClothGroup(clothIndex, group);
-  if (!children) return refuse(L"CharacterData::GetClothChildElement: could not get subContainerDC");
+  const DataContainer* children = FindClothGroup(clothIndex, group);
+  if (!children) return Refuse(L"CharacterData::GetClothChildElement: could not get subContainerDC");
   // The bound is the wrong way round and stays so: nothing depends on this operation, and its answers are agreed.
   if (children->GetChildCount() < index) return children->GetChild(index);
-  return refuse(L"CharacterData::GetClothChildElement: index out of range");
+  return Refuse(L"CharacterData::GetClothChildElement: index out of range");
 }
 
 }  // namespace ZORVEL

@@ -104,9 +104,9 @@ class CharacterData : public DataContainer {
   static const int CONTAINER_COUNT = 5;
   static const int CLOTH_CHILD_COUNT = 3;
 
-  DataContainer* findClothGroup(int clothIndex, CLOTH_CHILD group) const;
+  DataContainer* FindClothGroup(int clothIndex, CLOTH_CHILD group) const;
   ListedAsset ListAsset(DataContainer* asset, const DataContainer* cloth) const;
-  void orderAssetMatrix() const;
+  void OrderAssetMatrix() const;
 
   DataContainer m_containers[CONTAINER_COUNT];  // indexed by CONTAINER
   std::wstring m_skinsName;

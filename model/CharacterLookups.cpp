@@ -123,7 +123,7 @@ bool CharacterData::GetAssetAndMaterial(int unique, DataContainer*& asset, DataC
 
 const AssetMatrixElement* CharacterData::FindAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID) const {
   if (!poseID || !assetID) return nullptr;
-  orderAssetMatrix();
+  OrderAssetMatrix();
   // A page of assets asks for each of them, and there may be a row for each asset in each pose.
   const auto found = std::lower_bound(m_matrixOrder.begin(), m_matrixOrder.end(), 0U, [&](std::uint32_t row, unsigned) {
     const int order = m_assetMatrix[row].assetID.compare(assetID);
@@ -134,7 +134,7 @@ const AssetMatrixElement* CharacterData::FindAssetMatrixElement(const wchar_t* p
   return row.assetID == assetID && row.poseID == poseID ? &row : nullptr;
 }
 
-void CharacterData::orderAssetMatrix() const {
+void CharacterData::OrderAssetMatrix() const {
   if (m_matrixOrder.size() == m_assetMatrix.size()) return;
   m_matrixOrder.resize(m_assetMatrix.size());
   std::iota(m_matrixOrder.begin(), m_matrixOrder.end(), 0U);

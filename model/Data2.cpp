@@ -25,13 +25,13 @@ struct RepositoryStore {
   bool validated = false;
 };
 
-RepositoryStore& repositoryStore() {
+RepositoryStore& TheStore() {
   static RepositoryStore instance;
   return instance;
 }
 
 template <class Record>
-Record* findRecord(const std::vector<std::unique_ptr<Record>>& records, int index, const wchar_t* message) {
+Record* FindRecord(const std::vector<std::unique_ptr<Record>>& records, int index, const wchar_t* message) {
   if (static_cast<std::size_t>(index) < records.size()) return records[static_cast<std::size_t>(index)].get();
   Debug::AddDebugMessage(DEBUG_ERROR, message);
   return nullptr;
@@ -39,7 +39,7 @@ Record* findRecord(const std::vector<std::unique_ptr<Record>>& records, int inde
 
 /// Both lookups by id share the text of the message.
 template <class Record>
-Record* findRecord(const std::vector<std::unique_ptr<Record>>& records, const wchar_t* id) {
+Record* FindRecord(const std::vector<std::unique_ptr<Record>>& records, const wchar_t* id) {
   if (!id) {
     Debug::AddDebugMessage(DEBUG_ERROR, L"Data2::GetCharacter: invalid argument");
     return nullptr;
@@ -52,7 +52,7 @@ Record* findRecord(const std::vector<std::unique_ptr<Record>>& records, const wc
 }
 
 template <class Record>
-int addRecord(std::vector<std::unique_ptr<Record>>& records, const wchar_t* message) {
+int AddRecord(std::vector<std::unique_ptr<Record>>& records, const wchar_t* message) {
   std::unique_ptr<Record> record(new (std::nothrow) Record);
   if (!record) {
     Debug::AddDebugMessage(DEBUG_ERROR, message);
@@ -64,9 +64,7 @@ int addRecord(std::vector<std::unique_ptr<Record>>& records, const wchar_t* mess
 
 }  // namespace
 
-int Data2::AddCharacter() {
-  return addRecord(repositoryStore().characters, L"Could not get memory for CharacterData!");
-}
+int Data2::AddCharacter() { return AddRecord(TheStore().characters, L"Could not get memory for CharacterData!"); }
 
 int Data2::AddCharacter(const wchar_t* name, const wchar_t* id, const wchar_t* url) {
   const int index = AddCharacter();
@@ -80,22 +78,20 @@ int Data2::AddCharacter(const wchar_t* name, const wchar_t* id, const wchar_t* u
 }
 
 CharacterData* Data2::GetCharacter(int index) {
-  return findRecord(repositoryStore().characters, index, L"Data2::GetCharacter: index out of range");
+  return FindRecord(TheStore().characters, index, L"Data2::GetCharacter: index out of range");
 }
 
-CharacterData* Data2::GetCharacter(const wchar_t* id) { return findRecord(repositoryStore().characters, id); }
+CharacterData* Data2::GetCharacter(const wchar_t* id) { return FindRecord(TheStore().characters, id); }
 
-int Data2::GetCharacterCount() { return static_cast<int>(repositoryStore().characters.size()); }
+int Data2::GetCharacterCount() { return static_cast<int>(TheStore().characters.size()); }
 
-int Data2::AddGlobalAsset() {
-  return addRecord(repositoryStore().globalAssets, L"Could not get memory for GlobalAsset!");
-}
+int Data2::AddGlobalAsset() { return AddRecord(TheStore().globalAssets, L"Could not get memory for GlobalAsset!"); }
 
 DataContainer* Data2::GetGlobalAsset(int index) {
-  return findRecord(repositoryStore().globalAssets, index, L"Data2::GetGlobalAsset: index out of range");
+  return FindRecord(TheStore().globalAssets, index, L"Data2::GetGlobalAsset: index out of range");
 }
 
-int Data2::GetGlobalAssetCount() { return static_cast<int>(repositoryStore().globalAssets.size()); }
+int Data2::GetGlobalAssetCount() { return static_cast<int>(TheStore().globalAssets.size()); }
 
 DataContainer* Data2::AddMaterialToGlobalaAsset(DataContainer* globalAsset) {
   if (!globalAsset) {
@@ -114,10 +110,10 @@ DataContainer* Data2::GetGlobalAssetForAsset(const DataContainer* asset) {
   return globalId ? FindGlobalAssetById(globalId) : nullptr;
 }
 
-DataContainer* Data2::FindGlobalAssetById(const wchar_t* id) { return findRecord(repositoryStore().globalAssets, id); }
+DataContainer* Data2::FindGlobalAssetById(const wchar_t* id) { return FindRecord(TheStore().globalAssets, id); }
 
 bool Data2::GetGlobalAssetAndMaterial(int unique, DataContainer*& globalAsset, DataContainer*& material) {
-  for (const auto& record : repositoryStore().globalAssets) {
+  for (const auto& record : TheStore().globalAssets) {
     if (FindRecordOrChild(unique, *record, material)) {
       globalAsset = record.get();
       return true;
@@ -143,7 +139,7 @@ const wchar_t* Data2::GetIdForUnique(int unique) { return Fields::Text(UniqueReg
 
 bool Data2::IsGlobalAssetUnique(int unique) {
   const DataContainer* element = UniqueRegistry::Find(unique);
-  const auto& records = repositoryStore().globalAssets;
+  const auto& records = TheStore().globalAssets;
   return element &&
          std::any_of(records.begin(), records.end(), [element](const auto& record) { return record.get() == element; });
 }
@@ -164,7 +160,7 @@ bool Data2::FindRecordOrChild(int unique, const DataContainer& record, DataConta
 }
 
 void Data2::Clear() {
-  RepositoryStore& store = repositoryStore();
+  RepositoryStore& store = TheStore();
   // The ids go first, so that destroying the records has nothing to release.
   UniqueRegistry::Clear();
   store.characters.clear();
@@ -174,15 +170,15 @@ void Data2::Clear() {
 
 void Data2::SetValidated(bool validated) {
   if (validated) ValidateAll();
-  repositoryStore().validated = validated;
+  TheStore().validated = validated;
 }
 
-bool Data2::IsValidated() { return repositoryStore().validated; }
+bool Data2::IsValidated() { return TheStore().validated; }
 
 void Data2::ValidateAll() {
   Debug::AddDebugMessage(DEBUG_INFO, L"validate data...");
   RepositoryValidation::ValidateGlobalAssets();
-  for (const auto& character : repositoryStore().characters) RepositoryValidation::ValidateCharacter(character.get());
+  for (const auto& character : TheStore().characters) RepositoryValidation::ValidateCharacter(character.get());
 }
 
 }  // namespace ZORVEL

@@ -13,7 +13,7 @@ using namespace RepositoryFormat;
 
 namespace {
 
-std::unique_ptr<wchar_t[]> copyText(const wchar_t* text) {
+std::unique_ptr<wchar_t[]> CopyText(const wchar_t* text) {
   const std::size_t size = std::wcslen(text) + 1;
   std::unique_ptr<wchar_t[]> copy(new wchar_t[size]);
   std::wmemcpy(copy.get(), text, size);
@@ -21,7 +21,7 @@ std::unique_ptr<wchar_t[]> copyText(const wchar_t* text) {
 }
 
 // Most names differ in the first character already.
-bool sameText(const wchar_t* left, const wchar_t* right) { return *left == *right && std::wcscmp(left, right) == 0; }
+bool SameText(const wchar_t* left, const wchar_t* right) { return *left == *right && std::wcscmp(left, right) == 0; }
 
 }  // namespace
 
@@ -31,21 +31,21 @@ DataContainer::~DataContainer() {
   for (DataContainer* child : m_children) delete child;
 }
 
-const DataContainer::Field* DataContainer::findField(const wchar_t* name) const {
+const DataContainer::Field* DataContainer::FindField(const wchar_t* name) const {
   for (const Field& field : m_fields) {
-    if (sameText(field.name.GetText(), name)) return &field;
+    if (SameText(field.name.GetText(), name)) return &field;
   }
   return nullptr;
 }
 
-const DataContainer::Field* DataContainer::findField(FieldName name) const {
+const DataContainer::Field* DataContainer::FindField(FieldName name) const {
   for (const Field& field : m_fields) {
     if (field.name == name) return &field;
   }
   return nullptr;
 }
 
-void DataContainer::setField(FieldName name, const wchar_t* text, std::unique_ptr<wchar_t[]> ownText) {
+void DataContainer::SetField(FieldName name, const wchar_t* text, std::unique_ptr<wchar_t[]> ownText) {
   for (Field& field : m_fields) {
     if (!(field.name == name)) continue;
     field.text = text;
@@ -58,9 +58,9 @@ void DataContainer::setField(FieldName name, const wchar_t* text, std::unique_pt
 void DataContainer::SetData(const wchar_t* field, const wchar_t* data) {
   if (!field) return Debug::AddDebugMessage(DEBUG_ERROR, L"SetData: invalida argument field");
   if (!data) return Debug::AddDebugMessage(DEBUG_ERROR, L"SetData: invalida argument data");
-  std::unique_ptr<wchar_t[]> copy = copyText(data);
+  std::unique_ptr<wchar_t[]> copy = CopyText(data);
   const wchar_t* const text = copy.get();
-  setField(FieldName(field), text, std::move(copy));
+  SetField(FieldName(field), text, std::move(copy));
 }
 
 void DataContainer::SetAllData(const FieldText* fields, int count) {
@@ -74,7 +74,7 @@ void DataContainer::SetAllData(const FieldText* fields, int count) {
   m_fields.reserve(static_cast<std::size_t>(count));
   wchar_t* place = m_texts.get();
   for (int i = 0; i < count; ++i) {
-    setField(fields[i].name, place, nullptr);
+    SetField(fields[i].name, place, nullptr);
     const wchar_t* text = fields[i].text;
     while ((*place++ = *text++) != 0) {
     }
@@ -87,14 +87,14 @@ const wchar_t* DataContainer::GetData(const wchar_t* field, bool& found) const {
     Debug::AddDebugMessage(DEBUG_ERROR, L"GetData: invalida argument field");
     return nullptr;
   }
-  return textOrComplaint(findField(field), field, found);
+  return TextOrComplaint(FindField(field), field, found);
 }
 
 const wchar_t* DataContainer::GetData(FieldName field, bool& found) const {
-  return textOrComplaint(findField(field), field.GetText(), found);
+  return TextOrComplaint(FindField(field), field.GetText(), found);
 }
 
-const wchar_t* DataContainer::textOrComplaint(const Field* field, const wchar_t* name, bool& found) {
+const wchar_t* DataContainer::TextOrComplaint(const Field* field, const wchar_t* name, bool& found) {
   found = field != nullptr;
   if (found) return field->text;
   Debug::AddDebugMessage(DEBUG_WARNING, L"Missing datafield:");
@@ -107,7 +107,7 @@ bool DataContainer::CheckDatafield(const wchar_t* field) const {
     Debug::AddDebugMessage(DEBUG_ERROR, L"CheckDatafield: invalida argument field");
     return false;
   }
-  return findField(field) != nullptr;
+  return FindField(field) != nullptr;
 }
 
 bool DataContainer::AddChild(DataContainer* child) {

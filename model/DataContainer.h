@@ -70,10 +70,10 @@ class DataContainer {
 
   static const int FAST_FLAG_COUNT = 5;
 
-  const Field* findField(const wchar_t* name) const;
-  const Field* findField(FieldName name) const;
-  static const wchar_t* textOrComplaint(const Field* field, const wchar_t* name, bool& found);
-  void setField(FieldName name, const wchar_t* text, std::unique_ptr<wchar_t[]> ownText);
+  const Field* FindField(const wchar_t* name) const;
+  const Field* FindField(FieldName name) const;
+  static const wchar_t* TextOrComplaint(const Field* field, const wchar_t* name, bool& found);
+  void SetField(FieldName name, const wchar_t* text, std::unique_ptr<wchar_t[]> ownText);
 
   // Few, in the order in which they were first set. A text keeps its place whatever becomes of the other fields.
   std::vector<Field> m_fields;

@@ -17,7 +17,7 @@ struct NameOrder {
   bool operator()(const wchar_t* left, const Name& right) const { return std::wcscmp(left, right.get()) < 0; }
 };
 
-const wchar_t* heldName(const wchar_t* text) {
+const wchar_t* HeldName(const wchar_t* text) {
   static std::set<Name, NameOrder> names;
   const auto held = names.find(text);
   if (held != names.end()) return held->get();
@@ -29,6 +29,6 @@ const wchar_t* heldName(const wchar_t* text) {
 
 }  // namespace
 
-FieldName::FieldName(const wchar_t* text) : m_text(heldName(text)) {}
+FieldName::FieldName(const wchar_t* text) : m_text(HeldName(text)) {}
 
 }  // namespace ZORVEL

@@ -74,7 +74,7 @@ double PowerOfTen(int power) {
 }
 
 double ExactValue(const Decimal& number) {
-  const double digits = static_cast<double>(number.digits);
+  const auto digits = static_cast<double>(number.digits);
   return number.exponent < 0 ? digits / PowerOfTen(-number.exponent) : digits * PowerOfTen(number.exponent);
 }
 

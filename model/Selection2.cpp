@@ -20,14 +20,14 @@ struct Choice {
   std::vector<int> assets;
 };
 
-Choice& choice() {
+Choice& TheChoice() {
   static Choice instance;
   return instance;
 }
 
-const wchar_t* nullIfEmpty(const std::wstring& text) { return text.empty() ? nullptr : text.c_str(); }
+const wchar_t* NullIfEmpty(const std::wstring& text) { return text.empty() ? nullptr : text.c_str(); }
 
-void setChoice(std::wstring& value, const wchar_t* id) {
+void SetChoice(std::wstring& value, const wchar_t* id) {
   if (id) {
     value = id;
   } else {
@@ -37,37 +37,37 @@ void setChoice(std::wstring& value, const wchar_t* id) {
 
 }  // namespace
 
-const wchar_t* Selection2::GetCharacter() { return choice().character.c_str(); }
-const wchar_t* Selection2::GetCloth() { return nullIfEmpty(choice().cloth); }
-const wchar_t* Selection2::GetPose() { return nullIfEmpty(choice().pose); }
-const wchar_t* Selection2::GetSkin() { return nullIfEmpty(choice().skin); }
-const wchar_t* Selection2::GetStyle() { return nullIfEmpty(choice().style); }
+const wchar_t* Selection2::GetCharacter() { return TheChoice().character.c_str(); }
+const wchar_t* Selection2::GetCloth() { return NullIfEmpty(TheChoice().cloth); }
+const wchar_t* Selection2::GetPose() { return NullIfEmpty(TheChoice().pose); }
+const wchar_t* Selection2::GetSkin() { return NullIfEmpty(TheChoice().skin); }
+const wchar_t* Selection2::GetStyle() { return NullIfEmpty(TheChoice().style); }
 
-void Selection2::SetCharacter(const wchar_t* id) { setChoice(choice().character, id); }
-void Selection2::SetCloth(const wchar_t* id) { setChoice(choice().cloth, id); }
-void Selection2::SetPose(const wchar_t* id) { setChoice(choice().pose, id); }
-void Selection2::SetSkin(const wchar_t* id) { setChoice(choice().skin, id); }
-void Selection2::SetStyle(const wchar_t* id) { setChoice(choice().style, id); }
+void Selection2::SetCharacter(const wchar_t* id) { SetChoice(TheChoice().character, id); }
+void Selection2::SetCloth(const wchar_t* id) { SetChoice(TheChoice().cloth, id); }
+void Selection2::SetPose(const wchar_t* id) { SetChoice(TheChoice().pose, id); }
+void Selection2::SetSkin(const wchar_t* id) { SetChoice(TheChoice().skin, id); }
+void Selection2::SetStyle(const wchar_t* id) { SetChoice(TheChoice().style, id); }
 
-void Selection2::AddAsset(int unique) { choice().assets.push_back(unique); }
+void Selection2::AddAsset(int unique) { TheChoice().assets.push_back(unique); }
 
 void Selection2::RemoveAsset(int unique) {
-  std::vector<int>& assets = choice().assets;
+  std::vector<int>& assets = TheChoice().assets;
   const auto position = std::find(assets.begin(), assets.end(), unique);
   if (position != assets.end()) assets.erase(position);
 }
 
-void Selection2::ClearAssets() { choice().assets.clear(); }
+void Selection2::ClearAssets() { TheChoice().assets.clear(); }
 
 bool Selection2::CheckSelectedAsset(int unique) {
-  const std::vector<int>& assets = choice().assets;
+  const std::vector<int>& assets = TheChoice().assets;
   return std::find(assets.begin(), assets.end(), unique) != assets.end();
 }
 
-int Selection2::GetAssetCount() { return static_cast<int>(choice().assets.size()); }
+int Selection2::GetAssetCount() { return static_cast<int>(TheChoice().assets.size()); }
 
 int Selection2::GetAsset(int index) {
-  if (index >= 0 && index < GetAssetCount()) return choice().assets[static_cast<std::size_t>(index)];
+  if (index >= 0 && index < GetAssetCount()) return TheChoice().assets[static_cast<std::size_t>(index)];
   Debug::AddDebugMessage(DEBUG_ERROR, L"Selection2::GetAsset: index out of range!");
   return 0;
 }
@@ -75,7 +75,7 @@ int Selection2::GetAsset(int index) {
 void Selection2::RemoveAssetsOfCategory(const DataContainer* category, const CharacterData* character) {
   if (!character) return;
   std::vector<int> kept;
-  for (const int unique : choice().assets) {
+  for (const int unique : TheChoice().assets) {
     DataContainer* asset = nullptr;
     DataContainer* material = nullptr;
     if (!character->GetAssetAndMaterial(unique, asset, material)) continue;
@@ -83,7 +83,7 @@ void Selection2::RemoveAssetsOfCategory(const DataContainer* category, const Cha
     if (!assetCategory) return;
     if (assetCategory != category) kept.push_back(unique);
   }
-  choice().assets = std::move(kept);
+  TheChoice().assets = std::move(kept);
 }
 
 int Selection2::CountSelectedInCategory(const DataContainer* category, const CharacterData* character) {

@@ -21,28 +21,28 @@ struct Registry {
   std::vector<const DataContainer*> elements;  // by (id - COUNTER_START) / STEP - 1; null where an id names nothing
 };
 
-Registry& registry() {
+Registry& TheRegistry() {
   static Registry instance;
   return instance;
 }
 
-std::size_t slotOf(int unique) { return static_cast<std::size_t>((unique - COUNTER_START) / STEP - 1); }
+std::size_t SlotOf(int unique) { return static_cast<std::size_t>((unique - COUNTER_START) / STEP - 1); }
 
 }  // namespace
 
-int UniqueRegistry::NewUnique() { return registry().counter += STEP; }
+int UniqueRegistry::NewUnique() { return TheRegistry().counter += STEP; }
 
 const DataContainer* UniqueRegistry::Find(int unique) {
   if (unique <= COUNTER_START || unique % STEP != 0) return nullptr;
-  const auto& elements = registry().elements;
-  return slotOf(unique) < elements.size() ? elements[slotOf(unique)] : nullptr;
+  const auto& elements = TheRegistry().elements;
+  return SlotOf(unique) < elements.size() ? elements[SlotOf(unique)] : nullptr;
 }
 
 int UniqueRegistry::GetUnique(const DataContainer& element) {
   if (element.m_unique != 0 && Find(element.m_unique) == &element) return element.m_unique;
   const int unique = NewUnique();
-  auto& elements = registry().elements;
-  elements.resize(slotOf(unique) + 1);
+  auto& elements = TheRegistry().elements;
+  elements.resize(SlotOf(unique) + 1);
   elements.back() = &element;
   element.m_unique = unique;
   return unique;
@@ -50,13 +50,13 @@ int UniqueRegistry::GetUnique(const DataContainer& element) {
 
 void UniqueRegistry::Release(const DataContainer& element) {
   if (registryGone) return;
-  if (Find(element.m_unique) == &element) registry().elements[slotOf(element.m_unique)] = nullptr;
+  if (Find(element.m_unique) == &element) TheRegistry().elements[SlotOf(element.m_unique)] = nullptr;
 }
 
 void UniqueRegistry::Clear() {
-  registry().counter = COUNTER_START;
-  registry().elements.clear();
-  registry().elements.shrink_to_fit();
+  TheRegistry().counter = COUNTER_START;
+  TheRegistry().elements.clear();
+  TheRegistry().elements.shrink_to_fit();
 }
 
 }  // namespace ZORVEL

@@ -6,13 +6,13 @@ namespace ZORVEL {
 
 namespace {
 
-std::uint32_t firstUnit(std::uint32_t character) {
+std::uint32_t FirstUnit(std::uint32_t character) {
   return character < 0x10000 ? character : 0xD800 + ((character - 0x10000) >> 10);
 }
 
 }  // namespace
 
-int compareUtf16(const wchar_t* left, const wchar_t* right) {
+int CompareUtf16(const wchar_t* left, const wchar_t* right) {
   if (!left) left = L"";
   if (!right) right = L"";
   while (*left && *left == *right) {
@@ -23,8 +23,8 @@ int compareUtf16(const wchar_t* left, const wchar_t* right) {
   const auto b = static_cast<std::uint32_t>(*right);
   if (a == b) return 0;
   // Two that begin with the same surrogate differ in the second one, and so as code points.
-  if (firstUnit(a) == firstUnit(b)) return a < b ? -1 : 1;
-  return firstUnit(a) < firstUnit(b) ? -1 : 1;
+  if (FirstUnit(a) == FirstUnit(b)) return a < b ? -1 : 1;
+  return FirstUnit(a) < FirstUnit(b) ? -1 : 1;
 }
 
 }  // namespace ZORVEL

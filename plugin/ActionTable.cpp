@@ -24,7 +24,7 @@ ZORVELActionTable::ZORVELActionTable(MSTR& name, ActionDescription& description,
     : ActionTable(TABLE_ID, TABLE_ID, name, nullptr, 1, &description, instance) {}
 
 MaxIcon* ZORVELActionTable::GetIcon(int /*cmdId*/) {
-  if (!m_icon) m_icon.reset(new MaxBmpFileIcon(L"zorvel", 1));
+  if (!m_icon) m_icon = std::make_unique<MaxBmpFileIcon>(L"zorvel", 1);
   return m_icon.get();
 }
 
@@ -37,7 +37,7 @@ ActionTable* ZORVELActionTable::Make() {
 }
 
 void ZORVELActionTable::Activate() {
-  callback.reset(new ZorvelActionCallback);
+  callback = std::make_unique<ZorvelActionCallback>();
   GetCOREInterface()->GetActionManager()->ActivateActionTable(callback.get(), TABLE_ID);
 }
 

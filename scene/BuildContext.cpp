@@ -70,9 +70,9 @@ std::unique_ptr<BuildContext> BuildContext::Prepare(INode& parent, BuildReport& 
   const std::wstring maps = RepositoryPaths::Maps(root);
   character->SetData(FIELD_GLOBAL_MAPS, maps.c_str());
   report.poseId = Selection2::GetPose();
-  return std::unique_ptr<BuildContext>(new BuildContext{parent, *character, *elements.pose, *elements.cloth,
-                                                        *elements.style, *elements.skin, report.poseId,
-                                                        Selection2::GetCloth(), root, folder, maps});
+  return std::make_unique<BuildContext>(BuildContext{parent, *character, *elements.pose, *elements.cloth,
+                                                     *elements.style, *elements.skin, report.poseId,
+                                                     Selection2::GetCloth(), root, folder, maps});
 }
 
 }  // namespace ZORVEL

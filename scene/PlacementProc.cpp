@@ -23,7 +23,7 @@ bool MoveTo(Matrix3& tm, HWND window, const IPoint2& m) {
 
 /// Turned from scratch about Z by the way since the click that fixed the position; tilt and uneven scale are discarded.
 Matrix3 Turned(const Point3& position, const IPoint2& m) {
-  const float pixels = static_cast<float>(m.x - Placement::GetRotateStart().x);
+  const auto pixels = static_cast<float>(m.x - Placement::GetRotateStart().x);
   const float factor = UnitFactor();
   Matrix3 tm(TRUE);
   tm.Scale(Point3(factor, factor, factor), FALSE);

@@ -12,7 +12,7 @@ namespace ZORVEL {
 namespace {
 
 struct NameOrder {
-  bool operator()(const std::wstring& a, const std::wstring& b) const { return compareUtf16(a.c_str(), b.c_str()) < 0; }
+  bool operator()(const std::wstring& a, const std::wstring& b) const { return CompareUtf16(a.c_str(), b.c_str()) < 0; }
 };
 
 using PathMap = std::map<std::wstring, Object*, NameOrder>;

@@ -33,7 +33,7 @@ void AfterFileOpened(void* /*param*/, NotifyInfo* info) {
 void BeforeNodeDeleted(void* /*param*/, NotifyInfo* info) {
   if (info == nullptr || info->callParam == nullptr) return;
   Debug::AddDebugMessage(DEBUG_INFO, L"PreNodeDelete");
-  INode* node = static_cast<INode*>(info->callParam);
+  auto* node = static_cast<INode*>(info->callParam);
   // Undo takes nodes away too, in the middle of a placement as at any time.
   if (node == Placement::GetNode()) Placement::End();
   const Object* object = node->GetObjectRef();

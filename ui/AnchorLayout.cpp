@@ -6,7 +6,7 @@ namespace ZORVEL {
 
 void AnchorLayout::Add(QWidget* control, const QRect& place, int anchors) {
   m_items.push_back({control, place, m_size, anchors});
-  apply(m_items.back());
+  Apply(m_items.back());
 }
 
 void AnchorLayout::Move(QWidget* control, const QRect& place) {
@@ -14,7 +14,7 @@ void AnchorLayout::Move(QWidget* control, const QRect& place) {
     if (item.control != control) continue;
     item.place = place;
     item.within = m_size;
-    apply(item);
+    Apply(item);
   }
 }
 
@@ -25,10 +25,10 @@ void AnchorLayout::Remove(const QWidget* control) {
 
 void AnchorLayout::SetSize(const QSize& client) {
   m_size = client;
-  for (const Item& item : m_items) apply(item);
+  for (const Item& item : m_items) Apply(item);
 }
 
-void AnchorLayout::apply(const Item& item) const {
+void AnchorLayout::Apply(const Item& item) const {
   if (item.control.isNull()) return;
   const int wider = m_size.width() - item.within.width();
   const int higher = m_size.height() - item.within.height();

@@ -29,7 +29,7 @@ class AnchorLayout {
     int anchors;
   };
 
-  void apply(const Item& item) const;
+  void Apply(const Item& item) const;
 
   QSize m_size;
   std::vector<Item> m_items;

@@ -41,11 +41,11 @@ void CharacterTree::paintEvent(QPaintEvent* event) {
 
 bool CharacterTree::viewportEvent(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
-  showToolTip(*static_cast<QHelpEvent*>(event));
+  ShowToolTip(*static_cast<QHelpEvent*>(event));
   return true;
 }
 
-void CharacterTree::showToolTip(const QHelpEvent& event) {
+void CharacterTree::ShowToolTip(const QHelpEvent& event) {
   const QTreeWidgetItem* item = itemAt(event.pos());
   if (item == nullptr) return QToolTip::hideText();
   QToolTip::showText(event.globalPos(), Texts::ToolTip(item->text(0)), viewport(), visualItemRect(item));

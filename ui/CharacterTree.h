@@ -25,7 +25,7 @@ class CharacterTree : public QTreeWidget {
   bool viewportEvent(QEvent* event) override;
 
  private:
-  void showToolTip(const QHelpEvent& event);
+  void ShowToolTip(const QHelpEvent& event);
 
   bool m_handlingKey = false;
 };

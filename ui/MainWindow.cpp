@@ -12,7 +12,7 @@ namespace {
 
 void LogError(const wchar_t* text) { Debug::AddDebugMessage(DEBUG_ERROR, text); }
 
-MainWindowClass* makeWindow() {
+MainWindowClass* MakeForm() {
   if (!MaxForm::CanBeMade()) return nullptr;
   try {
     return new MainWindowClass;
@@ -21,9 +21,9 @@ MainWindowClass* makeWindow() {
   }
 }
 
-void createWindow() {
+void OpenForm() {
   LogInfo(L"MainWindow::OpenMainWindow : create...");
-  MainWindowClass* form = makeWindow();
+  MainWindowClass* form = MakeForm();
   MainWindowClass::window = form;
   if (form == nullptr) return LogError(L"MainWindow::OpenMainWindow : could not create window...");
   form->ShowModeless();
@@ -32,7 +32,7 @@ void createWindow() {
   form->UpdateCharacterSelectionFromGUI();
 }
 
-void displayWindow(MainWindowClass& form) {
+void ShowForm(MainWindowClass& form) {
   LogInfo(L"MainWindow::OpenMainWindow : display...");
   form.showNormal();
   form.Activate();
@@ -54,8 +54,8 @@ void RefreshWindow(const wchar_t* noWindow, Refresh refresh) {
 }  // namespace
 
 void MainWindow::OpenMainWindow() {
-  if (MainWindowClass::window == nullptr) return createWindow();
-  displayWindow(*MainWindowClass::window);
+  if (MainWindowClass::window == nullptr) return OpenForm();
+  ShowForm(*MainWindowClass::window);
 }
 
 void MainWindow::Rebuild() {

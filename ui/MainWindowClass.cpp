@@ -20,7 +20,7 @@ MainWindowClass::MainWindowClass() {
   setAttribute(Qt::WA_DeleteOnClose);
   SetMinimum(525, 500);
   SetSize(base_width, base_height);
-  addLogo();
+  AddLogo();
   m_characterWidget2.CreateSelektor(*this);
   m_characterInfo.CreateInfo(*this);
   m_placementWidget.Create(*this);
@@ -35,7 +35,7 @@ MainWindowClass::~MainWindowClass() {
   qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
-void MainWindowClass::addLogo() {
+void MainWindowClass::AddLogo() {
   auto* logo = new Logo;
   logo->setAccessibleName(QStringLiteral("ZORVEL"));
   AddControl(logo, QRect(QPoint(12, 37), Logo::Size()));

@@ -45,7 +45,7 @@ class MainWindowClass : public MaxForm {
   void CloseEvent() override;
 
  private:
-  void addLogo();
+  void AddLogo();
 
   int base_width = 950;
   int base_height = 670;

@@ -29,7 +29,7 @@ void MainWindowClothPreview::Create(QWidget* panel, int x, OfferedElement cloth,
 }
 
 QString MainWindowClothPreview::Describe() const {
-  const QString text = Texts::FromWide(m_cloth.text);
+  QString text = Texts::FromWide(m_cloth.text);
   if (isAvailable()) return text;
   const QString folder = Texts::FromWide(m_cloth.refusal.concerned);
   return text + QObject::tr("\nNot available, this folder is missing: %1").arg(folder);

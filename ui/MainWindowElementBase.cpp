@@ -17,28 +17,28 @@ void MainWindowElementBase::Create(OfferedElement content, MainWindowGeneralPage
 
 void MainWindowElementBase::MakeControls(QWidget* parent) {
   const QString name = Texts::FromWide(m_content.text);
-  const QString description = describe();
+  const QString description = Describe();
   const QString toolTip = Texts::ToolTip(description);
   if (isAvailable()) {
-    makeCheckBox(parent);
+    MakeCheckBox(parent);
     m_checkBox->setText(Texts::Caption(name));
     m_checkBox->setToolTip(toolTip);
   }
   if (!m_host->GetFiles().Exists(m_content.picturePath)) return;
-  makePicture(parent);
+  MakePicture(parent);
   m_logo->setToolTip(toolTip);
   m_logo->setAccessibleName(Texts::OneLine(name));
   m_logo->setAccessibleDescription(Texts::OneLine(description));
 }
 
-void MainWindowElementBase::makeCheckBox(QWidget* parent) {
+void MainWindowElementBase::MakeCheckBox(QWidget* parent) {
   m_checkBox = new WrappingCheckBox(parent);
   m_checkBox->resize(GetCheckBoxSize());
   m_checkBox->setChecked(m_selected);
   QObject::connect(m_checkBox, &QCheckBox::clicked, m_checkBox, [this] { AfterSelect(); });
 }
 
-void MainWindowElementBase::makePicture(QWidget* parent) {
+void MainWindowElementBase::MakePicture(QWidget* parent) {
   PictureSource source;
   source.path = m_content.picturePath;
   source.stamp = m_host->GetFiles().Get(source.path);
@@ -53,7 +53,7 @@ void MainWindowElementBase::makePicture(QWidget* parent) {
   QObject::connect(m_logo, &PictureBox::clicked, m_logo, [this] { AfterSelectImage(); });
 }
 
-QString MainWindowElementBase::describe() const {
+QString MainWindowElementBase::Describe() const {
   QString text = Texts::FromWide(m_content.text);
   if (isAvailable()) return text;
   text += QObject::tr("\nNot available, this file is missing: %1").arg(Texts::FromWide(m_content.refusal.concerned));
@@ -82,15 +82,15 @@ void MainWindowElementBase::Focus() {
 
 void MainWindowElementBase::AfterSelect() {
   m_selected = m_checkBox->isChecked();
-  tellHost(m_selected);
+  TellHost(m_selected);
 }
 
 void MainWindowElementBase::AfterSelectImage() {
-  if (isAvailable()) return tellHost(!m_selected);
+  if (isAvailable()) return TellHost(!m_selected);
   WebAddress::Open(Texts::FromWide(m_content.url));
 }
 
-void MainWindowElementBase::tellHost(bool selected) {
+void MainWindowElementBase::TellHost(bool selected) {
   LogInfo(selected ? L"select..." : L"unselect...");
   if (selected) return m_host->SelectedElement(GetUnique());
   m_host->UnselectElement(GetUnique());

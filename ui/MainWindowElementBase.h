@@ -43,12 +43,12 @@ class MainWindowElementBase {
   virtual QSize GetPictureSize() const = 0;
   virtual QSize GetCheckBoxSize() const = 0;
 
-  void makeCheckBox(QWidget* parent);
-  void makePicture(QWidget* parent);
-  QString describe() const;
+  void MakeCheckBox(QWidget* parent);
+  void MakePicture(QWidget* parent);
+  QString Describe() const;
   void AfterSelect();
   void AfterSelectImage();
-  void tellHost(bool selected);
+  void TellHost(bool selected);
 
   OfferedElement m_content;
   bool m_selected = false;

@@ -28,7 +28,7 @@ void MainWindowGeneralPage::SetWidth(int width) {
   // A page narrower than one picture still has one column.
   m_step = std::max(0, (width - 250) / (m_w + 15) - 1);
   m_page->SetScrollPosition(QPoint(0, 0));
-  if (m_isShown) layOut();
+  if (m_isShown) LayOut();
 }
 
 void MainWindowGeneralPage::Show() {
@@ -37,11 +37,11 @@ void MainWindowGeneralPage::Show() {
   // Controls that are made in a hidden parent are shown all at once with it.
   m_page->GetContent()->hide();
   for (const ElementPtr& element : m_elements) element->MakeControls(m_page->GetContent());
-  layOut();
+  LayOut();
   m_page->GetContent()->show();
 }
 
-void MainWindowGeneralPage::layOut() {
+void MainWindowGeneralPage::LayOut() {
   int row = 0;
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     const int column = static_cast<int>(i) % (m_step + 1);

@@ -69,7 +69,7 @@ class MainWindowGeneralPage {
 
  private:
   void BeginWith(const PageOffer& page);
-  void layOut();
+  void LayOut();
   void MouseMove();
 
   MaxForm& m_form;

@@ -81,7 +81,9 @@ void MainWindowGeneralSelector::AddPage(PageOffer page, int width) {
       clothMaterialTab = MakePage<MainWindowClothMaterialsTab>(100, 300, page.title, width);
       return clothMaterialTab->FillMaterials(std::move(page));
     case PageKind::Assets:
-      if (page.hasTab) MakePage<MainWindowGenericTab>(150, 150, page.title, width)->FillAssets(std::move(page));
+      if (!page.hasTab) return;
+      auto* tab = MakePage<MainWindowGenericTab>(150, 150, page.title, width);
+      return tab->FillAssets(std::move(page));
   }
 }
 

@@ -35,11 +35,11 @@ void MainWindowSelectionInfo::CreateInfo(MaxForm& form) {
 
 void MainWindowSelectionInfo::UpdateInfo() {
   LogInfo(L"Update Info Widget");
-  show(std::wstring());
+  Show(std::wstring());
   if (*Selection2::GetCharacter() == L'\0') return LogInfo(L"current char is nullptr");
   const CharacterData* character = Data2::GetCharacter(Selection2::GetCharacter());
   if (character == nullptr) return LogInfo(L"current char object is nullptr");
-  show(Describe(*character) + DescribeAssets(*character));
+  Show(Describe(*character) + DescribeAssets(*character));
 }
 
 std::wstring MainWindowSelectionInfo::Describe(const CharacterData& character) {
@@ -70,7 +70,7 @@ std::wstring MainWindowSelectionInfo::DescribeAssets(const CharacterData& charac
   return text;
 }
 
-void MainWindowSelectionInfo::show(const std::wstring& text) {
+void MainWindowSelectionInfo::Show(const std::wstring& text) {
   m_label->setText(Texts::FromWide(text));
   m_label->setToolTip(text.empty() ? QString() : Texts::ToolTip(m_label->text()));
 }

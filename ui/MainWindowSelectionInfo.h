@@ -20,7 +20,7 @@ class MainWindowSelectionInfo {
  private:
   static std::wstring Describe(const CharacterData& character);
   static std::wstring DescribeAssets(const CharacterData& character);
-  void show(const std::wstring& text);
+  void Show(const std::wstring& text);
 
   QLabel* m_label = nullptr;
 };

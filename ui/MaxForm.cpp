@@ -15,12 +15,12 @@ namespace {
 
 const int FONT_PIXELS = 11;
 
-std::vector<MaxForm*>& forms() {
+std::vector<MaxForm*>& OpenForms() {
   static std::vector<MaxForm*> all;
   return all;
 }
 
-QWidget* hostWindow() {
+QWidget* HostWindow() {
   Interface* core = GetCOREInterface();
   return core != nullptr ? core->GetQmaxMainWindow() : nullptr;
 }
@@ -29,24 +29,24 @@ QWidget* hostWindow() {
 
 // A dialog floats above its parent on every desktop, other windows only on Windows.
 MaxForm::MaxForm()
-    : QWidget(hostWindow(), Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+    : QWidget(HostWindow(), Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint) {
   // Places and sizes are given for this size of text.
   QFont small = font();
   small.setPixelSize(FONT_PIXELS);
   setFont(small);
-  forms().push_back(this);
+  OpenForms().push_back(this);
 }
 
 MaxForm::~MaxForm() {
-  holdAccelerators(false);
-  forms().erase(std::remove(forms().begin(), forms().end(), this), forms().end());
+  HoldAccelerators(false);
+  OpenForms().erase(std::remove(OpenForms().begin(), OpenForms().end(), this), OpenForms().end());
 }
 
 bool MaxForm::CanBeMade() { return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr; }
 
 void MaxForm::DeleteAll() {
-  while (!forms().empty()) delete forms().back();
+  while (!OpenForms().empty()) delete OpenForms().back();
 }
 
 void MaxForm::ShowModeless() { show(); }
@@ -111,15 +111,15 @@ void MaxForm::closeEvent(QCloseEvent* event) {
 
 void MaxForm::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange) holdAccelerators(isActiveWindow());
+  if (event->type() == QEvent::ActivationChange) HoldAccelerators(isActiveWindow());
 }
 
 void MaxForm::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
-  holdAccelerators(false);
+  HoldAccelerators(false);
 }
 
-void MaxForm::holdAccelerators(bool off) {
+void MaxForm::HoldAccelerators(bool off) {
   if (m_acceleratorsOff == off) return;
   m_acceleratorsOff = off;
   if (off) return DisableAccelerators();

@@ -62,7 +62,7 @@ class MaxForm : public QWidget {
   static const int FRAME_WIDTH = 16;
   static const int FRAME_HEIGHT = 39;
 
-  void holdAccelerators(bool off);
+  void HoldAccelerators(bool off);
 
   AnchorLayout m_layout;
   bool m_layoutIsElsewhere = false;

@@ -23,7 +23,7 @@ void PictureBox::SetSource(const PictureSource& source) {
   update();
 }
 
-void PictureBox::load() {
+void PictureBox::Load() {
   m_loaded = true;
   m_picture = PictureCache::Instance().Get(m_source);
   if (m_picture.problem.isEmpty()) return;
@@ -33,11 +33,11 @@ void PictureBox::load() {
 }
 
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
-  if (!m_loaded) load();
+  if (!m_loaded) Load();
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   if (m_picture.pixmap.isNull()) {
-    paintProblem(painter);
+    PaintProblem(painter);
   } else {
     painter.drawPixmap(0, 0, m_picture.pixmap);
   }
@@ -46,7 +46,7 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
   painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
-void PictureBox::paintProblem(QPainter& painter) const {
+void PictureBox::PaintProblem(QPainter& painter) const {
   if (m_picture.problem.isEmpty()) return;
   painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -22,8 +22,8 @@ class PictureBox : public QAbstractButton {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  void load();
-  void paintProblem(QPainter& painter) const;
+  void Load();
+  void PaintProblem(QPainter& painter) const;
 
   PictureSource m_source;
   Picture m_picture;

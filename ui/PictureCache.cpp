@@ -39,7 +39,7 @@ PictureCache::PictureCache() : m_pictures(MOST_KIBIBYTES) {}
 Picture PictureCache::Get(const PictureSource& source) {
   if (const Picture* known = m_pictures.object(source)) return *known;
   auto* picture = new Picture(Decode(source));
-  const Picture result = *picture;
+  Picture result = *picture;
   m_pictures.insert(source, picture, KibibytesOf(result));
   return result;
 }

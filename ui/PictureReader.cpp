@@ -9,7 +9,7 @@ namespace ZORVEL {
 
 namespace {
 
-const qint64 MOST_PIXELS = 64 * 1000 * 1000;
+const qint64 MOST_PIXELS = qint64{64} * 1000 * 1000;
 
 /// Empty when the picture may be decoded.
 QString WhyRefused(const QImageReader& reader, const QSize& size) {
@@ -36,7 +36,7 @@ QImage PictureReader::Read(const std::wstring& path, const QSize& box, QString& 
   problem = WhyRefused(reader, size);
   if (!problem.isEmpty()) return QImage();
   reader.setClipRect(QRect(QPoint(), size.boundedTo(box)));
-  const QImage image = reader.read();
+  QImage image = reader.read();
   if (image.isNull()) problem = reader.errorString();
   return image;
 }

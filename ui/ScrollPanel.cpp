@@ -15,10 +15,10 @@ ScrollPanel::ScrollPanel(QWidget* parent) : QScrollArea(parent) {
   setLineWidth(1);
   viewport()->setMouseTracking(true);
   viewport()->installEventFilter(this);
-  addContent();
+  AddContent();
 }
 
-void ScrollPanel::addContent() {
+void ScrollPanel::AddContent() {
   auto* content = new QWidget;
   QPalette colours = DarkPalette(palette());
   // Inside of check boxes, which would not be seen otherwise.
@@ -35,7 +35,7 @@ QWidget* ScrollPanel::Clear() {
     old->hide();
     old->deleteLater();
   }
-  addContent();
+  AddContent();
   return old;
 }
 

@@ -29,7 +29,7 @@ class ScrollPanel : public QScrollArea {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void addContent();
+  void AddContent();
 };
 
 }  // namespace ZORVEL

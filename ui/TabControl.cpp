@@ -22,10 +22,10 @@ QSize TabButtons::tabSizeHint(int /*index*/) const { return QSize(80 + SPACE_BET
 
 void TabButtons::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);
-  for (int i = 0; i < count(); ++i) paintButton(painter, i);
+  for (int i = 0; i < count(); ++i) PaintButton(painter, i);
 }
 
-void TabButtons::paintButton(QStylePainter& painter, int index) const {
+void TabButtons::PaintButton(QStylePainter& painter, int index) const {
   const bool isChosen = index == currentIndex();
   QStyleOptionButton button;
   button.initFrom(this);

@@ -20,7 +20,7 @@ class TabButtons : public QTabBar {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void paintButton(QStylePainter& painter, int index) const;
+  void PaintButton(QStylePainter& painter, int index) const;
 };
 
 class TabControl : public QTabWidget {

@@ -17,7 +17,7 @@ void WrappingCheckBox::paintEvent(QPaintEvent* /*event*/) {
   style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, this);
   const QRect place = rect().adjusted(box.width() + gap, 0, 0, 0);
   painter.setPen(option.palette.color(QPalette::WindowText));
-  paintText(painter, place);
+  PaintText(painter, place);
   if ((option.state & QStyle::State_HasFocus) == 0 || (option.state & QStyle::State_KeyboardFocusChange) == 0) return;
   QStyleOptionFocusRect focus;
   focus.QStyleOption::operator=(option);
@@ -25,7 +25,7 @@ void WrappingCheckBox::paintEvent(QPaintEvent* /*event*/) {
   style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
-void WrappingCheckBox::paintText(QPainter& painter, const QRect& place) const {
+void WrappingCheckBox::PaintText(QPainter& painter, const QRect& place) const {
   const QString shown = text().replace("&&", "&");
   const int height = fontMetrics().lineSpacing();
   QTextLayout layout(shown, font());

@@ -17,7 +17,7 @@ class WrappingCheckBox : public QCheckBox {
   bool hitButton(const QPoint& place) const override { return rect().contains(place); }
 
  private:
-  void paintText(QPainter& painter, const QRect& place) const;
+  void PaintText(QPainter& painter, const QRect& place) const;
 };
 
 }  // namespace ZORVEL

@@ -130,7 +130,7 @@ std::string joined(const Json& entries, const char* key) {
 std::string details(const Json& element) {
   std::string text;
   const auto add = [&text](const std::string& part) { text += "  " + part; };
-  if (element.value("type", "") != "") add(element["type"].get<std::string>());
+  if (!element.value("type", "").empty()) add(element["type"].get<std::string>());
   if (element.contains("category")) add("in " + element["category"].get<std::string>());
   if (element.contains("globalID")) add("stands for " + element["globalID"].get<std::string>());
   if (element.value("multiple", false)) add("several");

@@ -88,7 +88,7 @@ void WindowDriver::showTab(const QString& title) {
 }
 
 void WindowDriver::tick(const QString& text) {
-  QCheckBox& box =
+  auto& box =
       find<QCheckBox>(*tabs().currentWidget(), "box " + text, [&](const QCheckBox& one) { return one.text() == text; });
   QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(7, 7));
 }

@@ -16,7 +16,7 @@ host::Application& application() { return host::Application::instance(); }
 
 QString textOf(const std::filesystem::path& file) { return QString::fromStdString(file.string()); }
 
-const char* const sceneFilter = "Scenes (*.json);;All files (*)";
+const char* const SCENE_FILTER = "Scenes (*.json);;All files (*)";
 
 }  // namespace
 
@@ -86,13 +86,13 @@ void FileCommands::newScene() {
 
 void FileCommands::openAsked() {
   if (!mayLeaveScene()) return;
-  if (const auto file = questions_->openFile(tr("Open Scene"), sceneFilter)) open(*file);
+  if (const auto file = questions_->openFile(tr("Open Scene"), SCENE_FILTER)) open(*file);
 }
 
 bool FileCommands::saveAgain() { return document_.file().empty() ? saveAsAsked() : save(document_.file()); }
 
 bool FileCommands::saveAsAsked() {
-  const auto file = questions_->saveFile(tr("Save Scene"), sceneFilter, "json");
+  const auto file = questions_->saveFile(tr("Save Scene"), SCENE_FILTER, "json");
   return file && save(*file);
 }
 

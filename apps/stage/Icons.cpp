@@ -7,7 +7,7 @@ namespace stage {
 
 namespace {
 
-const QColor blue(120, 176, 224);
+const QColor BLUE(120, 176, 224);
 
 QPolygonF points(const QVector<QPointF>& list) { return {list}; }
 
@@ -62,14 +62,14 @@ void drawCorners(QPainter& p) {
 
 void drawFramedOne(QPainter& p) {
   drawCorners(p);
-  p.setBrush(blue);
+  p.setBrush(BLUE);
   p.setPen(Qt::NoPen);
   p.drawRoundedRect(QRectF(8.5, 8.5, 7, 7), 1.5, 1.5);
 }
 
 void drawFramedAll(QPainter& p) {
   drawCorners(p);
-  p.setBrush(blue);
+  p.setBrush(BLUE);
   p.setPen(Qt::NoPen);
   for (const QPointF& at : {QPointF(7, 12.5), QPointF(12.5, 12.5), QPointF(9.75, 7)}) {
     p.drawRoundedRect(QRectF(at, QSizeF(4.5, 4.5)), 1, 1);
@@ -78,14 +78,14 @@ void drawFramedAll(QPainter& p) {
 
 void drawPicture(QPainter& p) {
   p.drawRoundedRect(QRectF(3.5, 5, 17, 14), 1.5, 1.5);
-  p.setPen(QPen(blue, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  p.setPen(QPen(BLUE, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   p.drawPolyline(points({{5.5, 16.5}, {10, 10.5}, {13, 14}, {15, 12}, {18.5, 16.5}}));
   p.drawEllipse(QPointF(15.5, 8.8), 1.1, 1.1);
 }
 
 void drawImport(QPainter& p) {
   p.drawPolyline(points({{4, 14}, {4, 20}, {20, 20}, {20, 14}}));
-  p.setPen(QPen(blue, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  p.setPen(QPen(BLUE, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   p.drawLine(QPointF(12, 4), QPointF(12, 15));
   p.drawPolyline(points({{7.5, 10.5}, {12, 15}, {16.5, 10.5}}));
 }

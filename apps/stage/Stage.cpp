@@ -37,7 +37,7 @@ void waitForPicture(StageWindow& window) {
 
 }  // namespace
 
-Stage::Stage(StageOptions options) : options_(std::move(options)), status_(EXIT_CLEAN) {
+Stage::Stage(StageOptions options) : options_(std::move(options)) {
   if (!options_.repository.empty()) settings_.emplace(options_.repository);
 }
 

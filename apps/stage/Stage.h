@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "apps/stage/ExitStatus.h"
 #include "apps/stage/RepositorySettings.h"
 #include "apps/stage/StageOptions.h"
 #include "apps/stage/StageWindow.h"
@@ -31,7 +32,7 @@ class Stage {
   StageOptions options_;
   std::optional<RepositorySettings> settings_;
   StageWindow window_;
-  int status_;
+  int status_ = EXIT_CLEAN;
 };
 
 }  // namespace stage

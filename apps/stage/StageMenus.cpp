@@ -17,7 +17,7 @@ namespace stage {
 
 namespace {
 
-const QStringList unitNames = {"Inches", "Feet", "Miles", "Millimeters", "Centimeters", "Meters", "Kilometers"};
+const QStringList UNIT_NAMES = {"Inches", "Feet", "Miles", "Millimeters", "Centimeters", "Meters", "Kilometers"};
 
 template <class Receiver, class Slot>
 QAction* add(QMenu* menu, const QString& text, const QKeySequence& keys, const QString& tip, Receiver* receiver,
@@ -44,7 +44,7 @@ bool isOneKey(const QKeySequence& keys) {
 
 }  // namespace
 
-QString unitName(int type) { return unitNames.value(type, QString::number(type)); }
+QString unitName(int type) { return UNIT_NAMES.value(type, QString::number(type)); }
 
 StageMenus::StageMenus(StageWindow& window) : QObject(&window), window_(window) {
   addFileMenu();
@@ -131,8 +131,8 @@ void StageMenus::addCustomizeMenu() {
   QMenu* customize = window_.menuBar()->addMenu(tr("&Customize"));
   QMenu* menu = customize->addMenu(tr("System &Unit"));
   units_ = new QActionGroup(this);
-  for (int type = 0; type < unitNames.size(); ++type) {
-    QAction* action = menu->addAction(unitNames[type], this, [this, type] { emit unitChosen(type); });
+  for (int type = 0; type < UNIT_NAMES.size(); ++type) {
+    QAction* action = menu->addAction(UNIT_NAMES[type], this, [this, type] { emit unitChosen(type); });
     action->setToolTip(tr("One unit of the scene is one of these; lengths keep their numbers"));
     action->setCheckable(true);
     units_->addAction(action);

@@ -9,7 +9,7 @@ namespace stage {
 
 namespace {
 
-const char* const footer =
+const char* const FOOTER =
     "In the viewport: middle button pans, Alt and middle (or left) button orbits, the wheel zooms, Z frames the "
     "selection, Shift+Z everything. Esc cancels a command that waits for the mouse, Q goes back to selecting.\n"
     "Without a display set QT_QPA_PLATFORM=offscreen and give --quit.\n"
@@ -31,7 +31,7 @@ void describe(CLI::App& app, StageOptions& options) {
   app.add_option("--picture", options.picture, "Draw the view into a PNG file, after the scripts");
   app.add_option("--window-picture", options.windowPicture, "Write what the window looks like into a PNG file");
   app.add_flag("--quit", options.quit, "Quit when that is done; asks nothing");
-  app.footer(footer);
+  app.footer(FOOTER);
   app.set_version_flag("--version", "zorvel-stage 1.0.0");
 }
 

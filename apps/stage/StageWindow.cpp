@@ -28,7 +28,6 @@ StageWindow::StageWindow()
       prompt_(new PromptLine(this)),
       quickAccess_(new QuickAccessToolBar(this)),
       builds_(new BuildNews(this)),
-      menus_(nullptr),
       watch_(new HostWatch(this)) {
   setCentralWidget(view_);
   addDockWidget(Qt::RightDockWidgetArea, nodes_);

@@ -63,7 +63,7 @@ class StageWindow : public MaxSDK::QmaxMainWindow {
   PromptLine* prompt_;
   QuickAccessToolBar* quickAccess_;
   BuildNews* builds_;
-  StageMenus* menus_;
+  StageMenus* menus_ = nullptr;
   HostWatch* watch_;
   bool interactive_ = false;
 };

@@ -13,7 +13,7 @@ void ActionManager::RegisterActionTable(ActionTable* table) {
   std::unique_ptr<ActionTable, EndTable> owned(table);
   ActionTable* known = FindTable(table->GetId());
   // The very table again stays registered once.
-  if (known == table) owned.release();
+  if (known == table) static_cast<void>(owned.release());
   if (known != nullptr) return;
   tables_.push_back(std::move(owned));
   tellChanged();

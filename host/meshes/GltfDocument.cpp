@@ -18,7 +18,7 @@ constexpr std::size_t CHUNK_HEADER_SIZE = 8;
 // Parsed JSON takes many times the room of its text.
 constexpr std::size_t LONGEST_JSON = std::size_t(64) << 20U;
 
-enum ComponentType : unsigned { Byte = 5120, UnsignedByte, Short, UnsignedShort, UnsignedInt = 5125, Float };
+enum ComponentType : unsigned { BYTE = 5120, UNSIGNED_BYTE, SHORT, UNSIGNED_SHORT, UNSIGNED_INT = 5125, FLOAT };
 
 template <class Value>
 Value valueAt(const unsigned char* bytes) {
@@ -53,14 +53,14 @@ std::optional<Chunk> nextChunk(std::string_view glb, std::size_t& offset) {
 
 std::size_t componentSize(unsigned componentType) {
   switch (componentType) {
-    case Byte:
-    case UnsignedByte:
+    case BYTE:
+    case UNSIGNED_BYTE:
       return 1;
-    case Short:
-    case UnsignedShort:
+    case SHORT:
+    case UNSIGNED_SHORT:
       return 2;
-    case UnsignedInt:
-    case Float:
+    case UNSIGNED_INT:
+    case FLOAT:
       return 4;
     default:
       throw UnreadableMesh("the glTF file has numbers of an unknown type");
@@ -69,11 +69,11 @@ std::size_t componentSize(unsigned componentType) {
 
 std::uint32_t wholeNumber(const unsigned char* bytes, unsigned componentType) {
   switch (componentType) {
-    case UnsignedByte:
+    case UNSIGNED_BYTE:
       return *bytes;
-    case UnsignedShort:
+    case UNSIGNED_SHORT:
       return valueAt<std::uint16_t>(bytes);
-    case UnsignedInt:
+    case UNSIGNED_INT:
       return valueAt<std::uint32_t>(bytes);
     default:
       throw UnreadableMesh("the glTF file has vertex indices that are no whole numbers");
@@ -86,15 +86,15 @@ float componentAt(const unsigned char* bytes, unsigned componentType, bool norma
     return normalized ? std::max(static_cast<float>(value) / highest, -1.0F) : static_cast<float>(value);
   };
   switch (componentType) {
-    case Float:
+    case FLOAT:
       return valueAt<float>(bytes);
-    case Byte:
+    case BYTE:
       return number(valueAt<std::int8_t>(bytes), 127.0F);
-    case UnsignedByte:
+    case UNSIGNED_BYTE:
       return number(*bytes, 255.0F);
-    case Short:
+    case SHORT:
       return number(valueAt<std::int16_t>(bytes), 32767.0F);
-    case UnsignedShort:
+    case UNSIGNED_SHORT:
       return number(valueAt<std::uint16_t>(bytes), 65535.0F);
     default:
       throw UnreadableMesh("the glTF file has vertices of an unknown type");
@@ -195,7 +195,7 @@ GltfDocument::Elements GltfDocument::elements(std::size_t accessor, const char* 
 
 std::vector<Point3> GltfDocument::points(std::size_t accessor) const {
   const Elements all = elements(accessor, "VEC3", 3);
-  if (all.componentType != Float && !isQuantized_) {
+  if (all.componentType != FLOAT && !isQuantized_) {
     throw UnreadableMesh("the glTF file has positions or normals that are not floats");
   }
   const std::size_t size = componentSize(all.componentType);

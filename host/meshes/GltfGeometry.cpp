@@ -67,7 +67,7 @@ int appendBytes(tinygltf::Model& model, const void* bytes, std::size_t size, int
   view.byteOffset = data.size();
   view.byteLength = size;
   view.target = target;
-  const unsigned char* first = static_cast<const unsigned char*>(bytes);
+  const auto* first = static_cast<const unsigned char*>(bytes);
   data.insert(data.end(), first, first + size);
   model.bufferViews.push_back(view);
   return static_cast<int>(model.bufferViews.size()) - 1;

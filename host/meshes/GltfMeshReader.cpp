@@ -17,17 +17,17 @@ namespace {
 
 using Json = GltfDocument::Json;
 
-enum PrimitiveMode : std::size_t { Triangles = 4, Strip, Fan };
+enum PrimitiveMode : std::size_t { TRIANGLES = 4, STRIP, FAN };
 
-const Matrix3 fromMetresYUp({100, 0, 0}, {0, 0, 100}, {0, -100, 0}, {0, 0, 0});
+const Matrix3 FROM_METRES_Y_UP({100, 0, 0}, {0, 0, 100}, {0, -100, 0}, {0, 0, 0});
 
 /// `defaults` where the key is absent.
-template <std::size_t count>
-std::array<float, count> numbers(const Json& object, const char* key, std::array<float, count> defaults) {
+template <std::size_t Count>
+std::array<float, Count> numbers(const Json& object, const char* key, std::array<float, Count> defaults) {
   const Json& list = GltfDocument::list(object, key);
   if (list.empty()) return defaults;
-  if (list.size() != count) throw UnreadableMesh(std::string("the glTF file has a bad \"") + key + "\"");
-  for (std::size_t i = 0; i < count; ++i) {
+  if (list.size() != Count) throw UnreadableMesh(std::string("the glTF file has a bad \"") + key + "\"");
+  for (std::size_t i = 0; i < Count; ++i) {
     const double number = list[i].is_number() ? list[i].get<double>() : std::numeric_limits<double>::infinity();
     if (!(std::abs(number) < 1e30)) throw UnreadableMesh(std::string("the glTF file has a bad \"") + key + "\"");
     defaults[i] = static_cast<float>(number);
@@ -61,14 +61,14 @@ bool mirrors(const Matrix3& m) { return (m.GetRow(0) ^ m.GetRow(1)) % m.GetRow(2
 
 std::vector<Mesh::Triangle> cut(const std::vector<std::uint32_t>& corners, std::size_t mode) {
   std::vector<Mesh::Triangle> triangles;
-  if (mode == Triangles) {
+  if (mode == TRIANGLES) {
     for (std::size_t i = 0; i + 2 < corners.size(); i += 3) {
       triangles.push_back({corners[i], corners[i + 1], corners[i + 2]});
     }
     return triangles;
   }
   for (std::size_t i = 0; i + 2 < corners.size(); ++i) {
-    if (mode == Fan) {
+    if (mode == FAN) {
       triangles.push_back({corners[0], corners[i + 1], corners[i + 2]});
     } else {
       const std::size_t odd = i % 2;
@@ -105,10 +105,10 @@ class SceneMerger {
     const bool hasScenes = !GltfDocument::list(document_.root(), "scenes").empty();
     if (hasScenes) {
       const std::size_t scene = GltfDocument::optionalIndex(document_.root(), "scene").value_or(0);
-      push(GltfDocument::list(document_.item("scenes", scene), "nodes"), fromMetresYUp);
+      push(GltfDocument::list(document_.item("scenes", scene), "nodes"), FROM_METRES_Y_UP);
       return;
     }
-    for (std::size_t i : nodesWithoutParent()) waiting_.emplace_back(i, fromMetresYUp);
+    for (std::size_t i : nodesWithoutParent()) waiting_.emplace_back(i, FROM_METRES_Y_UP);
   }
 
   std::vector<std::size_t> nodesWithoutParent() const {
@@ -149,8 +149,8 @@ class SceneMerger {
   }
 
   void append(const Json& primitive, const Matrix3& transform) {
-    const std::size_t mode = GltfDocument::optionalIndex(primitive, "mode").value_or(Triangles);
-    if (mode < Triangles || mode > Fan) return;
+    const std::size_t mode = GltfDocument::optionalIndex(primitive, "mode").value_or(TRIANGLES);
+    if (mode < TRIANGLES || mode > FAN) return;
     const std::size_t first = mesh_.positions.size();
     const std::size_t count = appendVertices(primitive, transform);
     const std::vector<Mesh::Triangle> triangles = cut(corners(primitive, count), mode);

@@ -145,7 +145,7 @@ bool Scene::isSelected(const Node& node) const {
   return std::any_of(selection_.begin(), selection_.end(), [&](const Ref<Node>& one) { return one.get() == &node; });
 }
 
-void Scene::changeSelection(std::vector<Ref<Node>> selection) {
+void Scene::changeSelection(const std::vector<Ref<Node>>& selection) {
   if (selection == selection_) return;
   const auto set = [this](std::vector<Ref<Node>> nodes) {
     nodes.erase(std::remove_if(nodes.begin(), nodes.end(), [](const Ref<Node>& node) { return !node->inScene(); }),

@@ -72,7 +72,7 @@ class Scene {
   void leave(Node& node);
   void link(Node& child, Node& parent, std::size_t index);
   static void unlink(Node& child);
-  void changeSelection(std::vector<Ref<Node>> selection);
+  void changeSelection(const std::vector<Ref<Node>>& selection);
   void removeEmptyGroup(Node* head);
   void build(const NodeContent& content, Node& parent);
   MSTR defaultName(Object& object);

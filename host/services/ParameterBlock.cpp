@@ -50,34 +50,34 @@ BOOL ParameterBlock::GetValue(ParamID id, TimeValue /*t*/, int& v, Interval& /*v
 }
 
 BOOL ParameterBlock::GetValue(ParamID id, TimeValue /*t*/, Color& v, Interval& /*valid*/, int /*tabIndex*/) {
-  const Color* value = find<Color>(id);
+  const auto* value = find<Color>(id);
   if (value == nullptr) return FALSE;
   v = *value;
   return TRUE;
 }
 
 BOOL ParameterBlock::GetValue(ParamID id, TimeValue /*t*/, const MCHAR*& v, Interval& /*valid*/, int /*tabIndex*/) {
-  const std::wstring* value = find<std::wstring>(id);
+  const auto* value = find<std::wstring>(id);
   if (value == nullptr) return FALSE;
   v = value->c_str();
   return TRUE;
 }
 
 BOOL ParameterBlock::GetValue(ParamID id, TimeValue /*t*/, Mtl*& v, Interval& /*valid*/, int /*tabIndex*/) {
-  const Ref<Mtl>* value = find<Ref<Mtl>>(id);
+  const auto* value = find<Ref<Mtl>>(id);
   if (value == nullptr) return FALSE;
   v = value->get();
   return TRUE;
 }
 
 BOOL ParameterBlock::GetValue(ParamID id, TimeValue /*t*/, Texmap*& v, Interval& /*valid*/, int /*tabIndex*/) {
-  const Ref<Texmap>* value = find<Ref<Texmap>>(id);
+  const auto* value = find<Ref<Texmap>>(id);
   if (value == nullptr) return FALSE;
   v = value->get();
   return TRUE;
 }
 
-BOOL ParameterBlock::set(ParamID id, Value value) {
+BOOL ParameterBlock::set(ParamID id, const Value& value) {
   const int found = IDtoIndex(id);
   if (found < 0) return FALSE;
   const auto index = static_cast<std::size_t>(found);
@@ -96,7 +96,7 @@ BOOL ParameterBlock::setNumber(ParamID id, double value) {
 }
 
 BOOL ParameterBlock::getNumber(ParamID id, double& value) {
-  if (const float* number = find<float>(id)) {
+  if (const auto* number = find<float>(id)) {
     value = *number;
     return TRUE;
   }

@@ -50,7 +50,7 @@ class ParameterBlock final : public IParamBlock2 {
   const std::vector<Parameter>& parameters() const { return parameters_; }
 
  private:
-  BOOL set(ParamID id, Value value);
+  BOOL set(ParamID id, const Value& value);
   BOOL setNumber(ParamID id, double value);
   BOOL getNumber(ParamID id, double& value);
   template <class T>

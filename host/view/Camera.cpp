@@ -7,7 +7,7 @@ namespace host {
 
 namespace {
 
-const Point3 threeQuarterFront(0.42F, -1.0F, 0.19F);
+const Point3 THREE_QUARTER_FRONT(0.42F, -1.0F, 0.19F);
 // A little air around what is framed.
 constexpr float MARGIN = 1.10F;
 
@@ -39,7 +39,7 @@ Camera::Camera(const Point3& eye, const Point3& target, float verticalAngle) : e
 
 Camera Camera::framing(const Box3& worldBounds, float aspect) {
   const Box3 box = framed(worldBounds);
-  const Camera direction(threeQuarterFront, Point3());
+  const Camera direction(THREE_QUARTER_FRONT, Point3());
   const float tanY = std::tan(DEFAULT_ANGLE / 2.0F) / MARGIN;
   const float tanX = tanY * std::max(aspect, 0.01F);
 

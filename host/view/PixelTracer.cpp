@@ -52,7 +52,7 @@ class Spread {
   }
   bool within(float deviation) const {
     if (count_ < FEWEST || deviation <= 0.0F) return false;
-    const float count = static_cast<float>(count_);
+    const auto count = static_cast<float>(count_);
     const float variance = std::max(0.0F, squares_ - sum_ * sum_ / count) / (count - 1.0F);
     return variance < deviation * deviation * count;
   }
@@ -86,7 +86,7 @@ Coverage PixelTracer::pixel(int x, int y) const {
   while (taken < options_.samples && !spread.within(options_.enough / 255.0F)) {
     const SampleSource source{pattern, static_cast<std::uint32_t>(taken++),
                               static_cast<std::uint32_t>(options_.samples)};
-    const SamplePattern::Pair place = source.pair(SamplePattern::Pixel);
+    const SamplePattern::Pair place = source.pair(SamplePattern::PIXEL);
     const Ray ray = camera_.rayThrough(static_cast<float>(x) + place.x, static_cast<float>(y) + place.y, options_.width,
                                        options_.height);
     const Coverage one = sample(ray, y, source);

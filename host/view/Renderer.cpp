@@ -22,7 +22,7 @@ int toByte(float value, float grain) { return std::clamp(static_cast<int>(value 
 /// What one pixel stores: sRGB, colour not multiplied by alpha, with a grain of less than one step against bands.
 QRgb stored(const Coverage& coverage, int x, int y) {
   if (!(coverage.alpha > 0.0F)) return 0;
-  const auto grain = SamplePattern(x, y).pair(SamplePattern::Opacity, 0, 1);
+  const auto grain = SamplePattern(x, y).pair(SamplePattern::OPACITY, 0, 1);
   const float whole = 1.0F / coverage.alpha;
   const auto channel = [&](float light) { return toByte(toSrgb(std::min(1.0F, light * whole)), grain.x); };
   const int alpha = coverage.alpha > 0.9999F ? 255 : toByte(coverage.alpha, grain.y);

@@ -16,7 +16,7 @@ class SamplePattern {
   };
 
   /// What a pair is for; each use has a pattern of its own.
-  enum Use : std::uint32_t { Pixel, Sun, Sky, Opacity };
+  enum Use : std::uint32_t { PIXEL, SUN, SKY, OPACITY };
 
   SamplePattern(int x, int y);
 

@@ -102,8 +102,8 @@ Color Shader::groundLight(const Point3& place, float eyeDistance, const SampleSo
 bool Shader::sunSeen(const Point3& start, const Point3& tilt, const SampleSource& source) const {
   Ray ray;
   ray.p = start;
-  ray.dir = coneDirection(sunDirection(), SUN_RADIUS, source.pair(SamplePattern::Sun)) + tilt;
-  return !scene_.occluded(ray, std::numeric_limits<float>::infinity(), source.pair(SamplePattern::Opacity).x);
+  ray.dir = coneDirection(sunDirection(), SUN_RADIUS, source.pair(SamplePattern::SUN)) + tilt;
+  return !scene_.occluded(ray, std::numeric_limits<float>::infinity(), source.pair(SamplePattern::OPACITY).x);
 }
 
 Color Shader::skyReceived(const Point3& start, const Point3& normal, const Color& nearby, float eyeDistance,
@@ -113,9 +113,9 @@ Color Shader::skyReceived(const Point3& start, const Point3& normal, const Color
     const SampleSource own{source.pattern, source.index * SKY_RAYS + i, source.count * SKY_RAYS};
     Ray ray;
     ray.p = start;
-    ray.dir = cosineDirection(normal, own.pair(SamplePattern::Sky));
+    ray.dir = cosineDirection(normal, own.pair(SamplePattern::SKY));
     const bool blocked =
-        scene_.occluded(ray, std::numeric_limits<float>::infinity(), own.pair(SamplePattern::Opacity).y);
+        scene_.occluded(ray, std::numeric_limits<float>::infinity(), own.pair(SamplePattern::OPACITY).y);
     sum = sum + (blocked ? nearby : skyFrom(start, ray.dir, eyeDistance));
   }
   return sum * (1.0F / static_cast<float>(SKY_RAYS));

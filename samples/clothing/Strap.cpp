@@ -43,7 +43,7 @@ void layOnto(const Field& body, double above, std::vector<Vec3>& places) {
 
 }  // namespace
 
-Strap::Strap(std::vector<Vec3> path, const Field& body, const Size& size) : size_(size) {
+Strap::Strap(const std::vector<Vec3>& path, const Field& body, const Size& size) : size_(size) {
   std::vector<Vec3> places = curve(path);
   for (int round = 0; round < 6; ++round) {
     layOnto(body, size.above, places);

@@ -17,7 +17,7 @@ class Strap {
 
   /// `path` is where the band runs, about: it is laid onto the body and evened out, but for its ends. In centimetres;
   /// at least two places.
-  Strap(std::vector<Vec3> path, const Field& body, const Size& size);
+  Strap(const std::vector<Vec3>& path, const Field& body, const Size& size);
 
   double distance(const Vec3& point) const;
   Box bounds() const { return bounds_; }

@@ -13,7 +13,7 @@ constexpr std::array<std::array<std::uint8_t, 4>, 6> SIDES = {
 constexpr std::uint8_t NONE = 255;
 
 std::uint8_t edgeBetween(std::uint8_t a, std::uint8_t b) {
-  for (std::uint8_t e = 0; e < EDGES.size(); ++e) {
+  for (std::uint8_t e = 0; e < std::uint8_t{EDGES.size()}; ++e) {
     if ((EDGES[e][0] == a && EDGES[e][1] == b) || (EDGES[e][0] == b && EDGES[e][1] == a)) return e;
   }
   return NONE;
@@ -40,7 +40,7 @@ std::array<std::uint8_t, 12> followers(unsigned inside) {
 MarchingCubes::MarchingCubes() {
   for (unsigned inside = 1; inside < 255; ++inside) {
     std::array<std::uint8_t, 12> next = followers(inside);
-    for (std::uint8_t start = 0; start < next.size(); ++start) {
+    for (std::uint8_t start = 0; start < std::uint8_t{next.size()}; ++start) {
       Loop loop;
       for (std::uint8_t edge = start; next[edge] != NONE;) {
         loop.push_back(edge);

@@ -103,7 +103,7 @@ class Cutter {
   // the samples, where the cuts of several lines would make triangles too small for a file's precision.
   Vec3 crossing(std::uint32_t a, std::uint32_t b) const {
     double from = 0, to = 1;
-    double valueFrom = static_cast<double>(tree_.value(a)), valueTo = static_cast<double>(tree_.value(b));
+    auto valueFrom = static_cast<double>(tree_.value(a)), valueTo = static_cast<double>(tree_.value(b));
     const auto guess = [&] { return mix(from, to, std::clamp(valueFrom / (valueFrom - valueTo), 0.05, 0.95)); };
     const double t = guess();
     const double value = field_.distance(mix(tree_.centre(a), tree_.centre(b), t));

@@ -40,9 +40,9 @@ Material soft(const QColor& color, double softness, const std::string& texture) 
 
 Material parts(std::vector<std::pair<std::string, Material>> named) {
   std::vector<Material> materials;
-  for (auto& [name, material] : named) {
-    material.name = name;
-    materials.push_back(std::move(material));
+  for (auto& one : named) {
+    one.second.name = one.first;
+    materials.push_back(std::move(one.second));
   }
   return multi("", std::move(materials));
 }

@@ -18,7 +18,7 @@ MaterialLibraryWriter& libraryFor(std::map<fs::path, MaterialLibraryWriter>& lib
 }  // namespace
 
 JobQueue::Job meshJob(const fs::path& file, const std::string& name, MeshStore& store, double coarseness,
-                      std::function<std::vector<Piece>()> pieces) {
+                      const std::function<std::vector<Piece>()>& pieces) {
   return [=, &store]() -> std::string {
     host::Mesh mesh = meshPieces(pieces(), coarseness);
     std::string failed = file.empty() ? std::string() : writeMesh(mesh, file);

@@ -48,6 +48,6 @@ class CharacterMaker {
 /// The mesh of the pieces, written to the file and put into the store under that name; `file` empty keeps it from the
 /// disk.
 JobQueue::Job meshJob(const std::filesystem::path& file, const std::string& name, MeshStore& store, double coarseness,
-                      std::function<std::vector<Piece>()> pieces);
+                      const std::function<std::vector<Piece>()>& pieces);
 
 }  // namespace samples

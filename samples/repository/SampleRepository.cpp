@@ -46,7 +46,7 @@ class Writer {
     const auto images = drawTextures(options_.seed, options_.coarseness, people_);
     for (const auto& [name, image] : images) {
       textures[name] = std::make_shared<host::Texture>(image);
-      queue.add([this, file = root_ / "maps" / name, &picture = image] { return writePictures(picture, {file}); });
+      queue.add([file = root_ / "maps" / name, &picture = image] { return writePictures(picture, {file}); });
     }
     previews_ = std::make_unique<Previews>(std::move(textures), options_.previewSamples);
     return queue.run(part(0, 0.04));

@@ -14,7 +14,7 @@ TEST(LogStore, DropsMessagesUnlessItExistsAndStartsEmptyEachTime) {
   Debug::AddDebugMessage(DEBUG_WARNING, L"two\nlines");
   Debug::AddDebugMessage(DEBUG_INFO, L"");
   Debug::AddDebugMessage(DEBUG_INFO, nullptr);
-  ASSERT_EQ(LogStore::Entries().size(), 3u);
+  ASSERT_EQ(LogStore::Entries().size(), 3U);
   EXPECT_EQ(LogStore::Entries()[0].level, DEBUG_WARNING);
   EXPECT_EQ(LogStore::Entries()[0].text, L"two\nlines");
   ASSERT_TRUE(LogStore::Create());
@@ -32,7 +32,7 @@ TEST(LogStore, TakesMessagesFromSeveralThreads) {
   std::thread other(talk);
   talk();
   other.join();
-  EXPECT_EQ(LogStore::Entries().size(), 1000u);
+  EXPECT_EQ(LogStore::Entries().size(), 1000U);
   LogStore::Free();
 }
 

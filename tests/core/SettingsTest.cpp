@@ -15,12 +15,12 @@ class SettingsTest : public support::LogStoreFixture {
   }
 
   std::wstring pathFromFile(const std::string& content) {
-    m_appData.folder().write("zorvel.ini", content);
+    appData_.folder().write("zorvel.ini", content);
     Settings::LoadSettings();
     return Settings::GetPathSet() ? Settings::GetPath() : L"(not set)";
   }
 
-  support::LocalAppData m_appData;
+  support::LocalAppData appData_;
 };
 
 TEST_F(SettingsTest, WithoutAnInstanceEveryOperationNamesItsOwnOrAnotherAsItAlwaysDid) {
@@ -37,7 +37,7 @@ TEST_F(SettingsTest, WithoutAnInstanceEveryOperationNamesItsOwnOrAnotherAsItAlwa
        L"Settings::GetSingleton - singleton is nullptr", L"Settings::GetPathSet - singleton is nullptr",
        L"Settings::GetPath - singleton is nullptr", L"Settings::GetPathSet - singleton is nullptr",
        L"Settings::SaveToSettingsFile - singleton is nullptr", L"Settings::SaveToSettingsFile - singleton is nullptr"});
-  EXPECT_FALSE(std::filesystem::exists(m_appData.folder().path() / "zorvel.ini"));
+  EXPECT_FALSE(std::filesystem::exists(appData_.folder().path() / "zorvel.ini"));
 }
 
 TEST_F(SettingsTest, TakesTheFileAsItStandsFromThreeCharactersOn) {
@@ -53,7 +53,7 @@ TEST_F(SettingsTest, LoadsWithoutAPathWhenTheFileCannotBeRead) {
   EXPECT_TRUE(Settings::LoadSettings());
   EXPECT_FALSE(Settings::GetPathSet());
   EXPECT_STREQ(Settings::GetPath(), L"");
-  m_appData.folder().makeFolder("zorvel.ini");
+  appData_.folder().makeFolder("zorvel.ini");
   EXPECT_FALSE(Settings::LoadFromSettingsFile());
   EXPECT_TRUE(Settings::StorePath(L"C:\\kept")) << "a file that cannot be written is not reported";
   EXPECT_STREQ(Settings::GetPath(), L"C:\\kept");
@@ -63,8 +63,8 @@ TEST_F(SettingsTest, TheFileEndsBeforeACharacterBeyondOneByteAndMemoryKeepsThePa
   Settings::LoadSettings();
   EXPECT_TRUE(Settings::StorePath(L"D:\\h\u00E4user\\\u4EBA\\x"));
   EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\\\u4EBA\\x");
-  EXPECT_EQ(m_appData.folder().read("zorvel.ini"), "D:\\h\xE4user\\");
-  expectLogged(DEBUG_INFO, m_appData.folder().wide() + L"\\zorvel.ini");
+  EXPECT_EQ(appData_.folder().read("zorvel.ini"), "D:\\h\xE4user\\");
+  expectLogged(DEBUG_INFO, appData_.folder().wide() + L"\\zorvel.ini");
   EXPECT_FALSE(Settings::StorePath(nullptr));
   EXPECT_TRUE(Settings::LoadFromSettingsFile());
   EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\\");

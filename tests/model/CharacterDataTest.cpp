@@ -11,40 +11,40 @@ class CharacterDataTest : public ModelFixture {
  protected:
   std::vector<DataContainer*> offered(const DataContainer* category) const {
     std::vector<DataContainer*> assets;
-    m_character.GetAssetsForCategory(assets, category);
+    character_.GetAssetsForCategory(assets, category);
     return assets;
   }
 
-  CharacterData m_character;
+  CharacterData character_;
 };
 
 TEST_F(CharacterDataTest, ANewClothHasItsThreeGroupsAndAnUnknownListTakesNothing) {
-  EXPECT_EQ(m_character.AddContainerElement(CLOTH), 0);
-  EXPECT_EQ(m_character.GetContainerElement(CLOTH, 0)->GetChildCount(), 3);
-  EXPECT_EQ(m_character.AddContainerElement(static_cast<CONTAINER>(7)), -1);
-  EXPECT_EQ(m_character.GetCount(static_cast<CONTAINER>(-1)), 0);
-  EXPECT_EQ(m_character.GetContainerElement(static_cast<CONTAINER>(5), 0), nullptr);
+  EXPECT_EQ(character_.AddContainerElement(CLOTH), 0);
+  EXPECT_EQ(character_.GetContainerElement(CLOTH, 0)->GetChildCount(), 3);
+  EXPECT_EQ(character_.AddContainerElement(static_cast<CONTAINER>(7)), -1);
+  EXPECT_EQ(character_.GetCount(static_cast<CONTAINER>(-1)), 0);
+  EXPECT_EQ(character_.GetContainerElement(static_cast<CONTAINER>(5), 0), nullptr);
 }
 
 TEST_F(CharacterDataTest, NamesOfListsAreExtended) {
-  m_character.SetContainerName(POSES, L"A");
-  m_character.SetContainerName(POSES, L"B");
-  m_character.SetContainerName(POSES, nullptr);
-  m_character.SetContainerName(CATEGORIES, L"C");
-  EXPECT_STREQ(m_character.GetContainerName(POSES), L"AB");
-  EXPECT_STREQ(m_character.GetContainerName(SKINS), L"");
-  EXPECT_EQ(m_character.GetContainerName(CATEGORIES), nullptr);
+  character_.SetContainerName(POSES, L"A");
+  character_.SetContainerName(POSES, L"B");
+  character_.SetContainerName(POSES, nullptr);
+  character_.SetContainerName(CATEGORIES, L"C");
+  EXPECT_STREQ(character_.GetContainerName(POSES), L"AB");
+  EXPECT_STREQ(character_.GetContainerName(SKINS), L"");
+  EXPECT_EQ(character_.GetContainerName(CATEGORIES), nullptr);
 }
 
 TEST_F(CharacterDataTest, ChildrenOfElementsThatAreNotThereAreRefusedInTheirOwnWords) {
-  m_character.AddClothElement(L"k", L"n", L"f", L"u");  // has no groups
-  EXPECT_EQ(m_character.AddChildToClothContainer(1, MATERIAL), nullptr);
-  EXPECT_EQ(m_character.AddChildToClothContainer(-1, MATERIAL), nullptr);
-  EXPECT_EQ(m_character.AddMandatoryElement(0), nullptr);
-  EXPECT_EQ(m_character.AddMandatoryElement(-1), nullptr);
-  EXPECT_EQ(m_character.AddMaterialToAsset(0), nullptr);
-  EXPECT_EQ(m_character.AddMaterialToCloth(1), nullptr);
-  EXPECT_EQ(m_character.GetClothChildCount(1, MATERIAL), -1);
+  character_.AddClothElement(L"k", L"n", L"f", L"u");  // has no groups
+  EXPECT_EQ(character_.AddChildToClothContainer(1, MATERIAL), nullptr);
+  EXPECT_EQ(character_.AddChildToClothContainer(-1, MATERIAL), nullptr);
+  EXPECT_EQ(character_.AddMandatoryElement(0), nullptr);
+  EXPECT_EQ(character_.AddMandatoryElement(-1), nullptr);
+  EXPECT_EQ(character_.AddMaterialToAsset(0), nullptr);
+  EXPECT_EQ(character_.AddMaterialToCloth(1), nullptr);
+  EXPECT_EQ(character_.GetClothChildCount(1, MATERIAL), -1);
   expectComplaints({L"CharacterData::AddChildToClothContainer: index out of range",
                     L"CharacterData::AddChildToClothContainer: could not get cloth element",
                     L"CharacterData::AddMandatoryElement: index out of range",
@@ -52,39 +52,39 @@ TEST_F(CharacterDataTest, ChildrenOfElementsThatAreNotThereAreRefusedInTheirOwnW
                     L"CharacterData::AddMaterialToAsset: index out of range",
                     L"CharacterData::AddMaterialToCloth: index out of range",
                     L"CharacterData::GetClothChildCount: index out of range"});
-  EXPECT_EQ(m_character.AddChildToClothContainer(0, SELECT), nullptr);
+  EXPECT_EQ(character_.AddChildToClothContainer(0, SELECT), nullptr);
   expectLogged(DEBUG_ERROR, L"GetChild: index out of range");
   expectLogged(DEBUG_ERROR, L"CharacterData::AddChildToClothContainer: could not get subContainerDC");
-  EXPECT_EQ(m_character.GetStyle(L"k", L"s"), nullptr);
+  EXPECT_EQ(character_.GetStyle(L"k", L"s"), nullptr);
 }
 
 TEST_F(CharacterDataTest, TheBoundOfClothChildrenIsTheWrongWayRound) {
-  m_character.AddContainerElement(CLOTH);
-  ASSERT_NE(m_character.AddMaterialToCloth(0), nullptr);
-  EXPECT_EQ(m_character.GetClothChildCount(0, MATERIAL), 1);
-  EXPECT_EQ(m_character.GetClothChildElement(0, MATERIAL, 0), nullptr);
-  EXPECT_EQ(m_character.GetClothChildElement(0, MATERIAL, 1), nullptr);
-  EXPECT_EQ(m_character.GetClothChildElement(0, MATERIAL, 2), nullptr);
+  character_.AddContainerElement(CLOTH);
+  ASSERT_NE(character_.AddMaterialToCloth(0), nullptr);
+  EXPECT_EQ(character_.GetClothChildCount(0, MATERIAL), 1);
+  EXPECT_EQ(character_.GetClothChildElement(0, MATERIAL, 0), nullptr);
+  EXPECT_EQ(character_.GetClothChildElement(0, MATERIAL, 1), nullptr);
+  EXPECT_EQ(character_.GetClothChildElement(0, MATERIAL, 2), nullptr);
   expectComplaints({L"CharacterData::GetClothChildElement: index out of range",
                     L"CharacterData::GetClothChildElement: index out of range", L"GetChild: index out of range"});
 }
 
 TEST_F(CharacterDataTest, MatrixRowsNeedBothIdsAndReadNumbersLeniently) {
   DataContainer row;
-  m_character.AddAssetMatrixElement(nullptr);
+  character_.AddAssetMatrixElement(nullptr);
   fill(&row, {{L"poseID", L"p"},
               {L"xpos", L"12.5cm"},
               {L"ypos", L" -1e2"},
               {L"zpos", L"none"},
               {L"xrot", L"1e999"},
               {L"yrot", L"1,5"}});
-  m_character.AddAssetMatrixElement(&row);
-  EXPECT_EQ(m_character.FindAssetMatrixElement(L"p", L"a"), nullptr);
+  character_.AddAssetMatrixElement(&row);
+  EXPECT_EQ(character_.FindAssetMatrixElement(L"p", L"a"), nullptr);
   clearLog();
   row.SetData(L"assetID", L"a");
-  m_character.AddAssetMatrixElement(&row);
+  character_.AddAssetMatrixElement(&row);
   expectComplaints({L"Missing datafield:", L"zrot"});
-  const AssetMatrixElement* found = m_character.FindAssetMatrixElement(L"p", L"a");
+  const AssetMatrixElement* found = character_.FindAssetMatrixElement(L"p", L"a");
   ASSERT_NE(found, nullptr);
   EXPECT_EQ(found->xpos, 12.5F);
   EXPECT_EQ(found->ypos, -100.0F);
@@ -92,19 +92,19 @@ TEST_F(CharacterDataTest, MatrixRowsNeedBothIdsAndReadNumbersLeniently) {
   EXPECT_EQ(found->xrot, HUGE_VALF);
   EXPECT_EQ(found->yrot, 1.0F);
   EXPECT_EQ(found->zrot, 0.0F);
-  EXPECT_EQ(m_character.FindAssetMatrixElement(nullptr, L"a"), nullptr);
+  EXPECT_EQ(character_.FindAssetMatrixElement(nullptr, L"a"), nullptr);
 }
 
 TEST_F(CharacterDataTest, SortsClothsByCodeUnitsAndKeepsEqualOnesInOrder) {
   const wchar_t* const names[][2] = {{L"1", L"b"}, {L"2", L"B"},      {L"3", L"a"},
                                      {L"4", L"B"}, {L"5", L"\uE000"}, {L"6", L"\U0001F600"}};
-  for (const auto& name : names) add(m_character, CLOTH, {{L"id", name[0]}, {L"name", name[1]}});
-  add(m_character, CLOTH, {{L"id", L"unnamed"}});
-  m_character.SortClothsAlphabetically();
+  for (const auto& name : names) add(character_, CLOTH, {{L"id", name[0]}, {L"name", name[1]}});
+  add(character_, CLOTH, {{L"id", L"unnamed"}});
+  character_.SortClothsAlphabetically();
   std::wstring order;
-  for (int i = 0; i < m_character.GetCount(CLOTH); ++i) {
+  for (int i = 0; i < character_.GetCount(CLOTH); ++i) {
     bool found = false;
-    order += m_character.GetContainerElement(CLOTH, i)->GetData(L"id", found);
+    order += character_.GetContainerElement(CLOTH, i)->GetData(L"id", found);
   }
   EXPECT_EQ(order, L"unnamed243165");
 }
@@ -114,54 +114,54 @@ TEST_F(CharacterDataTest, ClothsWithoutAPreviewPictureDisappearAndTheirIdsNameNo
   folder.write("previews/preview_k1.png", "");
   folder.makeFolder("previews/preview_k2.png");
   folder.write("previews/preview_K3.PNG", "");
-  m_character.SetData(L"folder", folder.wide().c_str());
-  const DataContainer* cloths[] = {add(m_character, CLOTH, {{L"id", L"k3"}}), add(m_character, CLOTH, {{L"id", L"k2"}}),
-                                   add(m_character, CLOTH, {{L"id", L"k1"}}), add(m_character, CLOTH, {})};
+  character_.SetData(L"folder", folder.wide().c_str());
+  const DataContainer* cloths[] = {add(character_, CLOTH, {{L"id", L"k3"}}), add(character_, CLOTH, {{L"id", L"k2"}}),
+                                   add(character_, CLOTH, {{L"id", L"k1"}}), add(character_, CLOTH, {})};
   const int removed = Data2::GetUnique(cloths[1]);
-  m_character.ValidateCloths();
-  ASSERT_EQ(m_character.GetCount(CLOTH), 2);
-  EXPECT_EQ(m_character.GetContainerElement(CLOTH, 0), cloths[0]);
-  EXPECT_EQ(m_character.GetContainerElement(CLOTH, 1), cloths[2]);
+  character_.ValidateCloths();
+  ASSERT_EQ(character_.GetCount(CLOTH), 2);
+  EXPECT_EQ(character_.GetContainerElement(CLOTH, 0), cloths[0]);
+  EXPECT_EQ(character_.GetContainerElement(CLOTH, 1), cloths[2]);
   EXPECT_EQ(Data2::GetIdForUnique(removed), nullptr);
   EXPECT_EQ(Data2::GetUnique(cloths[0]), removed + 10);
 }
 
 TEST_F(CharacterDataTest, LookupsSkipElementsWithoutAnId) {
-  add(m_character, SKINS, {{L"name", L"nameless"}});
-  const DataContainer* skin = add(m_character, SKINS, {{L"id", L"s"}});
-  EXPECT_EQ(m_character.GetSkin(L"s"), skin);
+  add(character_, SKINS, {{L"name", L"nameless"}});
+  const DataContainer* skin = add(character_, SKINS, {{L"id", L"s"}});
+  EXPECT_EQ(character_.GetSkin(L"s"), skin);
   expectComplaints({L"Missing datafield:", L"id"});
-  EXPECT_EQ(m_character.GetSkin(nullptr), nullptr);
+  EXPECT_EQ(character_.GetSkin(nullptr), nullptr);
   EXPECT_EQ(CharacterData::FindElementById(nullptr, L"s"), nullptr);
-  EXPECT_EQ(m_character.GetCategory(nullptr), nullptr);
-  EXPECT_EQ(m_character.GetCategory(skin), nullptr);
+  EXPECT_EQ(character_.GetCategory(nullptr), nullptr);
+  EXPECT_EQ(character_.GetCategory(skin), nullptr);
   expectComplaints({L"CharacterData::GetCategory: invalid asset"});
 }
 
 TEST_F(CharacterDataTest, OffersAssetsByTypeMatrixAndExclusion) {
-  const DataContainer* category = add(m_character, CATEGORIES, {{L"id", L"t"}});
+  const DataContainer* category = add(character_, CATEGORIES, {{L"id", L"t"}});
   DataContainer* const global = addGlobalAsset({{L"id", L"g"}});
   DataContainer* const specific =
-      add(m_character, ASSETS, {{L"id", L"a1"}, {L"type", L"specific"}, {L"category", L"t"}});
-  add(m_character, ASSETS, {{L"id", L"a2"}, {L"type", L"common"}, {L"category", L"t"}});
-  add(m_character, ASSETS, {{L"id", L"a3"}, {L"type", L"global"}, {L"globalID", L"g"}, {L"category", L"t"}});
+      add(character_, ASSETS, {{L"id", L"a1"}, {L"type", L"specific"}, {L"category", L"t"}});
+  add(character_, ASSETS, {{L"id", L"a2"}, {L"type", L"common"}, {L"category", L"t"}});
+  add(character_, ASSETS, {{L"id", L"a3"}, {L"type", L"global"}, {L"globalID", L"g"}, {L"category", L"t"}});
   DataContainer* const orphan =
-      add(m_character, ASSETS, {{L"id", L"a4"}, {L"type", L"global"}, {L"globalID", L"none"}, {L"category", L"t"}});
-  add(m_character, ASSETS, {{L"id", L"a5"}, {L"type", L"specific"}});
-  add(m_character, ASSETS, {{L"type", L"common"}, {L"category", L"t"}});
+      add(character_, ASSETS, {{L"id", L"a4"}, {L"type", L"global"}, {L"globalID", L"none"}, {L"category", L"t"}});
+  add(character_, ASSETS, {{L"id", L"a5"}, {L"type", L"specific"}});
+  add(character_, ASSETS, {{L"type", L"common"}, {L"category", L"t"}});
   Selection2::SetPose(L"p");
 
   EXPECT_EQ(offered(category), (std::vector<DataContainer*>{specific, orphan}));
   EXPECT_EQ(countLogged(L"CharacterData::GetAssetsForCategory found no matrix for "), 3);
 
-  m_character.AddAssetMatrixElement(L"p", L"a3", 0, 0, 0, 0, 0, 0);
+  character_.AddAssetMatrixElement(L"p", L"a3", 0, 0, 0, 0, 0, 0);
   EXPECT_EQ(offered(category), (std::vector<DataContainer*>{specific, global, orphan}));
   bool found = false;
   EXPECT_STREQ(global->GetData(L"local_asset_id", found), L"a3");
 
-  add(m_character, CLOTH, {{L"id", L"k"}});
+  add(character_, CLOTH, {{L"id", L"k"}});
   for (const wchar_t* excluded : {L"a1", L"a3"}) {
-    fill(m_character.AddChildToClothContainer(0, EXCLUDE), {{L"id", excluded}});
+    fill(character_.AddChildToClothContainer(0, EXCLUDE), {{L"id", excluded}});
   }
   Selection2::SetCloth(L"k");
   EXPECT_EQ(offered(category), (std::vector<DataContainer*>{orphan}));
@@ -173,35 +173,35 @@ TEST_F(CharacterDataTest, TheSelectedClothChoosesAssetsAndTheirMaterials) {
   DataContainer material;
   fill(&asset, {{L"id", L"g"}, {L"local_asset_id", L"a"}});
   fill(&material, {{L"id", L"m"}});
-  EXPECT_FALSE(m_character.CheckAssetStyleForClothSelection(&asset, nullptr));
-  add(m_character, CLOTH, {{L"id", L"k"}});
+  EXPECT_FALSE(character_.CheckAssetStyleForClothSelection(&asset, nullptr));
+  add(character_, CLOTH, {{L"id", L"k"}});
   Selection2::SetCloth(L"k");
-  EXPECT_FALSE(m_character.CheckAssetStyleForClothSelection(&asset, nullptr));
-  m_character.AddChildToClothContainer(0, SELECT);  // names no asset
-  fill(m_character.AddChildToClothContainer(0, SELECT), {{L"asset_id", L"a"}});
-  EXPECT_TRUE(m_character.CheckAssetStyleForClothSelection(&asset, nullptr));
-  EXPECT_FALSE(m_character.CheckAssetStyleForClothSelection(&asset, &material));
-  fill(m_character.AddChildToClothContainer(0, SELECT), {{L"asset_id", L"a"}, {L"material_id", L"m"}});
-  EXPECT_TRUE(m_character.CheckAssetStyleForClothSelection(&asset, &material));
-  EXPECT_FALSE(m_character.CheckAssetStyleForClothSelection(nullptr, &material));
+  EXPECT_FALSE(character_.CheckAssetStyleForClothSelection(&asset, nullptr));
+  character_.AddChildToClothContainer(0, SELECT);  // names no asset
+  fill(character_.AddChildToClothContainer(0, SELECT), {{L"asset_id", L"a"}});
+  EXPECT_TRUE(character_.CheckAssetStyleForClothSelection(&asset, nullptr));
+  EXPECT_FALSE(character_.CheckAssetStyleForClothSelection(&asset, &material));
+  fill(character_.AddChildToClothContainer(0, SELECT), {{L"asset_id", L"a"}, {L"material_id", L"m"}});
+  EXPECT_TRUE(character_.CheckAssetStyleForClothSelection(&asset, &material));
+  EXPECT_FALSE(character_.CheckAssetStyleForClothSelection(nullptr, &material));
 }
 
 TEST_F(CharacterDataTest, GlobalAssetsAreReachedThroughTheCharactersOwn) {
   DataContainer* const global = addGlobalAsset({{L"id", L"g"}});
-  DataContainer* const category = add(m_character, CATEGORIES, {{L"id", L"t"}});
-  add(m_character, ASSETS, {{L"id", L"other"}, {L"type", L"global"}});
+  DataContainer* const category = add(character_, CATEGORIES, {{L"id", L"t"}});
+  add(character_, ASSETS, {{L"id", L"other"}, {L"type", L"global"}});
   DataContainer* const local =
-      add(m_character, ASSETS, {{L"id", L"a"}, {L"type", L"global"}, {L"globalID", L"g"}, {L"category", L"t"}});
-  DataContainer* const plain = add(m_character, ASSETS, {{L"id", L"b"}});
+      add(character_, ASSETS, {{L"id", L"a"}, {L"type", L"global"}, {L"globalID", L"g"}, {L"category", L"t"}});
+  DataContainer* const plain = add(character_, ASSETS, {{L"id", L"b"}});
   DataContainer reference;
-  EXPECT_EQ(m_character.ResolveAsset(&reference), nullptr);
-  EXPECT_EQ(m_character.ResolveAsset(fill(&reference, {{L"id", L"a"}})), global);
-  EXPECT_EQ(m_character.ResolveAsset(fill(&reference, {{L"id", L"b"}})), plain);
-  EXPECT_EQ(m_character.ResolveAsset(fill(&reference, {{L"id", L"other"}})), nullptr);
-  EXPECT_EQ(m_character.ResolveAsset(fill(&reference, {{L"id", L"none"}})), nullptr);
-  EXPECT_EQ(m_character.FindLocalAssetForGlobal(global), local);
-  EXPECT_EQ(m_character.GetCategoryForGlobalAsset(global), category);
-  EXPECT_EQ(m_character.GetCategoryForGlobalAsset(nullptr), nullptr);
+  EXPECT_EQ(character_.ResolveAsset(&reference), nullptr);
+  EXPECT_EQ(character_.ResolveAsset(fill(&reference, {{L"id", L"a"}})), global);
+  EXPECT_EQ(character_.ResolveAsset(fill(&reference, {{L"id", L"b"}})), plain);
+  EXPECT_EQ(character_.ResolveAsset(fill(&reference, {{L"id", L"other"}})), nullptr);
+  EXPECT_EQ(character_.ResolveAsset(fill(&reference, {{L"id", L"none"}})), nullptr);
+  EXPECT_EQ(character_.FindLocalAssetForGlobal(global), local);
+  EXPECT_EQ(character_.GetCategoryForGlobalAsset(global), category);
+  EXPECT_EQ(character_.GetCategoryForGlobalAsset(nullptr), nullptr);
 }
 
 }  // namespace ZORVEL

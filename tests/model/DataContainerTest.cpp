@@ -116,10 +116,10 @@ TEST(Utf16Order, PutsCharactersBeyondTheBasicPlaneWhereTheirSurrogatesAre) {
   const wchar_t* const ascending[] = {L"",       L"1",          L"B",          L"Ba",         L"a",      L"b",
                                       L"\uD7FF", L"\U00010000", L"\U00010001", L"\U0010FFFF", L"\uE000", L"\uFFFD"};
   for (const auto* left = std::begin(ascending); left != std::end(ascending); ++left) {
-    EXPECT_EQ(compareUtf16(*left, *left), 0);
+    EXPECT_EQ(CompareUtf16(*left, *left), 0);
     for (const auto* right = left + 1; right != std::end(ascending); ++right) {
-      EXPECT_LT(compareUtf16(*left, *right), 0);
-      EXPECT_GT(compareUtf16(*right, *left), 0);
+      EXPECT_LT(CompareUtf16(*left, *right), 0);
+      EXPECT_GT(CompareUtf16(*right, *left), 0);
     }
   }
 }

@@ -7,7 +7,7 @@ namespace ZORVEL {
 class RepositoryValidationTest : public RepositoryFixture {
  protected:
   CharacterData& characterIn(const wchar_t* folder) {
-    const std::wstring path = m_root.wide() + L"\\" + folder;
+    const std::wstring path = root_.wide() + L"\\" + folder;
     return addCharacter({{L"folder", path.c_str()}});
   }
   static bool valid(const DataContainer* record) { return record->GetFastFlag(FLAG_VALID); }
@@ -15,8 +15,8 @@ class RepositoryValidationTest : public RepositoryFixture {
 
 TEST_F(RepositoryValidationTest, MarksWhatHasItsFolder) {
   for (const char* folder : {"anna/summer", "anna/standing", "anna/bag", "global_assets/bench"})
-    m_root.makeFolder(folder);
-  m_root.write("anna/file", "");
+    root_.makeFolder(folder);
+  root_.write("anna/file", "");
   CharacterData& anna = characterIn(L"anna");
   const DataContainer* summer = add(anna, CLOTH, {{L"folder", L"Summer"}});
   const DataContainer* file = add(anna, CLOTH, {{L"folder", L"file"}});
@@ -35,14 +35,14 @@ TEST_F(RepositoryValidationTest, MarksWhatHasItsFolder) {
   EXPECT_EQ(countLogged(L"set global asset invalid..."), 2);
   EXPECT_EQ(countLogged(L"set element invalid..."), 2);
 
-  std::filesystem::remove(m_root.path() / "anna/summer");
+  std::filesystem::remove(root_.path() / "anna/summer");
   Data2::SetValidated(true);
   EXPECT_FALSE(valid(summer)) << "marks are renewed by every run";
 }
 
 TEST_F(RepositoryValidationTest, AnAssetTakesOverTheMarkOfItsGlobalAssetOrKeepsItsOwn) {
-  m_root.makeFolder("anna/bench");
-  m_root.makeFolder("global_assets/bench");
+  root_.makeFolder("anna/bench");
+  root_.makeFolder("global_assets/bench");
   CharacterData& anna = characterIn(L"anna");
   DataContainer* const bench = addGlobalAsset({{L"id", L"g"}, {L"folder", L"bench"}});
   const DataContainer* asset = add(anna, ASSETS, {{L"type", L"global"}, {L"globalID", L"g"}, {L"folder", L"none"}});

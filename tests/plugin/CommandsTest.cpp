@@ -32,7 +32,7 @@ class CommandFacade : public support::LoadedRepositoryFixture {
     Application::instance().fileDialog().setProvider({});
     LoadedRepositoryFixture::TearDown();
   }
-  void answer(std::optional<std::filesystem::path> file) {
+  void answer(const std::optional<std::filesystem::path>& file) {
     Application::instance().fileDialog().setProvider([this, file](const FileDialog::Question& question) {
       ++asked_;
       EXPECT_EQ(question.title, L"Select file \"zorvel.xml\"");

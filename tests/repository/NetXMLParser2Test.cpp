@@ -10,7 +10,7 @@ class NetXMLParser2Test : public RepositoryFixture {
  protected:
   bool parse(const std::string& xml) {
     writeDescription(xml);
-    return Parser2::ParseRepository(m_root.wide().c_str());
+    return Parser2::ParseRepository(root_.wide().c_str());
   }
   static bool storeIsEmpty() { return Data2::GetCharacterCount() == 0 && Data2::GetGlobalAssetCount() == 0; }
 };
@@ -20,13 +20,13 @@ TEST_F(NetXMLParser2Test, RefusesARepositoryWithoutAReadableDescription) {
   EXPECT_FALSE(XMLParser2::ParseXML(nullptr));
   expectComplaints({L"Parser2::ParseRepository invalid argument", L"ParseRepositoryXML: invalid argument"});
 
-  const std::wstring root = m_root.wide();
+  const std::wstring root = root_.wide();
   EXPECT_FALSE(Parser2::ParseRepository(root.c_str()));
-  m_root.makeFolder("zorvel.xml");
+  root_.makeFolder("zorvel.xml");
   EXPECT_FALSE(Parser2::ParseRepository(root.c_str()));
   EXPECT_EQ(countLogged(L"ParseRepositoryXML: XML file \"zorvel.xml\" does not exist in this folder:"), 2);
   EXPECT_EQ(countLogged(root), 6) << "named by the driver, by the reader and as the folder without the file";
-  std::filesystem::remove(m_root.path() / "zorvel.xml");
+  std::filesystem::remove(root_.path() / "zorvel.xml");
 
   EXPECT_FALSE(parse(""));
   EXPECT_FALSE(parse("<zorvel><globalAssets><asset id='g'/></globalAssets>"));
@@ -44,9 +44,9 @@ TEST_F(NetXMLParser2Test, RefusesARepositoryWithoutAReadableDescription) {
 }
 
 TEST_F(NetXMLParser2Test, RefusesCharactersOneByOneInOrder) {
-  m_root.makeFolder("nothing");
-  m_root.write("file/previews", "");
-  m_root.makeFolder("noskin/previews");
+  root_.makeFolder("nothing");
+  root_.write("file/previews", "");
+  root_.makeFolder("noskin/previews");
   makeCharacterFolder("good");
   const bool parsed = parse(
       "<zorvel><character/><character id='x'/><character folder='nothing'/><character folder='file'/>"
@@ -58,7 +58,7 @@ TEST_F(NetXMLParser2Test, RefusesCharactersOneByOneInOrder) {
   EXPECT_EQ(countLogged(L"ParseCharacter: subfolder \"previews\" does not exist"), 2);
   EXPECT_EQ(countLogged(L"ParseCharacter: subfolder \"skin\" does not exist"), 1);
   EXPECT_EQ(countLogged(L"handle skins"), 0);
-  EXPECT_EQ(text(Data2::GetCharacter(0), L"folder"), m_root.wide() + L"\\good");
+  EXPECT_EQ(text(Data2::GetCharacter(0), L"folder"), root_.wide() + L"\\good");
   EXPECT_FALSE(NetXMLParser2::ParseCharacter(nullptr, L"x"));
   EXPECT_FALSE(NetXMLParser2::ParseRepositoryElement(nullptr, L"x"));
   EXPECT_FALSE(NetXMLParser2::ParseGlobalAssets(nullptr));
@@ -67,9 +67,9 @@ TEST_F(NetXMLParser2Test, RefusesCharactersOneByOneInOrder) {
 
 TEST_F(NetXMLParser2Test, ReadsEveryKindOfElementAndNumbersThemInDocumentOrder) {
   makeCharacterFolder("anna");
-  m_root.makeFolder("anna/summer");
-  m_root.write("anna/previews/preview_k1.png", "");
-  m_root.write("anna/previews/preview_k2.png", "");
+  root_.makeFolder("anna/summer");
+  root_.write("anna/previews/preview_k1.png", "");
+  root_.write("anna/previews/preview_k2.png", "");
   ASSERT_TRUE(parse(R"(<zorvel>
     <globalAssets name='x'><asset id='g1'><!-- no record --><anything id='g1m'/><?no record?></asset><other/></globalAssets>
     <character id='c1' name='Anna &amp; Co' folder='anna'>
@@ -121,12 +121,12 @@ TEST_F(NetXMLParser2Test, ReadsARepositoryMadeOnWindows) {
     bytes += static_cast<char>(unit & 0xFF);
     bytes += static_cast<char>(unit >> 8);
   }
-  m_root.write("ZORVEL.XML", bytes);
+  root_.write("ZORVEL.XML", bytes);
   makeCharacterFolder("people/z\xC3\xBCri");
-  m_root.makeFolder("people/z\xC3\xBCri/SOMMER/blau");
-  m_root.write("people/z\xC3\xBCri/previews/Preview_k1.PNG", "");
+  root_.makeFolder("people/z\xC3\xBCri/SOMMER/blau");
+  root_.write("people/z\xC3\xBCri/previews/Preview_k1.PNG", "");
   // A root chosen in a file dialog ends in a separator; the doubled one is kept in texts and does no harm on disk.
-  const std::wstring root = m_root.wide() + L"\\";
+  const std::wstring root = root_.wide() + L"\\";
   Settings::StorePath(root.c_str());
   ASSERT_TRUE(Parser2::ParseRepository(root.c_str()));
   const CharacterData* character = Data2::GetCharacter(L"c1");
@@ -140,7 +140,7 @@ TEST_F(NetXMLParser2Test, ReadsARepositoryMadeOnWindows) {
 
 TEST_F(NetXMLParser2Test, RecordsWithoutTheirUsualFieldsDoNoHarm) {
   makeCharacterFolder("anna");
-  m_root.write("anna/previews/preview_.png", "");
+  root_.write("anna/previews/preview_.png", "");
   ASSERT_TRUE(
       parse("<zorvel><globalAssets><asset><m/></asset></globalAssets><character folder='anna'><skins><skin/></skins>"
             "<cloth><clothing><select/><exclude/><material/></clothing><clothing name=''/></cloth>"

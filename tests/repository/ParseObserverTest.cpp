@@ -35,10 +35,10 @@ class ParseObserverTest : public RepositoryFixture {
     Data2::Clear();
     ParseListener listener;
     const ObservedParsing observed(listener);
-    Parser2::ParseRepository(m_root.wide().c_str());
+    Parser2::ParseRepository(root_.wide().c_str());
     return listener;
   }
-  std::wstring path(const wchar_t* below) const { return m_root.wide() + below; }
+  std::wstring path(const wchar_t* below) const { return root_.wide() + below; }
 
   using Kind = ParseNoteKind;
   using Texts = std::vector<std::wstring>;
@@ -57,15 +57,15 @@ TEST_F(ParseObserverTest, IsToldWhyThereIsNoDescription) {
   std::string wide = "<zorvel";
   for (int i = 0; i < 10001; ++i) wide += " a" + std::to_string(i) + "=''";
   expectOne(listen(wide + "/>"), Kind::DescriptionBeyondLimits, L"0:0 ||too many attributes|" + file);
-  std::filesystem::remove(m_root.path() / "zorvel.xml");
-  std::filesystem::create_symlink("/proc/self/mem", m_root.path() / "zorvel.xml");
+  std::filesystem::remove(root_.path() / "zorvel.xml");
+  std::filesystem::create_symlink("/proc/self/mem", root_.path() / "zorvel.xml");
   expectOne(listen(), Kind::DescriptionNotReadable, L"0:0 ||not readable|" + file);
 }
 
 TEST_F(ParseObserverTest, IsToldWhatIsRefusedSkippedAndDropped) {
   makeCharacterFolder("anna");
-  m_root.makeFolder("noskin/previews");
-  m_root.write("anna/previews/preview_k1.png", "");
+  root_.makeFolder("noskin/previews");
+  root_.write("anna/previews/preview_k1.png", "");
   const ParseListener told = listen(R"(<zorvel>
 <Character folder='anna'/>
 <globalAssets><global/><asset id='g' local_asset_id='x'><any/></asset></globalAssets>
@@ -132,7 +132,7 @@ TEST_F(ParseObserverTest, KnowsWhereEveryRecordStandsAndIsForgottenAfterwards) {
     const ParseListener second = listen();
     EXPECT_EQ(second.records.size(), 5U);
     EXPECT_TRUE(first.records.empty()) << "the youngest counts";
-    Parser2::ParseRepository(m_root.wide().c_str());
+    Parser2::ParseRepository(root_.wide().c_str());
     EXPECT_EQ(first.records.size(), 5U);
   }
   EXPECT_EQ(ObservedParsing::GetObserver(), nullptr);

@@ -15,7 +15,7 @@ class RepositoryFixture : public ModelFixture {
   void SetUp() override {
     ModelFixture::SetUp();
     Settings::LoadSettings();
-    Settings::StorePath(m_root.wide().c_str());
+    Settings::StorePath(root_.wide().c_str());
     clearLog();
   }
   void TearDown() override {
@@ -23,11 +23,11 @@ class RepositoryFixture : public ModelFixture {
     ModelFixture::TearDown();
   }
 
-  void writeDescription(const std::string& xml) const { m_root.write("zorvel.xml", xml); }
+  void writeDescription(const std::string& xml) const { root_.write("zorvel.xml", xml); }
   /// What a character folder must have.
   void makeCharacterFolder(const std::string& name) const {
-    m_root.makeFolder(name + "/previews");
-    m_root.makeFolder(name + "/skin");
+    root_.makeFolder(name + "/previews");
+    root_.makeFolder(name + "/skin");
   }
   static std::wstring text(const DataContainer* record, const wchar_t* field) {
     bool found = false;
@@ -35,8 +35,8 @@ class RepositoryFixture : public ModelFixture {
     return value ? value : L"(missing)";
   }
 
-  support::LocalAppData m_appData;
-  support::TemporaryFolder m_root;
+  support::LocalAppData appData_;
+  support::TemporaryFolder root_;
 };
 
 }  // namespace ZORVEL

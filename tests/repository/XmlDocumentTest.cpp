@@ -15,9 +15,9 @@ class XmlDocumentTest : public ::testing::Test {
   void TearDown() override { EXPECT_EQ(::testing::internal::GetCapturedStderr(), "") << "the library has spoken"; }
 
   std::unique_ptr<XmlDocument> load(const std::string& content) {
-    const std::wstring path = host::toWide(m_folder.write("d.xml", content).string());
-    auto document = XmlDocument::Load(path.c_str(), m_error);
-    EXPECT_EQ(document == nullptr, !m_error.message.empty()) << host::toUtf8(m_error.message);
+    const std::wstring path = host::toWide(folder_.write("d.xml", content).string());
+    auto document = XmlDocument::Load(path.c_str(), error_);
+    EXPECT_EQ(document == nullptr, !error_.message.empty()) << host::toUtf8(error_.message);
     return document;
   }
   std::wstring rootAttribute(const std::string& content, const wchar_t* name = L"a") {
@@ -34,8 +34,8 @@ class XmlDocumentTest : public ::testing::Test {
     return bytes;
   }
 
-  support::TemporaryFolder m_folder;
-  XmlError m_error;
+  support::TemporaryFolder folder_;
+  XmlError error_;
 };
 
 TEST_F(XmlDocumentTest, KeepsElementsAttributesAndLinesAndLeavesTheRestOut) {
@@ -102,10 +102,10 @@ TEST_F(XmlDocumentTest, ReadsEveryDeclaredEncoding) {
 
 TEST_F(XmlDocumentTest, RefusesWhatIsNotWellFormedAndTellsWhere) {
   EXPECT_EQ(load("<r>\n  <e>\n</r>"), nullptr);
-  EXPECT_EQ(m_error.line, 3);
-  EXPECT_EQ(m_error.fault, XmlFault::NotWellFormed);
+  EXPECT_EQ(error_.line, 3);
+  EXPECT_EQ(error_.fault, XmlFault::NotWellFormed);
   EXPECT_EQ(load("<r a='\xFF'/>"), nullptr);
-  EXPECT_EQ(m_error.message.find(L'\n'), std::wstring::npos) << "one line";
+  EXPECT_EQ(error_.message.find(L'\n'), std::wstring::npos) << "one line";
   const std::string broken[] = {"",
                                 " ",
                                 "text",
@@ -132,29 +132,29 @@ TEST_F(XmlDocumentTest, RefusesWhatIsNotWellFormedAndTellsWhere) {
 }
 
 TEST_F(XmlDocumentTest, RefusesWhatCannotBeOpened) {
-  EXPECT_EQ(XmlDocument::Load(nullptr, m_error), nullptr);
-  EXPECT_EQ(XmlDocument::Load(m_folder.wide().c_str(), m_error), nullptr);
-  EXPECT_EQ(XmlDocument::Load((m_folder.wide() + L"\\none").c_str(), m_error), nullptr);
-  EXPECT_EQ(m_error.message, L"not readable");
+  EXPECT_EQ(XmlDocument::Load(nullptr, error_), nullptr);
+  EXPECT_EQ(XmlDocument::Load(folder_.wide().c_str(), error_), nullptr);
+  EXPECT_EQ(XmlDocument::Load((folder_.wide() + L"\\none").c_str(), error_), nullptr);
+  EXPECT_EQ(error_.message, L"not readable");
 }
 
 TEST_F(XmlDocumentTest, RefusesWhatStopsBeingReadable) {
   // A file of the system that can be opened and not be read.
-  std::filesystem::create_symlink("/proc/self/mem", m_folder.path() / "mem");
-  EXPECT_EQ(XmlDocument::Load((m_folder.wide() + L"\\mem").c_str(), m_error), nullptr);
-  EXPECT_EQ(m_error.message, L"not readable");
-  EXPECT_EQ(m_error.fault, XmlFault::NotReadable);
+  std::filesystem::create_symlink("/proc/self/mem", folder_.path() / "mem");
+  EXPECT_EQ(XmlDocument::Load((folder_.wide() + L"\\mem").c_str(), error_), nullptr);
+  EXPECT_EQ(error_.message, L"not readable");
+  EXPECT_EQ(error_.fault, XmlFault::NotReadable);
 
   const std::size_t limit = 20000;
   const auto withText = [](std::size_t size) { return "<r><e>" + std::string(size - 15, 'x') + "</e></r>\n"; };
   for (const std::size_t size : {limit, limit + 1, 10 * limit}) {
-    const std::wstring path = host::toWide(m_folder.write("d.xml", withText(size)).string());
+    const std::wstring path = host::toWide(folder_.write("d.xml", withText(size)).string());
     XmlOptions options;
     options.largestFile = limit;
-    EXPECT_EQ(XmlDocument::Load(path.c_str(), m_error, options) != nullptr, size == limit);
-    EXPECT_EQ(m_error.message, size == limit ? L"" : L"too large");
+    EXPECT_EQ(XmlDocument::Load(path.c_str(), error_, options) != nullptr, size == limit);
+    EXPECT_EQ(error_.message, size == limit ? L"" : L"too large");
   }
-  EXPECT_EQ(m_error.fault, XmlFault::BeyondLimits);
+  EXPECT_EQ(error_.fault, XmlFault::BeyondLimits);
 }
 
 TEST_F(XmlDocumentTest, RefusesDepthAndGrowthBeyondBounds) {
@@ -188,13 +188,13 @@ TEST_F(XmlDocumentTest, RefusesDepthAndGrowthBeyondBounds) {
   std::string wide = "<r";
   for (int i = 0; i < 10001; ++i) wide += " a" + std::to_string(i) + "=''";
   EXPECT_EQ(load(wide + "/>"), nullptr);
-  EXPECT_EQ(m_error.message, L"too many attributes");
+  EXPECT_EQ(error_.message, L"too many attributes");
 }
 
 TEST_F(XmlDocumentTest, TakesLargeTextAndManyElements) {
   const auto document = load("<r a='" + std::string(5000000, 'x') + "'>" + std::string(20000000, 'y') + "</r>");
   ASSERT_NE(document, nullptr);
-  EXPECT_EQ(std::wstring(document->GetRoot().attributes[0].text).size(), 5000000u);
+  EXPECT_EQ(std::wstring(document->GetRoot().attributes[0].text).size(), 5000000U);
   std::string many = "<r>";
   for (int i = 0; i < 200000; ++i) many += "<a/>";
   const auto flat = load(many + "</r>");
@@ -203,8 +203,8 @@ TEST_F(XmlDocumentTest, TakesLargeTextAndManyElements) {
 }
 
 TEST_F(XmlDocumentTest, NeverTouchesAnotherFile) {
-  const std::string secret = m_folder.write("secret.txt", "<s/>").string();
-  const std::string dtd = m_folder.write("d.dtd", "<!ENTITY e 'from the DTD'>").string();
+  const std::string secret = folder_.write("secret.txt", "<s/>").string();
+  const std::string dtd = folder_.write("d.dtd", "<!ENTITY e 'from the DTD'>").string();
   for (const std::string& target : {"file://" + secret, secret, std::string("http://127.0.0.1:9/x")}) {
     const std::string declaration = "<!DOCTYPE r [<!ENTITY e SYSTEM '" + target + "'>";
     EXPECT_EQ(load(declaration + "]><r>&e;</r>"), nullptr);

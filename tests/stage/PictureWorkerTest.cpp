@@ -11,7 +11,7 @@ using stage::TileBoard;
 
 namespace {
 
-const QSize size(640, 384);
+const QSize SIZE(640, 384);
 
 class PictureWorkerTest : public ::testing::Test {
  protected:
@@ -19,8 +19,8 @@ class PictureWorkerTest : public ::testing::Test {
     std::vector<host::ViewItem> items(2);
     items[0].mesh = shapes::sphere(10, {0, 0, 30}, 48);
     items[1].mesh = shapes::sphere(2, {30, 0, 2}, 24);
-    worker.setItems(items);
-    worker.setView(camera, size);
+    worker_.setItems(items);
+    worker_.setView(camera_, SIZE);
   }
   /// Hands pieces to `take` until it is content; false after a minute.
   template <class Take>
@@ -28,25 +28,25 @@ class PictureWorkerTest : public ::testing::Test {
     const auto end = std::chrono::steady_clock::now() + std::chrono::minutes(1);
     while (std::chrono::steady_clock::now() < end) {
       {
-        std::unique_lock<std::mutex> lock(mutex);
-        woken.wait_for(lock, std::chrono::milliseconds(20), [this] { return news; });
-        news = false;
+        std::unique_lock<std::mutex> lock(mutex_);
+        woken_.wait_for(lock, std::chrono::milliseconds(20), [this] { return news_; });
+        news_ = false;
       }
-      if (take(worker.takeFinished())) return true;
+      if (take(worker_.takeFinished())) return true;
     }
     return false;
   }
 
-  std::mutex mutex;
-  std::condition_variable woken;
-  bool news = false;
-  host::Camera camera{{0, -160, 60}, {0, 0, 20}};
-  PictureWorker worker{[this] {
-                         const std::lock_guard<std::mutex> lock(mutex);
-                         news = true;
-                         woken.notify_one();
-                       },
-                       2};
+  std::mutex mutex_;
+  std::condition_variable woken_;
+  bool news_ = false;
+  host::Camera camera_{{0, -160, 60}, {0, 0, 20}};
+  PictureWorker worker_{[this] {
+                          const std::lock_guard<std::mutex> lock(mutex_);
+                          news_ = true;
+                          woken_.notify_one();
+                        },
+                        2};
 };
 
 QRegion regionOf(const std::vector<PictureWorker::Piece>& pieces) {
@@ -62,9 +62,9 @@ TEST_F(PictureWorkerTest, FirstComesAWholePictureAndThenBetterParts) {
     first = std::move(pieces);
     return !first.empty();
   }));
-  EXPECT_EQ(regionOf(first), QRegion(QRect(QPoint(), size)));
-  EXPECT_FALSE(worker.complete());
-  EXPECT_TRUE(waitUntil([&](const auto&) { return worker.complete(); }));
+  EXPECT_EQ(regionOf(first), QRegion(QRect(QPoint(), SIZE)));
+  EXPECT_FALSE(worker_.complete());
+  EXPECT_TRUE(waitUntil([&](const auto&) { return worker_.complete(); }));
 }
 
 TEST_F(PictureWorkerTest, AMouseThatNeverRestsStillSeesWholePictures) {
@@ -72,39 +72,39 @@ TEST_F(PictureWorkerTest, AMouseThatNeverRestsStillSeesWholePictures) {
   int pictures = 0;
   int asked = 0;
   EXPECT_TRUE(waitUntil([&](const auto& pieces) {
-    if (regionOf(pieces) == QRegion(QRect(QPoint(), size))) ++pictures;
+    if (regionOf(pieces) == QRegion(QRect(QPoint(), SIZE))) ++pictures;
     // The next view is asked for before the picture of the last one can be taken.
     for (int i = 0; i < 10; ++i) {
-      worker.setView(host::Camera({static_cast<float>(++asked), -160, 60}, {0, 0, 20}), size);
+      worker_.setView(host::Camera({static_cast<float>(++asked), -160, 60}, {0, 0, 20}), SIZE);
       std::this_thread::yield();
     }
-    std::unique_lock<std::mutex> lock(mutex);
-    woken.wait_for(lock, std::chrono::seconds(10), [this] { return news; });
+    std::unique_lock<std::mutex> lock(mutex_);
+    woken_.wait_for(lock, std::chrono::seconds(10), [this] { return news_; });
     lock.unlock();
-    worker.setView(host::Camera({static_cast<float>(++asked), -160, 60}, {0, 0, 20}), size);
+    worker_.setView(host::Camera({static_cast<float>(++asked), -160, 60}, {0, 0, 20}), SIZE);
     return pictures >= 5;
   }));
 }
 
 TEST_F(PictureWorkerTest, AMoveRedrawsWhatItChangedAndRefinesTheRestOnlyWhenAllElseIsDone) {
   begin();
-  ASSERT_TRUE(waitUntil([&](const auto&) { return worker.complete(); }));
-  const std::size_t before = worker.tilesSpoiled();
+  ASSERT_TRUE(waitUntil([&](const auto&) { return worker_.complete(); }));
+  const std::size_t before = worker_.tilesSpoiled();
   Matrix3 moved(TRUE);
   moved.Translate(Point3(1, 0, 0));
   const QRect region(400, 200, 60, 60);
-  worker.moveItems({{1, moved}}, region);
+  worker_.moveItems({{1, moved}}, region);
   std::vector<PictureWorker::Piece> first;
   ASSERT_TRUE(waitUntil([&](auto pieces) {
     first = std::move(pieces);
     return !first.empty();
   }));
   TileBoard board;
-  board.resize(size);
-  EXPECT_EQ(worker.tilesSpoiled() - before, static_cast<std::size_t>(board.touched(region)));
+  board.resize(SIZE);
+  EXPECT_EQ(worker_.tilesSpoiled() - before, static_cast<std::size_t>(board.touched(region)));
   EXPECT_LE(board.touched(region), 4);
   EXPECT_TRUE(first.front().where.intersects(region));
-  EXPECT_TRUE(waitUntil([&](const auto&) { return worker.complete(); }));
+  EXPECT_TRUE(waitUntil([&](const auto&) { return worker_.complete(); }));
 }
 
 }  // namespace

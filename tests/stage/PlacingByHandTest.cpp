@@ -13,7 +13,7 @@
 namespace {
 
 /// On the ground, in nobody's way.
-const Point3 onGround(-60, 40, 0);
+const Point3 ON_GROUND(-60, 40, 0);
 
 class PlacingByHand : public support::StageFixture {
  protected:
@@ -43,8 +43,8 @@ TEST_F(PlacingByHand, ACharacterFollowsTheMouseOverGroundTableAndLampAndIsTurned
   EXPECT_EQ(view().cursor().shape(), Qt::CrossCursor);
 
   // A pixel on the ground is about a scene unit wide here.
-  move(pixelOf(onGround));
-  expectNear(place(placed()), onGround, 2.0F);
+  move(pixelOf(ON_GROUND));
+  expectNear(place(placed()), ON_GROUND, 2.0F);
   const Point3 onTable(190, 140, 75);
   move(pixelOf(onTable));
   expectNear(place(placed()), onTable, 2.0F);
@@ -69,9 +69,9 @@ TEST_F(PlacingByHand, ACharacterFollowsTheMouseOverGroundTableAndLampAndIsTurned
 TEST_F(PlacingByHand, ARightClickLeavesNothingBehindAndUndoAfterItDoesNoHarm) {
   const std::size_t before = scene().nodes().size();
   createCharacter();
-  move(pixelOf(onGround));
-  click(pixelOf(onGround));
-  click(pixelOf(onGround), Qt::RightButton);
+  move(pixelOf(ON_GROUND));
+  click(pixelOf(ON_GROUND));
+  click(pixelOf(ON_GROUND), Qt::RightButton);
   EXPECT_EQ(scene().nodes().size(), before);
   EXPECT_TRUE(standardMode());
   key(Qt::Key_Z, Qt::ControlModifier);
@@ -86,8 +86,8 @@ TEST_F(PlacingByHand, EscapeCancelsInEitherStepAndTheSelectToolLeavesTheCharacte
   EXPECT_TRUE(select.isChecked());
   for (const bool clicked : {false, true}) {
     createCharacter();
-    move(pixelOf(onGround));
-    if (clicked) click(pixelOf(onGround));
+    move(pixelOf(ON_GROUND));
+    if (clicked) click(pixelOf(ON_GROUND));
     EXPECT_FALSE(select.isChecked());
     key(Qt::Key_Escape);
     EXPECT_EQ(scene().nodes().size(), before);
@@ -96,7 +96,7 @@ TEST_F(PlacingByHand, EscapeCancelsInEitherStepAndTheSelectToolLeavesTheCharacte
     EXPECT_EQ(window().promptLine().prompt(), "Ready");
   }
   createCharacter();
-  move(pixelOf(onGround));
+  move(pixelOf(ON_GROUND));
   for (int twice = 0; twice < 2; ++twice) {
     key(Qt::Key_Q);
     EXPECT_TRUE(standardMode());
@@ -111,26 +111,26 @@ TEST_F(PlacingByHand, EscapeCancelsInEitherStepAndTheSelectToolLeavesTheCharacte
 
 TEST_F(PlacingByHand, NavigatingInTheMiddleOfAPlacementIsNoneOfItsBusiness) {
   createCharacter();
-  move(pixelOf(onGround));
+  move(pixelOf(ON_GROUND));
   const Point3 stood = place(placed());
   const float yaw = view().viewport().yaw();
-  const QPoint from = pixelOf(onGround);
+  const QPoint from = pixelOf(ON_GROUND);
   press(from, Qt::MiddleButton, Qt::AltModifier);
   move(from + QPoint(60, 20));
   release(from + QPoint(60, 20), Qt::MiddleButton, Qt::AltModifier);
   EXPECT_NE(view().viewport().yaw(), yaw);
   EXPECT_EQ(place(placed()), stood);
   EXPECT_EQ(window().promptLine().prompt(), "Place your ZORVEL Character");
-  click(pixelOf(onGround), Qt::RightButton);
+  click(pixelOf(ON_GROUND), Qt::RightButton);
 }
 
 TEST_F(PlacingByHand, AWholeUseCanBeUndoneAndMadeAgain) {
   const std::size_t before = scene().nodes().size();
   createCharacter();
-  move(pixelOf(onGround));
-  click(pixelOf(onGround));
-  move(pixelOf(onGround) + QPoint(50, 0));
-  click(pixelOf(onGround) + QPoint(50, 0));
+  move(pixelOf(ON_GROUND));
+  click(pixelOf(ON_GROUND));
+  move(pixelOf(ON_GROUND) + QPoint(50, 0));
+  click(pixelOf(ON_GROUND) + QPoint(50, 0));
   const std::size_t built = scene().nodes().size();
   ASSERT_GT(built, before);
 
@@ -155,16 +155,16 @@ TEST_F(PlacingByHand, ItStandsOnAScaledAndTurnedSurfaceAndNeverOnItself) {
   createCharacter();
   move(pixelOf(onPlate));
   expectNear(place(placed()), onPlate, 2.0F);
-  move(pixelOf(onGround));
+  move(pixelOf(ON_GROUND));
   const Point3 chest = place(placed()) + Point3(0, 0, 100);
   move(pixelOf(chest));
   EXPECT_GT(place(placed()).y, chest.y) << "behind itself";
-  click(pixelOf(onGround), Qt::RightButton);
+  click(pixelOf(ON_GROUND), Qt::RightButton);
 }
 
 TEST_F(PlacingByHand, ItStaysWhileTheMouseIsInTheSkyAndASecondOneTakesTheMouseOver) {
   createCharacter();
-  move(pixelOf(onGround));
+  move(pixelOf(ON_GROUND));
   INode* first = placed();
   const Point3 stood = place(first);
   // Level with the ground: the upper half of the view looks above the horizon.
@@ -182,7 +182,7 @@ TEST_F(PlacingByHand, ItStaysWhileTheMouseIsInTheSkyAndASecondOneTakesTheMouseOv
   EXPECT_LT(scene().nodes().size(), nodes);
   EXPECT_EQ(placed(), first);
   EXPECT_TRUE(standardMode());
-  move(pixelOf(onGround) + QPoint(30, 0));
+  move(pixelOf(ON_GROUND) + QPoint(30, 0));
   EXPECT_EQ(place(first), stood) << "moves after the end move nothing";
 }
 

@@ -25,14 +25,14 @@ class ViewportWidget : public support::StageFixture {
     for (const auto& one : scene().selection()) names.emplace_back(one->GetName());
     return names;
   }
-  static const Point3 table;
-  static const Point3 ramp;
+  static const Point3 TABLE;
+  static const Point3 RAMP;
 };
 
 using Names = std::vector<std::wstring>;
 
-const Point3 ViewportWidget::table(210, 150, 75);
-const Point3 ViewportWidget::ramp(0, 265, 27);
+const Point3 ViewportWidget::TABLE(210, 150, 75);
+const Point3 ViewportWidget::RAMP(0, 265, 27);
 
 /// The share of pixels that differ by more than the eye would see.
 double difference(const QImage& a, const QImage& b) {
@@ -66,11 +66,11 @@ TEST_F(ViewportWidget, TheMousePansOrbitsAndZooms) {
 }
 
 TEST_F(ViewportWidget, AClickSelectsWhatIsSeenThereAndKeysFrameIt) {
-  click(pixelOf(table));
+  click(pixelOf(TABLE));
   EXPECT_EQ(selected(), Names({L"Table"}));
-  click(pixelOf(ramp), Qt::LeftButton, Qt::ControlModifier);
+  click(pixelOf(RAMP), Qt::LeftButton, Qt::ControlModifier);
   EXPECT_EQ(selected(), Names({L"Table", L"Ramp"}));
-  click(pixelOf(ramp));
+  click(pixelOf(RAMP));
   EXPECT_EQ(selected(), Names({L"Ramp"}));
 
   const float far = viewport().distance();
@@ -107,7 +107,7 @@ TEST_F(ViewportWidget, ThePictureAfterManyMovesIsThatOfTheSceneAsItIs) {
   QPainter paint(&fresh);
   paint.setCompositionMode(QPainter::CompositionMode_Source);
   while (auto task = board.next()) {
-    task->level = stage::TileBoard::qualityCount - 1;
+    task->level = stage::TileBoard::QUALITY_COUNT - 1;
     paint.drawImage(task->where.topLeft(), painter.paint(*task, stop));
     board.finish(*task);
   }

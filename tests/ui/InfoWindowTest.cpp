@@ -16,7 +16,7 @@ using ZORVEL::Debug;
 using ZORVEL::DebugWindowClass;
 namespace DebugWindow = ZORVEL::DebugWindow;
 
-const QStringList header = {"ZORVEL Info Window...", "04.04.2014", "base Setting: Max 2013"};
+const QStringList HEADER = {"ZORVEL Info Window...", "04.04.2014", "base Setting: Max 2013"};
 
 class InfoWindow : public support::LogStoreFixture {
  protected:
@@ -44,7 +44,7 @@ TEST_F(InfoWindow, IsAFixedDialogWithAHeaderAndReadOnlyText) {
   EXPECT_TRUE(textBox(window).verticalScrollBar()->isVisible());
   EXPECT_TRUE(textBox(window).horizontalScrollBar()->isVisible());
   QTest::keyClicks(&textBox(window), "typed");
-  EXPECT_EQ(lines(), header + QStringList{""});
+  EXPECT_EQ(lines(), HEADER + QStringList{""});
 }
 
 TEST_F(InfoWindow, ShowsEachTextAsALineWhateverStandsInIt) {
@@ -53,7 +53,7 @@ TEST_F(InfoWindow, ShowsEachTextAsALineWhateverStandsInIt) {
   for (const wchar_t* text : {L"abc", L"<b>def</b>", L"", static_cast<const wchar_t*>(nullptr), L"\u05d0\u4e2d"}) {
     DebugWindow::AddDebugWindowMessage(text);
   }
-  const QStringList expected = header + QStringList{"abc", "<b>def</b>", "", "", QString::fromUtf8("א中"), ""};
+  const QStringList expected = HEADER + QStringList{"abc", "<b>def</b>", "", "", QString::fromUtf8("א中"), ""};
   EXPECT_EQ(lines(), expected);
   DebugWindow::AddDebugWindowMessage(std::wstring(1000000, L'x').c_str());
   EXPECT_EQ(lines().size(), expected.size() + 1);
@@ -75,8 +75,8 @@ TEST_F(InfoWindow, GoesOnTakingTextWhenClosedUntilANewOneReplacesIt) {
   ASSERT_NE(DebugWindowClass::window, first);
   EXPECT_TRUE(first->isVisible());
   DebugWindow::AddDebugWindowMessage(L"two");
-  EXPECT_EQ(lines(*first), (header + QStringList{"one", ""}));
-  EXPECT_EQ(lines(), (header + QStringList{"two", ""}));
+  EXPECT_EQ(lines(*first), (HEADER + QStringList{"one", ""}));
+  EXPECT_EQ(lines(), (HEADER + QStringList{"two", ""}));
 }
 
 TEST_F(InfoWindow, GoesWithTheWindowItBelongsTo) {
@@ -103,7 +103,7 @@ TEST_F(InfoWindow, TheRecordingSinkOpensAndFeedsItFromItsOwnThreadOnly) {
   Debug::ShowInfoWindow();
   EXPECT_EQ(DebugWindowClass::window, window);
   EXPECT_TRUE(window->isVisible());
-  EXPECT_EQ(lines(), (header + QStringList{"early", "here", ""}));
+  EXPECT_EQ(lines(), (HEADER + QStringList{"early", "here", ""}));
   EXPECT_EQ(countLogged(L"elsewhere"), 1);
 }
 

@@ -6,9 +6,9 @@ namespace stage {
 
 namespace {
 
-const QColor reported(232, 178, 112);
-const QColor typed(150, 196, 232);
-const QColor answered(200, 200, 200);
+const QColor REPORTED(232, 178, 112);
+const QColor TYPED(150, 196, 232);
+const QColor ANSWERED(200, 200, 200);
 
 }  // namespace
 
@@ -27,13 +27,13 @@ ListenerPanel::ListenerPanel(QWidget* parent)
   layout->addWidget(script_);
   setWidget(content);
   connect(script_, &ScriptLine::executed, this, [this](const QString& script, bool understood) {
-    append(script, typed);
-    append(understood ? "OK" : "false", answered);
+    append(script, TYPED);
+    append(understood ? "OK" : "false", ANSWERED);
   });
 }
 
 void ListenerPanel::report(const QStringList& lines) {
-  for (const QString& line : lines) append("-- " + line, reported);
+  for (const QString& line : lines) append("-- " + line, REPORTED);
 }
 
 void ListenerPanel::append(const QString& line, const QColor& color) {

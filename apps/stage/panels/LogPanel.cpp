@@ -6,7 +6,7 @@ namespace stage {
 
 namespace {
 
-constexpr int mostShown = 5000;
+constexpr int MOST_SHOWN = 5000;
 
 QColor colorOf(int level) {
   switch (level) {
@@ -47,7 +47,7 @@ void LogPanel::refresh() {
     auto* item = new QListWidgetItem(line.text, list_);
     item->setForeground(colorOf(line.level));
   }
-  while (list_->count() > mostShown) delete list_->takeItem(0);
+  while (list_->count() > MOST_SHOWN) delete list_->takeItem(0);
   list_->scrollToBottom();
 }
 

@@ -11,7 +11,7 @@ namespace stage {
 
 namespace {
 
-constexpr int handleRole = Qt::UserRole;
+constexpr int HANDLE_ROLE = Qt::UserRole;
 
 host::Scene& scene() { return host::Application::instance().scene(); }
 
@@ -37,7 +37,7 @@ QList<QTreeWidgetItem*> allItems(const QTreeWidget& tree) {
   return tree.findItems("*", Qt::MatchWildcard | Qt::MatchRecursive);
 }
 
-quint64 handleOf(const QTreeWidgetItem* item) { return item->data(0, handleRole).toULongLong(); }
+quint64 handleOf(const QTreeWidgetItem* item) { return item->data(0, HANDLE_ROLE).toULongLong(); }
 
 }  // namespace
 
@@ -89,7 +89,7 @@ void NodePanel::rebuild() {
 void NodePanel::add(const host::Node& node, QTreeWidgetItem* parent) {
   auto& shown = const_cast<host::Node&>(node);
   auto* item = new QTreeWidgetItem(parent, {QString::fromWCharArray(shown.GetName()), kindOf(shown)});
-  item->setData(0, handleRole, static_cast<quint64>(shown.GetHandle()));
+  item->setData(0, HANDLE_ROLE, static_cast<quint64>(shown.GetHandle()));
   item->setForeground(1, QColor(150, 150, 150));
   for (const auto& child : node.children()) add(*child, item);
 }

@@ -8,7 +8,7 @@ namespace stage {
 
 namespace {
 
-constexpr int mostRemembered = 200;
+constexpr int MOST_REMEMBERED = 200;
 
 }  // namespace
 
@@ -28,7 +28,7 @@ ScriptLine::ScriptLine(QWidget* parent) : QLineEdit(parent) {
 bool ScriptLine::run(const QString& script) {
   history_.removeAll(script);
   history_ << script;
-  if (history_.size() > mostRemembered) history_.removeFirst();
+  if (history_.size() > MOST_REMEMBERED) history_.removeFirst();
   place_ = history_.size();
   const bool understood = ExecuteMAXScriptScript(script.toStdWString().c_str()) != FALSE;
   emit executed(script, understood);

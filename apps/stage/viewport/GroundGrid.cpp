@@ -6,17 +6,17 @@ namespace stage {
 
 namespace {
 
-constexpr int linesEachWay = 60;
-constexpr int linesPerField = 10;
-const QColor fineLine(88, 88, 88);
-const QColor fieldLine(104, 104, 104);
-const QColor axisLine(38, 38, 38);
+constexpr int LINES_EACH_WAY = 60;
+constexpr int LINES_PER_FIELD = 10;
+const QColor FINE_LINE(88, 88, 88);
+const QColor FIELD_LINE(104, 104, 104);
+const QColor AXIS_LINE(38, 38, 38);
 
 float spacingFor(float distance) { return std::pow(10.0F, std::floor(std::log10(std::max(distance, 1e-4F) / 18.0F))); }
 
 QPen penOf(long index) {
-  if (index == 0) return {axisLine, 1.4};
-  return {index % linesPerField == 0 ? fieldLine : fineLine, 1.0};
+  if (index == 0) return {AXIS_LINE, 1.4};
+  return {index % LINES_PER_FIELD == 0 ? FIELD_LINE : FINE_LINE, 1.0};
 }
 
 /// The lines along one axis, around the field that the target is in; `axisPass` draws only the line through the origin.
@@ -24,11 +24,11 @@ void paintLines(QPainter& painter, const host::Viewport& viewport, bool alongX, 
   const host::Camera camera = viewport.camera();
   const QSize size(viewport.width(), viewport.height());
   const float spacing = spacingFor(viewport.distance());
-  const float field = spacing * static_cast<float>(linesPerField);
+  const float field = spacing * static_cast<float>(LINES_PER_FIELD);
   const float middleX = std::round(viewport.target().x / field) * field;
   const float middleY = std::round(viewport.target().y / field) * field;
-  const float reach = spacing * static_cast<float>(linesEachWay);
-  for (int i = -linesEachWay; i <= linesEachWay; ++i) {
+  const float reach = spacing * static_cast<float>(LINES_EACH_WAY);
+  for (int i = -LINES_EACH_WAY; i <= LINES_EACH_WAY; ++i) {
     const float across = (alongX ? middleY : middleX) + static_cast<float>(i) * spacing;
     const long index = std::lround(across / spacing);
     if ((index == 0) != axisPass) continue;

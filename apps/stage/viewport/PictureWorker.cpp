@@ -11,7 +11,7 @@ namespace stage {
 namespace {
 
 /// A picture that is on the screen within this time feels immediate.
-constexpr double secondsForFirst = 0.03;
+constexpr double SECONDS_FOR_FIRST = 0.03;
 
 /// Leaves the processor to the mouse: niceness counts for each thread on Linux.
 void stepBack() { setpriority(PRIO_PROCESS, 0, 10); }
@@ -134,11 +134,11 @@ void PictureWorker::spoil(const Change& change) {
 }
 
 int PictureWorker::firstLevel(int tiles) const {
-  const double pixels = static_cast<double>(tiles) * TileBoard::tileSize * TileBoard::tileSize;
+  const double pixels = static_cast<double>(tiles) * TileBoard::TILE_SIZE * TileBoard::TILE_SIZE;
   const double seconds = pixels * sampleCost_ / static_cast<double>(threads_.size());
-  for (int level = TileBoard::sharp; level > 0; --level) {
+  for (int level = TileBoard::SHARP; level > 0; --level) {
     const int step = TileBoard::quality(level).step;
-    if (seconds / (step * step) <= secondsForFirst) return level;
+    if (seconds / (step * step) <= SECONDS_FOR_FIRST) return level;
   }
   return 0;
 }

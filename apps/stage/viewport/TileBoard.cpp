@@ -8,7 +8,7 @@ namespace stage {
 
 namespace {
 
-constexpr std::array<TileBoard::Quality, TileBoard::qualityCount> qualities = {
+constexpr std::array<TileBoard::Quality, TileBoard::QUALITY_COUNT> QUALITIES = {
     {{8, 1}, {4, 1}, {2, 1}, {1, 1}, {1, 4}, {1, 16}}};
 
 int distance(const QRect& where, const QSize& size) {
@@ -17,15 +17,15 @@ int distance(const QRect& where, const QSize& size) {
 
 }  // namespace
 
-const TileBoard::Quality& TileBoard::quality(int level) { return qualities[static_cast<std::size_t>(level)]; }
+const TileBoard::Quality& TileBoard::quality(int level) { return QUALITIES[static_cast<std::size_t>(level)]; }
 
 void TileBoard::resize(const QSize& picture) {
   size_ = picture;
   tiles_.clear();
-  for (int y = 0; y < picture.height(); y += tileSize) {
-    for (int x = 0; x < picture.width(); x += tileSize) {
+  for (int y = 0; y < picture.height(); y += TILE_SIZE) {
+    for (int x = 0; x < picture.width(); x += TILE_SIZE) {
       Tile tile;
-      tile.where = QRect(x, y, tileSize, tileSize).intersected(QRect(QPoint(), picture));
+      tile.where = QRect(x, y, TILE_SIZE, TILE_SIZE).intersected(QRect(QPoint(), picture));
       tiles_.push_back(tile);
     }
   }
@@ -44,14 +44,14 @@ int TileBoard::touched(const QRect& region) const {
 int TileBoard::spoil(const QRect& region, int level) {
   int count = 0;
   for (Tile& tile : tiles_) {
-    if (tile.next == qualityCount) ++unfinished_;
+    if (tile.next == QUALITY_COUNT) ++unfinished_;
     if (tile.where.intersects(region)) {
       ++count;
       if (!tile.stale) ++stale_;
       tile.next = tile.stale ? std::min(tile.next, level) : level;
       tile.stale = true;
     } else {
-      tile.next = std::min(tile.next, qualityCount - 1);
+      tile.next = std::min(tile.next, QUALITY_COUNT - 1);
     }
   }
   return count;
@@ -59,12 +59,12 @@ int TileBoard::spoil(const QRect& region, int level) {
 
 std::optional<TileBoard::Task> TileBoard::next(Wanted wanted) {
   std::size_t best = tiles_.size();
-  int bestRank = 2 * qualityCount;
+  int bestRank = 2 * QUALITY_COUNT;
   for (std::size_t i = 0; i < tiles_.size(); ++i) {
     const Tile& tile = tiles_[i];
-    if (tile.taken || tile.next == qualityCount) continue;
+    if (tile.taken || tile.next == QUALITY_COUNT) continue;
     if (wanted == Wanted::StaleOnly && !tile.stale) continue;
-    const int rank = tile.next + (tile.stale ? 0 : qualityCount);
+    const int rank = tile.next + (tile.stale ? 0 : QUALITY_COUNT);
     if (rank >= bestRank) continue;
     best = i;
     bestRank = rank;
@@ -81,7 +81,7 @@ void TileBoard::finish(const Task& task) {
   if (tile.stale) --stale_;
   tile.stale = false;
   tile.next = task.level + 1;
-  if (tile.next == qualityCount) --unfinished_;
+  if (tile.next == QUALITY_COUNT) --unfinished_;
 }
 
 }  // namespace stage

@@ -11,17 +11,17 @@ namespace stage {
 /// to the middle.
 class TileBoard {
  public:
-  static constexpr int tileSize = 64;
+  static constexpr int TILE_SIZE = 64;
 
   /// One way to draw a tile: every `step`th pixel of every `step`th line, `samples` of each.
   struct Quality {
     int step;
     int samples;
   };
-  static constexpr int qualityCount = 6;
+  static constexpr int QUALITY_COUNT = 6;
   static const Quality& quality(int level);
   /// The first level at which every pixel is drawn.
-  static constexpr int sharp = 3;
+  static constexpr int SHARP = 3;
 
   struct Task {
     std::size_t tile;

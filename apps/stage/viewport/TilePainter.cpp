@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <tuple>
 #include <vector>
 
@@ -22,7 +23,7 @@ Channels channelsOf(const host::Coverage& coverage) {
 }
 
 QRgb pixelOf(const Channels& c) {
-  const auto byte = [](float value) { return std::clamp(static_cast<int>(value * 255.0F + 0.5F), 0, 255); };
+  const auto byte = [](float value) { return std::clamp(static_cast<int>(std::floor(value * 255.0F + 0.5F)), 0, 255); };
   return qRgba(byte(c[0]), byte(c[1]), byte(c[2]), byte(c[3]));
 }
 
@@ -66,7 +67,7 @@ TilePainter::Tracer::Tracer(const host::RayScene& scene, const host::Camera& vie
     : camera(view), options(optionsFor(picture, samples)), tracer(scene, camera, options) {}
 
 TilePainter::TilePainter(const host::RayScene& scene, const host::Camera& camera, const QSize& picture) {
-  for (int level = 0; level < TileBoard::qualityCount; ++level) {
+  for (int level = 0; level < TileBoard::QUALITY_COUNT; ++level) {
     const int samples = TileBoard::quality(level).samples;
     if (tracers_.count(samples) != 0) continue;
     tracers_.emplace(std::piecewise_construct, std::forward_as_tuple(samples),
@@ -95,7 +96,7 @@ QImage TilePainter::paintCoarse(const QRect& where, int step, const std::atomic<
   const int columns = (where.width() - 1) / step + 2;
   const int rows = (where.height() - 1) / step + 2;
   std::vector<Channels> samples;
-  samples.reserve(static_cast<std::size_t>(columns * rows));
+  samples.reserve(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows));
   for (int row = 0; row < rows; ++row) {
     if (stop) return {};
     for (int column = 0; column < columns; ++column) {

@@ -99,8 +99,6 @@ void buildScene(host::Scene& scene) {
   second->SetMtl(scaled.get());
 }
 
-constexpr int SceneFile::CODES[];
-
 TEST_F(SceneFile, OpensWhatWasSavedDownToTheSameBytes) {
   buildScene(scene());
   ASSERT_EQ(host::saveScene(file()), "");

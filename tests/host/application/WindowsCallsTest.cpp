@@ -79,7 +79,7 @@ TEST(WindowsCalls, SplitsPathsIntoTheirFourParts) {
   EXPECT_EQ(split(L"/r.d/name"), L"|/r.d/|name|");
   EXPECT_EQ(split(L"C:\\r\\"), L"C:|\\r\\||");
   EXPECT_EQ(split(L""), L"|||");
-  EXPECT_EQ(split(std::wstring(400, L'n') + L".x").size(), 255u + 5u);
+  EXPECT_EQ(split(std::wstring(400, L'n') + L".x").size(), 255U + 5U);
   _wsplitpath(L"C:\\r\\a.b", nullptr, nullptr, nullptr, nullptr);
 }
 

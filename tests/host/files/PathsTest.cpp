@@ -20,7 +20,7 @@ TEST(Paths, TextSurvivesTheWayThereAndBackWhateverTheLocale) {
   for (const std::string bytes :
        {"\xE4x", "\xE4\xBA", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF"}) {
     const std::wstring wide = toWide(bytes);
-    EXPECT_EQ(static_cast<std::uint32_t>(wide[0]), 0xDC00u + static_cast<unsigned char>(bytes[0]));
+    EXPECT_EQ(static_cast<std::uint32_t>(wide[0]), 0xDC00U + static_cast<unsigned char>(bytes[0]));
     EXPECT_EQ(toUtf8(wide), bytes);
   }
   EXPECT_EQ(toUtf8(std::wstring(1, static_cast<wchar_t>(0xD800))), "\xEF\xBF\xBD");

@@ -8,11 +8,11 @@
 
 namespace {
 
-constexpr char triangle[] = "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n";
+constexpr char TRIANGLE[] = "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n";
 
 TEST(MeshCache, SharesAMeshAndLetsItDieWithItsLastUser) {
   const support::TemporaryFolder folder;
-  const auto file = folder.write("one.vrmesh", triangle);
+  const auto file = folder.write("one.vrmesh", TRIANGLE);
   host::MeshCache cache(host::readMeshFile);
   auto first = cache.get(file).mesh;
   ASSERT_TRUE(first);
@@ -25,7 +25,7 @@ TEST(MeshCache, SharesAMeshAndLetsItDieWithItsLastUser) {
 
 TEST(MeshCache, ReadsAFileAnewOnceItChanged) {
   const support::TemporaryFolder folder;
-  const auto file = folder.write("one.vrmesh", triangle);
+  const auto file = folder.write("one.vrmesh", TRIANGLE);
   host::MeshCache cache(host::readMeshFile);
   const auto first = cache.get(file).mesh;
   EXPECT_EQ(host::writeMeshFile(shapes::square(), file), "");
@@ -42,7 +42,7 @@ TEST(MeshCache, SaysWhyAFileCannotBeReadUntilItIsMended) {
   const auto file = folder.write("one.vrmesh", "a real proxy of another program");
   EXPECT_NE(cache.get(file).error.find("not a mesh"), std::string::npos);
   EXPECT_NE(cache.get(file).error.find("not a mesh"), std::string::npos);
-  folder.write("one.vrmesh", triangle);
+  folder.write("one.vrmesh", TRIANGLE);
   EXPECT_TRUE(cache.get(file).mesh);
 }
 

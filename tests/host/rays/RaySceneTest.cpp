@@ -36,8 +36,8 @@ Ray ray(const Point3& from, const Point3& direction) {
 
 /// Nodes are never looked into, so any two addresses do.
 char places[2];
-INode* const firstNode = reinterpret_cast<INode*>(&places[0]);
-INode* const secondNode = reinterpret_cast<INode*>(&places[1]);
+INode* const FIRST_NODE = reinterpret_cast<INode*>(&places[0]);
+INode* const SECOND_NODE = reinterpret_cast<INode*>(&places[1]);
 
 TEST(RayScene, MeasuresAScaledAndTurnedInstanceAlongARayOfAnyLength) {
   ViewItem item = squareAt({});
@@ -80,10 +80,10 @@ TEST(RayScene, CarriesSmoothNormalsThroughUnevenScaleAndMirrors) {
 
 TEST(RayScene, LooksThroughWhatTheFilterRefuses) {
   RayScene scene;
-  scene.setItems({squareAt({0, 0, 3}, firstNode), squareAt({0, 0, 2}, firstNode), squareAt({0, 0, 1}, secondNode)});
+  scene.setItems({squareAt({0, 0, 3}, FIRST_NODE), squareAt({0, 0, 2}, FIRST_NODE), squareAt({0, 0, 1}, SECOND_NODE)});
   const Ray down = ray({0.5F, 0.2F, 10}, {0, 0, -1});
   EXPECT_EQ(scene.intersect(down)->item, 0U);
-  const auto hit = scene.intersect(down, [](INode* node) { return node == secondNode; });
+  const auto hit = scene.intersect(down, [](INode* node) { return node == SECOND_NODE; });
   ASSERT_TRUE(hit);
   EXPECT_EQ(hit->item, 2U);
   EXPECT_FLOAT_EQ(hit->distance, 9.0F);
@@ -92,7 +92,7 @@ TEST(RayScene, LooksThroughWhatTheFilterRefuses) {
 
 TEST(RayScene, FindsWhatWasMovedInItsNewPlaceOnly) {
   RayScene scene;
-  scene.setItems({squareAt({0, 0, 1}, firstNode), squareAt({0, 0, 2}, secondNode)});
+  scene.setItems({squareAt({0, 0, 1}, FIRST_NODE), squareAt({0, 0, 2}, SECOND_NODE)});
   const Ray down = ray({0.5F, 0.2F, 10}, {0, 0, -1});
   const auto itemSeen = [&](const Ray& from) {
     const auto hit = scene.intersect(from);
@@ -106,7 +106,7 @@ TEST(RayScene, FindsWhatWasMovedInItsNewPlaceOnly) {
   away.SetTrans({0, 0, 4});
   scene.moveItem(1, away);
   EXPECT_EQ(itemSeen(down), 1);
-  EXPECT_EQ(scene.intersect(down, [](INode* node) { return node == firstNode; })->item, 0U);
+  EXPECT_EQ(scene.intersect(down, [](INode* node) { return node == FIRST_NODE; })->item, 0U);
   EXPECT_TRUE(scene.occluded(down, 6.5F));
   // Flattened to nothing it is not there, and it may come back.
   scene.moveItem(1, Matrix3(FALSE));

@@ -187,24 +187,24 @@ TEST_F(Undo, AnnouncesNodesThatLeaveAndEnterByUndoRedoAndCancel) {
 /// Tells when it ends.
 class CountedObject : public host::CircleShape {
  public:
-  ~CountedObject() override { ++ended; }
-  static int ended;
+  ~CountedObject() override { ++ended_; }
+  static int ended_;
 };
-int CountedObject::ended = 0;
+int CountedObject::ended_ = 0;
 
 TEST_F(Undo, KeepsAnObjectAliveAfterItsLastNodeOnlyWhileAStepNeedsIt) {
-  CountedObject::ended = 0;
+  CountedObject::ended_ = 0;
   auto* object = new CountedObject;
   Node* first = scene().create(object);
   Node* second = scene().create(object);
   scene().remove(*first);
-  EXPECT_EQ(CountedObject::ended, 0);
+  EXPECT_EQ(CountedObject::ended_, 0);
   theHold.Begin();
   scene().remove(*second);
   theHold.Accept(L"delete");
-  EXPECT_EQ(CountedObject::ended, 0);
+  EXPECT_EQ(CountedObject::ended_, 0);
   undo().clear();
-  EXPECT_EQ(CountedObject::ended, 1);
+  EXPECT_EQ(CountedObject::ended_, 1);
 }
 
 }  // namespace

@@ -59,7 +59,8 @@ class Picking : public testing::Test {
 };
 
 /// Accepts what can be stood on, but for one node; counts how often it is asked.
-struct Filtering : PickNodeCallback {
+class Filtering : public PickNodeCallback {
+ public:
   explicit Filtering(INode* refused = nullptr) : refused_(refused) {}
   BOOL Filter(INode* node) override {
     ++asked;
@@ -67,6 +68,8 @@ struct Filtering : PickNodeCallback {
     return node != refused_ && object->SuperClassID() == GEOMOBJECT_CLASS_ID ? TRUE : FALSE;
   }
   int asked = 0;
+
+ private:
   INode* refused_;
 };
 

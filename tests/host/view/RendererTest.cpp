@@ -47,8 +47,8 @@ int brightness(const QImage& picture, const Camera& camera, const Point3& world)
 }
 
 /// What stands at 30 throws its shadow here, opposite to the sun.
-const Point3 inShadow(20.2F, 20.2F, 0);
-const Point3 inTheOpen(-20.2F, -20.2F, 0);
+const Point3 IN_SHADOW(20.2F, 20.2F, 0);
+const Point3 IN_THE_OPEN(-20.2F, -20.2F, 0);
 
 double meanDifference(const QImage& a, const QImage& b) {
   double sum = 0.0;
@@ -87,10 +87,10 @@ TEST(Renderer, CatchesTheShadowOnTheGroundAndOnlyThere) {
   RenderOptions options = small();
   const Camera camera = fromAbove();
   const QImage picture = host::render(scene, camera, options);
-  EXPECT_LT(brightness(picture, camera, inShadow) + 40, brightness(picture, camera, inTheOpen));
+  EXPECT_LT(brightness(picture, camera, IN_SHADOW) + 40, brightness(picture, camera, IN_THE_OPEN));
   options.ground = false;
   const QImage bare = host::render(scene, camera, options);
-  EXPECT_NEAR(brightness(bare, camera, inShadow), brightness(bare, camera, inTheOpen), 12);
+  EXPECT_NEAR(brightness(bare, camera, IN_SHADOW), brightness(bare, camera, IN_THE_OPEN), 12);
 }
 
 TEST(Renderer, LeavesTheBackgroundTransparentExceptForShadow) {
@@ -104,8 +104,8 @@ TEST(Renderer, LeavesTheBackgroundTransparentExceptForShadow) {
     return qAlpha(picture.pixel(static_cast<int>(place->x()), static_cast<int>(place->y())));
   };
   EXPECT_EQ(alphaAt({0, 0, 30}), 255);
-  EXPECT_NEAR(alphaAt(inShadow), 120, 60);
-  EXPECT_LT(alphaAt(inTheOpen), 12);
+  EXPECT_NEAR(alphaAt(IN_SHADOW), 120, 60);
+  EXPECT_LT(alphaAt(IN_THE_OPEN), 12);
   EXPECT_EQ(qAlpha(picture.pixel(0, 0)), 0);
 }
 

@@ -28,7 +28,7 @@ Segments segmentsOn(unsigned inside, unsigned axis, bool upper) {
   const auto name = [&](std::uint8_t edge) -> int {
     const auto [a, b] = MarchingCubes::corners(edge);
     if (((a & axis) != 0) != upper || ((b & axis) != 0) != upper) return -1;
-    return (a & ~axis) * 8 + (b & ~axis);
+    return static_cast<int>((a & ~axis) * 8 + (b & ~axis));
   };
   Segments segments;
   for (const MarchingCubes::Loop& loop : MarchingCubes::instance().loops(inside)) {

@@ -51,8 +51,8 @@ TEST(Unwrap, OpensARoundClothAlongOneSeamAndTearsNoTriangleAcrossIt) {
     for (std::size_t i = 0; i < 3; ++i) {
       const auto a = triangle[i], b = triangle[(i + 1) % 3];
       const double edge = length(toVec(mesh.positions[a]) - toVec(mesh.positions[b]));
-      const double across = static_cast<double>(mesh.texCoords[a].u - mesh.texCoords[b].u);
-      const double along = static_cast<double>(mesh.texCoords[a].v - mesh.texCoords[b].v);
+      const auto across = static_cast<double>(mesh.texCoords[a].u - mesh.texCoords[b].u);
+      const auto along = static_cast<double>(mesh.texCoords[a].v - mesh.texCoords[b].v);
       EXPECT_LT(std::hypot(across, along) * TILE, 1.6 * edge + 0.01);
     }
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <algorithm>
 #include <array>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -70,11 +71,10 @@ class MeshEdges {
   /// Whether every edge has as many triangles on one side as on the other, so that none is left open. More than one on
   /// each is no hole: sheets touch where vertices nearer than the file's precision have become one.
   bool closed() const {
-    for (const auto& [edge, count] : directed_) {
-      const auto back = directed_.find({edge.second, edge.first});
-      if (back == directed_.end() || back->second != count) return false;
-    }
-    return true;
+    return std::all_of(directed_.begin(), directed_.end(), [this](const auto& one) {
+      const auto back = directed_.find({one.first.second, one.first.first});
+      return back != directed_.end() && back->second == one.second;
+    });
   }
 
  private:

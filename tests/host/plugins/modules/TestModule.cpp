@@ -96,7 +96,10 @@ const char* ModuleResourceScript() {
 
 const MCHAR* LibDescription() { return L"A module for tests"; }
 int LibNumberClasses() { return 2; }
-ClassDesc* LibClassDesc(int index) { return index == 0 ? MODULE_DESCRIPTOR : nullptr; }
+ClassDesc* LibClassDesc(int index) {
+  if (index != 0) return nullptr;
+  return MODULE_DESCRIPTOR;
+}
 ULONG LibVersion() { return MODULE_VERSION; }
 int LibInitialize() {
   note(L"initialized");
