@@ -10,22 +10,25 @@ constexpr wchar_t SEPARATOR[] = L"\\";
 /// Between the ids of a clothing and a pose in the names of files.
 constexpr wchar_t COMBINED[] = L"_";
 
-constexpr wchar_t PREVIEWS_FOLDER[] = L"previews";
-constexpr wchar_t SKIN_FOLDER[] = L"skin";
-constexpr wchar_t MAPS_FOLDER[] = L"maps";
-constexpr wchar_t GLOBAL_ASSETS_FOLDER[] = L"global_assets";
+// Joined as they stand to the folder before them.
+constexpr wchar_t DESCRIPTION_FILE[] = L"\\zorvel.xml";
+constexpr wchar_t PREVIEWS_FOLDER[] = L"\\previews";
+/// What follows is an id and the ending of pictures.
+constexpr wchar_t CLOTH_PREVIEW[] = L"\\previews\\preview_";
+constexpr wchar_t SKIN_FOLDER[] = L"\\skin";
+constexpr wchar_t SKIN_LIBRARY_FILE[] = L"\\skin\\skin.mat";
+constexpr wchar_t LIBRARY_FILE[] = L"\\materials.mat";
+constexpr wchar_t PROPS_LIBRARY_FILE[] = L"\\props.mat";
+constexpr wchar_t GLOBAL_ASSETS_FOLDER[] = L"\\global_assets\\";
+constexpr wchar_t GLOBAL_LIBRARY_FILE[] = L"\\global_assets\\materials.mat";
+constexpr wchar_t CLOTH_OVERLAY_FILE[] = L"\\overlay110x330.png";
+constexpr wchar_t ELEMENT_OVERLAY_FILE[] = L"\\overlay100x300.png";
+constexpr wchar_t BODY_MESH_FILE[] = L"\\pose.vrmesh";
+constexpr wchar_t ASSET_MESH_FILE[] = L"\\asset.vrmesh";
+constexpr wchar_t ASSET_PICTURE_FILE[] = L"\\preview.png";
 
-constexpr wchar_t DESCRIPTION_FILE[] = L"zorvel.xml";
-constexpr wchar_t CLOTH_OVERLAY_FILE[] = L"overlay110x330.png";
-constexpr wchar_t ELEMENT_OVERLAY_FILE[] = L"overlay100x300.png";
-constexpr wchar_t LIBRARY_FILE[] = L"materials.mat";
-constexpr wchar_t SKIN_LIBRARY_FILE[] = L"skin.mat";
-constexpr wchar_t PROPS_LIBRARY_FILE[] = L"props.mat";
-constexpr wchar_t BODY_MESH_FILE[] = L"pose.vrmesh";
-constexpr wchar_t ASSET_MESH_FILE[] = L"asset.vrmesh";
+constexpr wchar_t MAPS_FOLDER[] = L"maps\\";
 constexpr wchar_t MESH_ENDING[] = L".vrmesh";
-constexpr wchar_t ASSET_PICTURE_FILE[] = L"preview.png";
-constexpr wchar_t PREVIEW_PREFIX[] = L"preview_";
 constexpr wchar_t PICTURE_ENDING[] = L".png";
 
 constexpr wchar_t ELEMENT_ZORVEL[] = L"zorvel";
