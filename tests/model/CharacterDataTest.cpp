@@ -75,7 +75,7 @@ TEST_F(CharacterDataTest, MatrixRowsNeedBothIdsAndReadNumbersLeniently) {
   fill(&row, {{L"poseID", L"p"},
               {L"xpos", L"12.5cm"},
               {L"ypos", L" -1e2"},
-              {L"zpos", L"none"},
+              {L"zpos", L"-1e999"},
               {L"xrot", L"1e999"},
               {L"yrot", L"1,5"}});
   m_character.AddAssetMatrixElement(&row);
@@ -88,11 +88,15 @@ TEST_F(CharacterDataTest, MatrixRowsNeedBothIdsAndReadNumbersLeniently) {
   ASSERT_NE(found, nullptr);
   EXPECT_EQ(found->xpos, 12.5F);
   EXPECT_EQ(found->ypos, -100.0F);
-  EXPECT_EQ(found->zpos, 0.0F);
+  EXPECT_EQ(found->zpos, -HUGE_VALF);
   EXPECT_EQ(found->xrot, HUGE_VALF);
   EXPECT_EQ(found->yrot, 1.0F);
   EXPECT_EQ(found->zrot, 0.0F);
   EXPECT_EQ(m_character.FindAssetMatrixElement(nullptr, L"a"), nullptr);
+  m_character.AddAssetMatrixElement(L"p", L"a", 1, 0, 0, 0, 0, 0);
+  m_character.AddAssetMatrixElement(L"p", L"A", 2, 0, 0, 0, 0, 0);
+  EXPECT_EQ(m_character.FindAssetMatrixElement(L"p", L"A")->xpos, 2.0F) << "added after the first lookup";
+  EXPECT_EQ(m_character.FindAssetMatrixElement(L"p", L"a")->xpos, 12.5F) << "the first of several counts";
 }
 
 TEST_F(CharacterDataTest, SortsClothsByCodeUnitsAndKeepsEqualOnesInOrder) {
@@ -190,6 +194,7 @@ TEST_F(CharacterDataTest, GlobalAssetsAreReachedThroughTheCharactersOwn) {
   DataContainer* const global = addGlobalAsset({{L"id", L"g"}});
   DataContainer* const category = add(m_character, CATEGORIES, {{L"id", L"t"}});
   add(m_character, ASSETS, {{L"id", L"other"}, {L"type", L"global"}});
+  add(m_character, ASSETS, {{L"id", L"own"}, {L"type", L"common"}, {L"globalID", L"g"}});
   DataContainer* const local =
       add(m_character, ASSETS, {{L"id", L"a"}, {L"type", L"global"}, {L"globalID", L"g"}, {L"category", L"t"}});
   DataContainer* const plain = add(m_character, ASSETS, {{L"id", L"b"}});
