@@ -61,13 +61,13 @@ TEST_F(SettingsTest, LoadsWithoutAPathWhenTheFileCannotBeRead) {
 
 TEST_F(SettingsTest, TheFileEndsBeforeACharacterBeyondOneByteAndMemoryKeepsThePathWhole) {
   Settings::LoadSettings();
-  EXPECT_TRUE(Settings::StorePath(L"D:\\h\u00E4user\\\u4EBA\\x"));
-  EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\\\u4EBA\\x");
-  EXPECT_EQ(appData_.folder().read("zorvel.ini"), "D:\\h\xE4user\\");
+  EXPECT_TRUE(Settings::StorePath(L"D:\\h\u00E4user\u00FF\u0100\\x"));
+  EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\u00FF\u0100\\x");
+  EXPECT_EQ(appData_.folder().read("zorvel.ini"), "D:\\h\xE4user\xFF");
   expectLogged(DEBUG_INFO, appData_.folder().wide() + L"\\zorvel.ini");
   EXPECT_FALSE(Settings::StorePath(nullptr));
   EXPECT_TRUE(Settings::LoadFromSettingsFile());
-  EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\\");
+  EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\u00FF");
 }
 
 }  // namespace ZORVEL

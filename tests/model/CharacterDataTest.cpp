@@ -75,7 +75,7 @@ TEST_F(CharacterDataTest, MatrixRowsNeedBothIdsAndReadNumbersLeniently) {
   fill(&row, {{L"poseID", L"p"},
               {L"xpos", L"12.5cm"},
               {L"ypos", L" -1e2"},
-              {L"zpos", L"none"},
+              {L"zpos", L"-1e999"},
               {L"xrot", L"1e999"},
               {L"yrot", L"1,5"}});
   character_.AddAssetMatrixElement(&row);
@@ -88,11 +88,15 @@ TEST_F(CharacterDataTest, MatrixRowsNeedBothIdsAndReadNumbersLeniently) {
   ASSERT_NE(found, nullptr);
   EXPECT_EQ(found->xpos, 12.5F);
   EXPECT_EQ(found->ypos, -100.0F);
-  EXPECT_EQ(found->zpos, 0.0F);
+  EXPECT_EQ(found->zpos, -HUGE_VALF);
   EXPECT_EQ(found->xrot, HUGE_VALF);
   EXPECT_EQ(found->yrot, 1.0F);
   EXPECT_EQ(found->zrot, 0.0F);
   EXPECT_EQ(character_.FindAssetMatrixElement(nullptr, L"a"), nullptr);
+  character_.AddAssetMatrixElement(L"p", L"a", 1, 0, 0, 0, 0, 0);
+  character_.AddAssetMatrixElement(L"p", L"A", 2, 0, 0, 0, 0, 0);
+  EXPECT_EQ(character_.FindAssetMatrixElement(L"p", L"A")->xpos, 2.0F) << "added after the first lookup";
+  EXPECT_EQ(character_.FindAssetMatrixElement(L"p", L"a")->xpos, 12.5F) << "the first of several counts";
 }
 
 TEST_F(CharacterDataTest, SortsClothsByCodeUnitsAndKeepsEqualOnesInOrder) {
@@ -190,6 +194,7 @@ TEST_F(CharacterDataTest, GlobalAssetsAreReachedThroughTheCharactersOwn) {
   DataContainer* const global = addGlobalAsset({{L"id", L"g"}});
   DataContainer* const category = add(character_, CATEGORIES, {{L"id", L"t"}});
   add(character_, ASSETS, {{L"id", L"other"}, {L"type", L"global"}});
+  add(character_, ASSETS, {{L"id", L"own"}, {L"type", L"common"}, {L"globalID", L"g"}});
   DataContainer* const local =
       add(character_, ASSETS, {{L"id", L"a"}, {L"type", L"global"}, {L"globalID", L"g"}, {L"category", L"t"}});
   DataContainer* const plain = add(character_, ASSETS, {{L"id", L"b"}});

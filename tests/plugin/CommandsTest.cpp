@@ -56,13 +56,18 @@ class CommandFacade : public support::LoadedRepositoryFixture {
 
 TEST_F(CommandFacade, AsksForTheRepositoryOnceAndKeepsItsFolderWithTheSeparator) {
   Data2::Clear();
+  Selection2::AddAsset(1010);
   Settings::FreeSettings();
   std::filesystem::remove_all(std::filesystem::path(std::getenv("LOCALAPPDATA")) / "zorvel.ini");
   EXPECT_FALSE(Commands::ValidateData()) << "cancelled";
+  EXPECT_STREQ(Selection2::GetCharacter(), L"") << "ids of another repository";
+  EXPECT_EQ(Selection2::GetAssetCount(), 0);
   expectLogged(ZORVEL::DEBUG_INFO, L"User selected no directory");
+  answer(repository().folder().path() / "none.xml");
+  EXPECT_FALSE(Commands::ValidateData()) << "there is no such file";
   answer(repository().folder().path() / "zorvel.xml");
   EXPECT_TRUE(Commands::ValidateData());
-  EXPECT_EQ(asked_, 2);
+  EXPECT_EQ(asked_, 3);
   const std::wstring path = Settings::GetPath();
   EXPECT_EQ(path.back(), L'\\');
   EXPECT_NE(anna(), nullptr);
@@ -70,7 +75,7 @@ TEST_F(CommandFacade, AsksForTheRepositoryOnceAndKeepsItsFolderWithTheSeparator)
   EXPECT_EQ(path, Settings::GetPath()) << "read back from the file";
   clearLog();
   EXPECT_TRUE(Commands::ValidateData());
-  EXPECT_EQ(asked_, 2);
+  EXPECT_EQ(asked_, 3);
   EXPECT_EQ(countLogged(L"Parser2 checks repository at:"), 0);
   clearLog();
 }

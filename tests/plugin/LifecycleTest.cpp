@@ -2,6 +2,7 @@
 #include <max.h>
 
 #include "core/Settings.h"
+#include "host/actions/ActionManager.h"
 #include "host/application/Application.h"
 #include "host/modes/CommandModes.h"
 #include "host/scripting/ScriptRunner.h"
@@ -48,6 +49,19 @@ TEST_F(Lifecycle, StartsWithoutItsActionTableAndStopsMoreThanOnce) {
   EXPECT_EQ(plugin->Control(7), 0U);
   EXPECT_EQ(plugin->Save(nullptr), IO_OK);
   plugin->DeleteThis();
+}
+
+TEST_F(Lifecycle, HandsItsActionsBackWhenItStops) {
+  const ActionTableId table = 0x0B250BC2;
+  host::ActionManager& actions = host::Application::instance().actions();
+  actions.RegisterActionTable(LibClassDesc(0)->GetActionTable(0));
+  auto* plugin = static_cast<GUP*>(LibClassDesc(0)->Create());
+  plugin->Start();
+  EXPECT_TRUE(actions.isActive(table));
+  plugin->Stop();
+  EXPECT_FALSE(actions.isActive(table)) << "its callback has gone";
+  plugin->DeleteThis();
+  actions.removeTable(table);
 }
 
 TEST_F(Lifecycle, StopsCleanlyWithoutEverHavingStarted) {

@@ -73,9 +73,9 @@ TEST_F(ParseObserverTest, IsToldWhatIsRefusedSkippedAndDropped) {
 <character id='c' folder='none'/>
 <character id='d' folder='noskin'><never/></character>
 <character id='a' folder='anna' globalMaps='x' generalTextureFolder=''>
- <skin/><skins name='Skin'><Skin/></skins><skins name='s'/>
+ <skin/><skins name='Skin'><Skin/></skins><skins name='s'/><skins name=''/>
  <cloth name=''><cloth/></cloth>
- <cloth name='Clothing'><clothing id='k0' available='available'><material/></clothing><clothing id='k1'><style/></clothing></cloth>
+ <cloth name='Clothing'><clothing id='k0' available='available' name='Z'><material/></clothing><clothing id='k1'><style/></clothing></cloth>
  <cloth><clothing id='k2'/></cloth>
  <poses><pose id='p'><any/></pose><pose2/></poses>
  <categories name='1'><cat/></categories><categories name='2'/>
@@ -101,7 +101,7 @@ TEST_F(ParseObserverTest, IsToldWhatIsRefusedSkippedAndDropped) {
       {Kind::ListNameExtended, L"8:43 skins||s|"},
       {Kind::ElementSkipped, L"9:17 cloth|cloth||"},
       {Kind::AttributeOfTheSystem, L"10:25 clothing|available|available|"},
-      {Kind::ElementSkipped, L"10:105 style|clothing||"},
+      {Kind::ElementSkipped, L"10:114 style|clothing||"},
       {Kind::ElementSkipped, L"12:35 pose2|poses||"},
       {Kind::ElementSkipped, L"13:23 cat|categories||"},
       {Kind::ElementSkipped, L"14:10 material|assets||"},

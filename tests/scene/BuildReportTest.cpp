@@ -42,10 +42,11 @@ class BuildReports : public support::LoadedRepositoryFixture {
   }
   void remove(const char* file) const { std::filesystem::remove_all(repository().folder().path() / file); }
   /// The sentences, with the repository's root as "R:".
-  Lines findings() const {
+  Lines findings() const { return findingsOf(report()); }
+  Lines findingsOf(const ZORVEL::BuildReport& report) const {
     Lines lines;
     const std::string root = host::toUtf8(repository().root());
-    for (const ZORVEL::BuildFinding& finding : BuildFindings::Describe(report())) {
+    for (const ZORVEL::BuildFinding& finding : BuildFindings::Describe(report)) {
       std::string line = host::toUtf8(finding.text);
       for (std::size_t at = line.find(root); at != std::string::npos; at = line.find(root)) {
         line.replace(at, root.size(), "R:");
@@ -109,8 +110,9 @@ TEST_F(BuildReports, SayWhyNothingWasBuilt) {
                {Selection2::SetCloth, L"k1", "clothing"},
                {Selection2::SetStyle, L"k1m1", "style of the clothing"},
                {Selection2::SetSkin, L"s1", "skin"}};
+  for (const auto& one : cases) one.set(nullptr);
+  // Of several the first is told.
   for (const auto& one : cases) {
-    one.set(nullptr);
     EXPECT_EQ(build(), nullptr);
     EXPECT_EQ(findings(), Lines{std::string("Nothing was built: no ") + one.what + " is chosen."});
     one.set(L"x9");
@@ -152,7 +154,9 @@ TEST_F(BuildReports, NameEveryElementThatIsLeftOutAndWhy) {
       {{{R"(<asset id="a2"/>)", R"(<asset id="a9"/>)"}},
        {R"(Mandatory asset (a9): left out: the character has no asset with the id "a9".)"}},
       {{{R"(<asset id="a2"/>)", R"(<asset id="a5"/>)"}, {R"( globalID="g1")", ""}},
-       {R"(Mandatory asset (a5): left out: it names no shared asset: it has no "globalID".)"}}};
+       {R"(Mandatory asset (a5): left out: it names no shared asset: it has no "globalID".)"}},
+      {{{R"(<asset id="a2"/>)", R"(<asset id="a5"/>)"}, {R"(folder="bench")", ""}},
+       {R"(Mandatory asset "Bench" (g1): left out: it has no "folder".)"}}};
   for (const auto& one : cases) {
     repository().folder().write("zorvel.xml", whole);
     for (const auto& edit : one.edits) repository().edit(edit.first, edit.second);
@@ -182,17 +186,41 @@ TEST_F(BuildReports, NameWhatTheHostOrTheSelectionDoesNotGive) {
             R"(R:\anna\standing\pose.vrmesh.)");
 }
 
+TEST_F(BuildReports, NameWhatOnlyOtherHostsDo) {
+  BuiltPiece piece;
+  piece.element = {ElementKind::Clothing, L"k1", L"Summer", L"k1m1"};
+  piece.material = {MaterialState::NameOfMap,
+                    L"Blue",
+                    {{L"a.mat", ZORVEL::LibraryState::NameOfMap}, {L"b.mat", ZORVEL::LibraryState::WithoutName}},
+                    {L"x.png", L"y.png"}};
+  ZORVEL::BuildReport report;
+  report.pieces = {piece};
+  report.isGrouped = false;
+  report.isOnLayer = false;
+  EXPECT_THAT(findingsOf(report),
+              ElementsAre(R"(Clothing "Summer" (k1): the material "Blue" is the name of a texture map; searched: )"
+                          "a.mat (has a texture map of that name), b.mat.",
+                          R"(Clothing "Summer" (k1): the texture x.png is missing.)",
+                          R"(Clothing "Summer" (k1): the texture y.png is missing.)",
+                          "The character could not be grouped.", "The character's layer could not be made."));
+  EXPECT_EQ(ZORVEL::BuildSummary::Describe(report),
+            L"Built without: material of Summer, textures of Summer, group, layer");
+}
+
 TEST_F(BuildReports, NameMeshesAndTexturesThatAreNotOnDiskAndAskForSharedOnesNoMore) {
   remove("anna/standing/pose.vrmesh");
   repository().folder().write("anna/seat/asset.vrmesh", "");
   remove("maps/blue.png");
+  remove("anna/summer/k1_p1.vrmesh");
+  repository().folder().makeFolder("anna/summer/k1_p1.vrmesh");
   build();
   EXPECT_THAT(findings(),
               ElementsAre(R"(Body "Standing" (p1): the mesh R:\anna\standing\pose.vrmesh is missing.)",
                           R"(Mandatory asset "Seat" (a2): the mesh R:\anna\seat\asset.vrmesh cannot be read.)",
+                          R"(Clothing "Summer" (k1): the mesh R:\anna\summer\k1_p1.vrmesh cannot be read.)",
                           R"(Clothing "Summer" (k1): the texture R:maps\blue.png is missing.)"));
   EXPECT_THAT(kinds(), Each(FindingKind::Bare));
-  EXPECT_EQ(summary(), "Built without: mesh of body, mesh of Seat, textures of Summer");
+  EXPECT_EQ(summary(), "Built without: mesh of body, mesh of Seat, mesh of Summer, textures of Summer");
   build();
   EXPECT_THAT(findings(), IsEmpty());
   for (const BuiltPiece& piece : report().pieces) {

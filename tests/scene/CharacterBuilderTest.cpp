@@ -9,7 +9,9 @@
 #include "host/scene/Scene.h"
 #include "host/services/Prompts.h"
 #include "host/services/UndoStack.h"
+#include "model/CharacterData.h"
 #include "model/Data2.h"
+#include "model/Fields.h"
 #include "model/Selection2.h"
 #include "tests/support/LoadedRepositoryFixture.h"
 
@@ -64,6 +66,9 @@ TEST_F(CharacterBuild, MakesEveryPieceWithItsFileMaterialPropertiesLayerAndGroup
   EXPECT_STREQ(head->GetName(), L"ZORVEL Character Anna");
   EXPECT_EQ(property(head, L"ZORVEL_GROUP"), L"TRUE");
   EXPECT_NE(head->IsGroupHead(), FALSE);
+  const ZORVEL::CharacterData* anna = ZORVEL::Data2::GetCharacter(L"c1");
+  EXPECT_EQ(ZORVEL::Fields::TextOrEmpty(anna, L"generalTextureFolder"), repository().root() + L"\\anna\\maps\\");
+  EXPECT_EQ(ZORVEL::Fields::TextOrEmpty(anna, L"globalMaps"), repository().root() + L"maps\\");
   EXPECT_EQ(head->GetParentNode(), GetCOREInterface()->GetRootNode());
 
   const std::vector<std::vector<std::wstring>> expected = {
@@ -92,14 +97,15 @@ TEST_F(CharacterBuild, MakesEveryPieceWithItsFileMaterialPropertiesLayerAndGroup
 }
 
 TEST_F(CharacterBuild, PlacesParentGroupAndAssetsAsComputedByHand) {
-  SetMasterUnitInfo(UNITS_INCHES, 1.0F);
+  SetMasterUnitInfo(UNITS_INCHES, 2.0F);
   addAsset(L"a1");
   INode* parent = build();
-  const float f = 1.0F / 2.54F;
+  // Two inches are a unit, and the number of inches is taken twice; that is agreed.
+  const float f = 2.0F * 2.0F / 5.08F;
   expectNear(parent->GetNodeTM(0), Matrix3({f, 0, 0}, {0, f, 0}, {0, 0, f}, {0, 0, 0}));
   expectNear(parent->GetParentNode()->GetNodeTM(0), Matrix3(TRUE));
-  // A quarter turn about X takes y to z and z to -y, then 10 cm along X.
-  expectNear(proxies()[3]->GetNodeTM(0), Matrix3({f, 0, 0}, {0, 0, f}, {0, -f, 0}, {10 * f, 0, 0}));
+  // A quarter turn about X takes y to z and z to -y, then one about Y z to x and x to -z, then one about Z as below.
+  expectNear(proxies()[3]->GetNodeTM(0), Matrix3({0, 0, -f}, {0, f, 0}, {f, 0, 0}, {10 * f, 0, 0}));
   // A quarter turn about Z takes x to y and y to -x.
   expectNear(proxies()[1]->GetNodeTM(0), Matrix3({0, f, 0}, {-f, 0, 0}, {0, 0, f}, {0, -20 * f, 5 * f}));
   expectNear(proxies()[0]->GetNodeTM(0), parent->GetNodeTM(0));
@@ -148,8 +154,14 @@ TEST_F(CharacterBuild, WithoutACompleteSelectionLeavesNoNodeNoLayerMemberAndNoRe
 TEST_F(CharacterBuild, ASecondOneSharesEveryProxyUntilTheLastNodeIsDeleted) {
   build();
   const std::vector<Node*> first = proxies();
+  IParamBlock2* body = first[0]->GetObjectRef()->GetParamBlock(0);
+  body->SetValue(2, 0, 3.0F);
   clearLog();
   build();
+  float scale = 0.0F;
+  Interval valid = FOREVER;
+  body->GetValue(2, 0, scale, valid);
+  EXPECT_EQ(scale, 1.0F);
   EXPECT_EQ(countLogged(L"use instance..."), static_cast<int>(first.size()));
   const std::vector<Node*> both = proxies();
   ASSERT_EQ(both.size(), 2 * first.size());

@@ -211,6 +211,15 @@ TEST_F(MaterialResolution, BringsTheScaledLengthIntoSceneUnitsOnceForEachMateria
   EXPECT_EQ(resolve(L"Wax")->GetMtl(), wax);
   EXPECT_NEAR(parameter(wax, 22), 1.0F, 1e-6F);
   EXPECT_EQ(parameter(resolve(L"Plain")->GetMtl(), 22), 2.54F);
+
+  // Multi materials have their sub-materials among their parameters too.
+  host::Material::Content content;
+  content.subMaterials = {host::Ref<Mtl>(wax)};
+  content.blocks = {host::Ref<host::ParameterBlock>(new host::ParameterBlock(0, {{4, TYPE_MTL, host::Ref<Mtl>(wax)}}))};
+  const host::Ref<Mtl> multi(new host::Material(Class_ID(MULTI_CLASS_ID, 0), content));
+  SetMasterUnitInfo(UNITS_MILLIMETERS, 1.0F);
+  ZORVEL::TextureRedirection::Redirect(*multi, maps_);
+  EXPECT_NEAR(parameter(wax, 22), 10.0F, 1e-5F);
 }
 
 }  // namespace

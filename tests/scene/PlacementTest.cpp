@@ -126,7 +126,8 @@ TEST_F(PlacementByMouse, StandsOnTheGroundWhereNothingElseIsAndNeverOnItself) {
 }
 
 TEST_F(PlacementByMouse, StandsOnATableAlsoOnOneThatIsScaledAndTurned) {
-  addSurface(new host::SurroundingsObject(tableTop(60)), at({150, 0, 75}));
+  Node* table = addSurface(new host::SurroundingsObject(tableTop(60)), at({150, 0, 75}));
+  table->Move(0, Matrix3(TRUE), Point3(20, 0, -75), FALSE, FALSE, PIV_PIVOT_ONLY, FALSE);
   Matrix3 turned(TRUE);
   turned.Scale(Point3(3, 0.5F, 2));
   turned.RotateZ(0.6F);
@@ -140,15 +141,17 @@ TEST_F(PlacementByMouse, StandsOnATableAlsoOnOneThatIsScaledAndTurned) {
 }
 
 TEST_F(PlacementByMouse, LooksThroughHelpersAndShapes) {
-  addSurface(new host::LampHelper, at({100, 0, 0}));
+  Node* lamp = addSurface(new host::LampHelper, at({100, 0, 0}));
   INode* parent = start();
   moveTo({100, 0, 0});
   EXPECT_NEAR(parent->GetNodeTM(0).GetTrans().z, 0.0F, 0.05F);
   ZORVEL::PlacementPickMode filter;
   EXPECT_EQ(filter.Filter(parent), FALSE);
   EXPECT_EQ(filter.Filter(parent->GetChildNode(0)), FALSE);
-  EXPECT_EQ(filter.Filter(scene().nodes().front()), FALSE) << "the lamp";
+  EXPECT_EQ(filter.Filter(lamp), FALSE);
   EXPECT_EQ(filter.Filter(&scene().root()), TRUE) << "a node without an object passes";
+  GetCOREInterface()->DeleteNode(lamp);
+  EXPECT_EQ(Placement::GetNode(), parent) << "the deletion of another node is nothing to it";
 }
 
 TEST_F(PlacementByMouse, StandsOnWhatHangsOnOneOfItsParts) {
@@ -182,6 +185,8 @@ TEST_F(PlacementByMouse, StaysWhereItIsWhileTheRayRunsAwayFromTheGround) {
 }
 
 TEST_F(PlacementByMouse, TurnsByPixelsAndEndsOnTheGroupsHead) {
+  SetMasterUnitInfo(UNITS_INCHES, 1.0F);
+  const float f = 1.0F / 2.54F;
   INode* parent = start();
   INode* head = parent->GetParentNode();
   moveTo({100, 50, 0});
@@ -191,12 +196,12 @@ TEST_F(PlacementByMouse, TurnsByPixelsAndEndsOnTheGroupsHead) {
   EXPECT_EQ(prompt(), L"Rotate your ZORVEL Character");
   feed_->move(0, {clicked.x + 100, clicked.y + 37});
   const Matrix3 turned = parent->GetNodeTM(0);
-  EXPECT_NEAR(turned.GetRow(0).x, std::cos(1.0F), 1e-5F);
-  EXPECT_NEAR(turned.GetRow(0).y, std::sin(1.0F), 1e-5F);
+  EXPECT_NEAR(turned.GetRow(0).x, f * std::cos(1.0F), 1e-5F);
+  EXPECT_NEAR(turned.GetRow(0).y, f * std::sin(1.0F), 1e-5F);
   EXPECT_EQ(turned.GetTrans(), place);
   const Point3 bodyBefore = parent->GetChildNode(0)->GetNodeTM(0).GetTrans();
   feed_->press(MOUSE_LBUTTON, MOUSE_CTRL, {clicked.x + 100, clicked.y});
-  EXPECT_NEAR(head->GetNodeTM(0).GetRow(0).x, std::cos(1.0F), 1e-5F);
+  EXPECT_NEAR(head->GetNodeTM(0).GetRow(0).x, f * std::cos(1.0F), 1e-5F);
   EXPECT_EQ(head->GetNodeTM(0).GetTrans(), place);
   EXPECT_EQ(parent->GetChildNode(0)->GetNodeTM(0).GetTrans(), bodyBefore);
   EXPECT_NE(parent->Selected(), 0);
@@ -206,6 +211,20 @@ TEST_F(PlacementByMouse, TurnsByPixelsAndEndsOnTheGroupsHead) {
   EXPECT_TRUE(scene().nodes().empty());
   EXPECT_TRUE(undo().redo());
   EXPECT_EQ(scene().nodes().size(), 5U);
+}
+
+TEST_F(PlacementByMouse, ACharacterInNoGroupKeepsItsPlaceAndTurn) {
+  Node* alone = addSurface(new host::SurroundingsObject(tableTop(60)), at({0, 0, 0}));
+  Placement::StartPlacement(alone);
+  moveTo({100, 50, 0});
+  const IPoint2 clicked = pixelOf({100, 50, 0});
+  click(clicked);
+  feed_->move(0, {clicked.x + 100, clicked.y});
+  const Matrix3 turned = alone->GetNodeTM(0);
+  click({clicked.x + 100, clicked.y});
+  expectOver();
+  EXPECT_EQ(alone->GetNodeTM(0), turned);
+  EXPECT_EQ(scene().root().GetNodeTM(0), Matrix3(TRUE));
 }
 
 TEST_F(PlacementByMouse, ARightClickInEitherStepDeletesCharacterAndGroupAndUndoDoesNoHarm) {
@@ -320,6 +339,9 @@ TEST_F(PlacementByMouse, TheModeIsHandedBackAlsoWhileItIsCurrent) {
   start();
   CommandMode* mode = GetCOREInterface()->GetCommandMode();
   EXPECT_EQ(mode->ID(), 0x782F67);
+  ViewMode pan;
+  EXPECT_EQ(mode->ChangeFG(&pan), TRUE);
+  EXPECT_EQ(mode->ChangeFG(mode), FALSE) << "the same in the foreground as before";
   Placement::Free();
   expectOver();
   EXPECT_FALSE(scene().nodes().empty()) << "the character stays";

@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "apps/cli/CommandLine.h"
+#include "apps/stage/ModuleLog.h"
 #include "apps/stage/PluginWindows.h"
 #include "apps/stage/Stage.h"
 #include "host/application/Application.h"
@@ -257,6 +258,8 @@ TEST_F(WholeUse, AfterEachCreateThePersonReadsWhatTheCharacterLacksAndWhy) {
   play(window, "create", {});
   EXPECT_EQ(window.promptLine().message().toStdString(), "Character built");
   EXPECT_EQ(window.listener().text(), reasons) << "nothing to add";
+  const auto log = stage::ModuleLog::of(std::filesystem::path(MODULE_FOLDER) / "zorvel-diagnostic.gup");
+  EXPECT_EQ(log.buildsFrom(0).size(), log.buildsFrom(-1).size()) << "from the first one on";
 }
 
 TEST_F(WholeUse, TheInfoWindowWaitsInTheMenuAndGoesWithTheModule) {

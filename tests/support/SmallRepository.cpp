@@ -45,7 +45,7 @@ const char* const DESCRIPTION = R"(<?xml version="1.0" encoding="UTF-8"?>
       <asset id="a6" name="Lamp" folder="lamp" type="common" category="t1" material="Leather"/>
     </assets>
     <AssetMatrix>
-      <matrix poseID="p1" assetID="a1" xpos="10" ypos="0" zpos="0" xrot="90" yrot="0" zrot="0"/>
+      <matrix poseID="p1" assetID="a1" xpos="10" ypos="0" zpos="0" xrot="90" yrot="90" zrot="90"/>
       <matrix poseID="p1" assetID="a2" xpos="0" ypos="-20" zpos="5" xrot="0" yrot="0" zrot="90"/>
       <matrix poseID="p1" assetID="a5" xpos="100" ypos="0" zpos="0" xrot="0" yrot="0" zrot="0"/>
     </AssetMatrix>

@@ -7,6 +7,7 @@
 #include "plugin/Commands.h"
 #include "tests/ui/OpenedAddresses.h"
 #include "tests/ui/WindowFixture.h"
+#include "ui/WebAddress.h"
 
 namespace {
 
@@ -87,10 +88,12 @@ TEST_F(ElementPages, StandInAsManyColumnsAsTheWidthHolds) {
   EXPECT_EQ(element("Pose", "Sitting").GetCheckBox()->geometry(), QRect(130, 315, 100, 50));
   scrollTo(*page("Things").GetElements().back()->GetPicture(), QPoint(5, 100));
   EXPECT_GT(page("Things").GetControl()->GetScrollPosition().y(), 0);
+  window().SetSize(960, 670);
+  settle();
+  EXPECT_EQ(page("Things").GetControl()->GetScrollPosition(), QPoint(0, 0)) << "not kept";
   window().SetSize(1300, 670);
   settle();
   EXPECT_EQ(places("Things").at(6), QPoint(15, 230)) << "six columns";
-  EXPECT_EQ(page("Things").GetControl()->GetScrollPosition(), QPoint(0, 0)) << "not kept";
   openTab("Pose");
   window().SetSize(525, 670);
   settle();
@@ -173,6 +176,9 @@ TEST_F(ElementPages, OpenTheWebPageOfWhatIsNotThere) {
   }
   EXPECT_EQ(opened.take(), QStringList());
   EXPECT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2");
+  const QString longest = QString("https://shop.example/").leftJustified(2048, 'x');
+  EXPECT_TRUE(ZORVEL::WebAddress::IsAllowed(longest));
+  EXPECT_FALSE(ZORVEL::WebAddress::IsAllowed(longest + 'x'));
 }
 
 TEST_F(ElementPages, APoseRebuildsTheOtherPagesAndNothingStaleReachesTheChoice) {
@@ -200,6 +206,20 @@ TEST_F(ElementPages, APoseRebuildsTheOtherPagesAndNothingStaleReachesTheChoice) 
             "\"Bowler\", \"Boot\", ");
   clickBox("Skin", "Dark");
   EXPECT_EQ(checked("Skin"), QStringList("Dark"));
+}
+
+TEST_F(ElementPages, WhatAPageBeginsWithStaysCheckedThoughItWasRefused) {
+  const auto unique = [](const ZORVEL::DataContainer* record) {
+    return static_cast<unsigned int>(ZORVEL::Data2::GetUnique(record));
+  };
+  Commands::SetSelectedClothUnique(unique(&anna()), unique(anna().GetCloth(L"kc")), true);
+  Commands::SetSelectedSkin(0, false);
+  files().folder().write("anna/coat/kc_p1.vrmesh", "");
+  Commands::SetSelectedPose(poseUnique(L"p1"), true);
+  EXPECT_EQ(selection(), "c1 kc p1 - -");
+  EXPECT_EQ(checked("Skin"), QStringList("Light"));
+  clickBox("Skin", "Light");
+  EXPECT_EQ(checked("Skin"), QStringList("Light"));
 }
 
 TEST_F(ElementPages, APoseWhoseMeshHasGoneMakesTheRestUnavailable) {

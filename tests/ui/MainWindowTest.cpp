@@ -15,6 +15,7 @@
 #include "core/Settings.h"
 #include "host/application/Application.h"
 #include "host/application/HostInterface.h"
+#include "host/scripting/ScriptRunner.h"
 #include "host/services/FileDialog.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
@@ -58,6 +59,7 @@ class MainWindowForm : public support::WindowFixture {
     EXPECT_TRUE(tabs().isHidden());
     EXPECT_TRUE(createButton().isHidden());
     EXPECT_EQ(info(), "");
+    EXPECT_EQ(window().GetCharacterInfo().GetControl()->toolTip(), "");
   }
 };
 
@@ -98,6 +100,9 @@ TEST_F(MainWindowForm, OpensOnceAndAnewAfterItWasClosed) {
   EXPECT_EQ(tabs().count(), 7);
   EXPECT_EQ(checked("Hats"), QStringList("Bowler"));
   EXPECT_EQ(countLogged(L"MainWindow::OpenMainWindow : create..."), 1);
+  ZORVEL::Settings::StorePath(L"C:\\elsewhere");
+  open();
+  EXPECT_EQ(window().windowTitle(), "ZORVEL Manager 1.0 - C:\\elsewhere");
 }
 
 TEST_F(MainWindowForm, BelongsToTheHostsWindowAndHoldsItsShortcutsWhileItIsUsed) {
@@ -113,6 +118,9 @@ TEST_F(MainWindowForm, BelongsToTheHostsWindowAndHoldsItsShortcutsWhileItIsUsed)
   EXPECT_TRUE(QTest::qWaitFor([] { return AcceleratorsEnabled() == TRUE; }));
   window().Activate();
   EXPECT_TRUE(QTest::qWaitFor([] { return AcceleratorsEnabled() == FALSE; }));
+  QHideEvent hidden;
+  QApplication::sendEvent(&window(), &hidden);
+  EXPECT_TRUE(AcceleratorsEnabled()) << "whatever becomes of its activation";
   Application::instance().interface().setMainWindow(nullptr);
   host.reset();
   EXPECT_EQ(MainWindowClass::window, nullptr);
@@ -177,6 +185,10 @@ TEST_F(MainWindowForm, TellsWhatIsChosenAndOffersToBuildItOnceThereIsClothing) {
   Selection2::SetSkin(L"unknown");
   ZORVEL::MainWindow::UpdateInfo();
   EXPECT_EQ(info(), "Character: \"Anna\"Pose: \"Standing\"");
+  ZORVEL::MainWindow::UpdateCharacterSelectionFromGUI();
+  EXPECT_FALSE(titles().contains("Fabric"));
+  settle();
+  ZORVEL::MainWindow::UpdateElementSelection();
   Selection2::SetCharacter(L"unknown");
   ZORVEL::MainWindow::UpdateInfo();
   EXPECT_EQ(info(), "");
@@ -188,6 +200,7 @@ TEST_F(MainWindowForm, BuildsTheChosenCharacterAndStartsPlacingIt) {
   const CommandMode* before = GetCOREInterface()->GetCommandMode();
   click(createButton());
   EXPECT_EQ(commands().take(), QStringList("create"));
+  EXPECT_EQ(Application::instance().scripts().texts().back(), L"animButtonState=false") << "no keys are recorded";
   EXPECT_NE(GetCOREInterface()->GetINodeByName(L"ZORVEL Character Anna"), nullptr);
   EXPECT_NE(GetCOREInterface()->GetCommandMode(), before);
   EXPECT_TRUE(window().isVisible());
@@ -253,9 +266,10 @@ TEST_F(MainWindowForm, TakesClicksOnRecordsThatAreNoLongerThere) {
   ZORVEL::Data2::Clear();
   clickBox("Skin", "Dark");
   clickBox("Things", "Lamp");
+  clickPicture("Things", "Lamp");
   clickBox("Pose", "Sitting");
-  EXPECT_EQ(commands().take(),
-            (QStringList{"skin unknown, refresh", "asset unknown, refresh", "pose unknown, refresh"}));
+  EXPECT_EQ(commands().take(), (QStringList{"skin unknown, refresh", "asset unknown, refresh",
+                                            "without unknown, refresh", "pose unknown, refresh"}));
   EXPECT_EQ(tabs().count(), 1);
   clickNode(node("Anna"));
   clickNode(node("Ben"));

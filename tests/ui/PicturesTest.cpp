@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QtTest/QtTest>
 
+#include "plugin/zorvel.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/PictureReader.h"
 
@@ -64,6 +65,7 @@ TEST_F(Pictures, ThatCannotBeShownSayWhyInTheirPlace) {
     EXPECT_EQ(image.pixelColor(3, 100), one.complaint.isEmpty() ? QColor(Qt::black) : QColor(68, 68, 68));
     EXPECT_EQ(picture.toolTip().contains("The picture cannot be shown"), !one.complaint.isEmpty()) << one.bytes.size();
     EXPECT_TRUE(picture.toolTip().contains(one.complaint)) << picture.toolTip().toStdString();
+    EXPECT_TRUE(picture.toolTip().contains("Blouse"));
   }
   clickNode(node("Anna"));
   files().remove("anna/previews/preview_kb.png");
@@ -101,10 +103,14 @@ TEST_F(Pictures, AreDecodedOnceAndWhenFirstSeen) {
   openTab("Skin");
   tabs().grab();
   EXPECT_EQ(decoded() - before, 9) << "the poses of the other clothing";
-  files().writePicture("anna/skin/dark.png", QSize(150, 151), Qt::green);
+  const std::filesystem::path dark = files().folder().path() / "anna/skin/dark.png";
+  const auto written = std::filesystem::last_write_time(dark);
+  files().writePicture("anna/skin/dark.png", QSize(150, 300), Qt::green);
+  std::filesystem::last_write_time(dark, written);
   clickPicture("Pose", "Sitting");
   openTab("Skin");
-  EXPECT_EQ(shown(*element("Skin", "Dark").GetPicture()).pixelColor(5, 5), QColor(Qt::green)) << "written anew";
+  EXPECT_EQ(shown(*element("Skin", "Dark").GetPicture()).pixelColor(5, 5), QColor(Qt::green))
+      << "written anew in the same moment";
   EXPECT_EQ(decoded() - before, 10);
 }
 
@@ -121,6 +127,9 @@ TEST_F(Pictures, ThatWereNotSeenForLongAreForgottenBeforeMemoryIsFull) {
   EXPECT_EQ(decoded() - before, 6);
   get(4000);
   EXPECT_EQ(decoded() - before, 7);
+  ZORVEL::zorvel().Stop();
+  get(4000);
+  EXPECT_EQ(decoded() - before, 8) << "the plug-in leaves none behind";
 }
 
 }  // namespace

@@ -46,7 +46,9 @@ TEST_F(WindowKeyboard, SpaceChoosesClothesPosesAndElements) {
   key(Qt::Key_Space);
   EXPECT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2");
   const ZORVEL::MainWindowElementBase& sitting = element("Pose", "Sitting");
+  const QImage plain = shown(*sitting.GetPicture());
   focusByTab(*sitting.GetPicture());
+  EXPECT_NE(shown(*sitting.GetPicture()), plain) << "framed";
   key(Qt::Key_Space);
   EXPECT_EQ(checked("Pose"), QStringList("Sitting"));
   EXPECT_EQ(focus(), sitting.GetPicture()) << "the page of the poses stays";
@@ -59,6 +61,15 @@ TEST_F(WindowKeyboard, SpaceChoosesClothesPosesAndElements) {
   key(Qt::Key_Space);
   EXPECT_EQ(checked("Things"), (QStringList{"Scarf", "Lamp"}));
   EXPECT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2 a3");
+}
+
+TEST_F(WindowKeyboard, AClickFramesNothing) {
+  openWithBlouse();
+  const QWidget& picture = *element("Pose", "Sitting").GetPicture();
+  const QImage plain = shown(picture);
+  click(picture);
+  ASSERT_EQ(focus(), &picture);
+  EXPECT_EQ(shown(picture), plain);
 }
 
 TEST_F(WindowKeyboard, KeysWalkThroughTheTabsAndPressTheButton) {
@@ -78,7 +89,7 @@ TEST_F(WindowKeyboard, KeysWalkThroughTheTabsAndPressTheButton) {
   EXPECT_EQ(commands().take(), (QStringList{"create", "create"}));
 }
 
-TEST_F(WindowKeyboard, AltOpensTheMenus) {
+TEST_F(WindowKeyboard, AltAndF10OpenTheMenus) {
   openWithBlouse();
   QTest::keyPress(window().windowHandle(), Qt::Key_Alt, Qt::AltModifier);
   QTest::keyRelease(window().windowHandle(), Qt::Key_Alt);
@@ -90,6 +101,8 @@ TEST_F(WindowKeyboard, AltOpensTheMenus) {
   settle();
   EXPECT_EQ(selection(), "- - - - m1") << "reloaded";
   EXPECT_TRUE(tabs().isHidden());
+  key(Qt::Key_F10);
+  EXPECT_NE(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(WindowKeyboard, ThePointerLeadsTheKeyboardSoThatTheWheelScrollsWhatIsUnderIt) {

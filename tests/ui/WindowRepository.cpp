@@ -82,7 +82,7 @@ std::string ben() {
 
 WindowRepository::WindowRepository() {
   folder_.write("zorvel.xml", ANNA + ben());
-  writePicture("overlay110x330.png", QSize(110, 20), Qt::blue);
+  writePicture("overlay110x330.png", QSize(110, 20), Qt::green);
   writePicture("overlay100x300.png", QSize(100, 20), Qt::blue);
   writeAnna();
   writeBen();
