@@ -185,8 +185,9 @@ QImage Textures::flowers(const QColor& base, const QColor& petal, const QColor& 
   std::vector<Flower> flowers;
   constexpr int rows = 3;
   for (int i = 0; i < rows * rows; ++i) {
-    flowers.push_back({(i % rows + 0.5 * (i / rows % 2) + random.between(0.3, 0.7)) / rows,
-                       (i / rows + random.between(0.3, 0.7)) / rows, random.between(0.085, 0.135), random.next()});
+    const int row = i / rows;
+    flowers.push_back({(i % rows + 0.5 * (row % 2) + random.between(0.3, 0.7)) / rows,
+                       (row + random.between(0.3, 0.7)) / rows, random.between(0.085, 0.135), random.next()});
   }
   return paint([&](double u, double v) {
     Tone tone(base);
