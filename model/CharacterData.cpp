@@ -44,7 +44,7 @@ bool AppendRecord(DataContainer& list, std::initializer_list<NewField> fields) {
   return list.AddChild(record);
 }
 
-const wchar_t* TextOrEmpty(const wchar_t* text) { return text ? text : L""; }
+const wchar_t* OrEmpty(const wchar_t* text) { return text ? text : L""; }
 
 /// Held here because a character has thousands of rows.
 struct MatrixFields {
@@ -82,9 +82,9 @@ int CharacterData::AddContainerElement(CONTAINER container) {
 }
 
 void CharacterData::SetContainerName(CONTAINER container, const wchar_t* name) {
-  if (container == SKINS) m_skinsName += TextOrEmpty(name);
-  if (container == POSES) m_posesName += TextOrEmpty(name);
-  if (container == CLOTH) m_clothName += TextOrEmpty(name);
+  if (container == SKINS) m_skinsName += OrEmpty(name);
+  if (container == POSES) m_posesName += OrEmpty(name);
+  if (container == CLOTH) m_clothName += OrEmpty(name);
 }
 
 DataContainer* CharacterData::AddChildToClothContainer(int clothIndex, CLOTH_CHILD group) {
@@ -142,7 +142,7 @@ bool CharacterData::AddAssetMatrixElement(const DataContainer* element) {
 
 void CharacterData::AddAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID, float xpos, float ypos,
                                           float zpos, float xrot, float yrot, float zrot) {
-  m_assetMatrix.push_back({TextOrEmpty(poseID), TextOrEmpty(assetID), xpos, ypos, zpos, xrot, yrot, zrot});
+  m_assetMatrix.push_back({OrEmpty(poseID), OrEmpty(assetID), xpos, ypos, zpos, xrot, yrot, zrot});
 }
 
 void CharacterData::ReserveAssetMatrix(int count) {

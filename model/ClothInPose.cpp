@@ -13,7 +13,7 @@ using namespace RepositoryFormat;
 
 namespace {
 
-std::wstring TextOrEmpty(const wchar_t* text) { return text ? text : std::wstring(); }
+std::wstring IdOrEmpty(const wchar_t* text) { return text ? text : std::wstring(); }
 
 Refusal RefusalFor(const std::wstring& mesh, FileStamps& files) {
   return files.Exists(mesh) ? Refusal() : Refusal{WhyNot::MeshMissing, mesh};
@@ -23,11 +23,11 @@ Refusal RefusalFor(const std::wstring& mesh, FileStamps& files) {
 
 ClothInPose::ClothInPose(const CharacterData& character, const DataContainer* pose, FileStamps& files)
     : m_cloth(character.GetCloth(Selection2::GetCloth())), m_pose(pose) {
-  const std::wstring clothId = TextOrEmpty(Selection2::GetCloth());
+  const std::wstring clothId = IdOrEmpty(Selection2::GetCloth());
   if (!m_cloth) {
     m_refusal = {WhyNot::NoClothing, clothId};
   } else if (!m_pose) {
-    m_refusal = {WhyNot::NoPose, TextOrEmpty(Selection2::GetPose())};
+    m_refusal = {WhyNot::NoPose, IdOrEmpty(Selection2::GetPose())};
   } else {
     const std::wstring folder = RepositoryPaths::Element(Fields::TextOrEmpty(&character, FIELD_FOLDER), m_cloth);
     m_refusal = RefusalFor(RepositoryPaths::ClothMesh(folder, clothId, Fields::TextOrEmpty(m_pose, FIELD_ID)), files);
