@@ -198,9 +198,12 @@ TEST_F(MainWindowForm, TellsWhatIsChosenAndOffersToBuildItOnceThereIsClothing) {
 TEST_F(MainWindowForm, BuildsTheChosenCharacterAndStartsPlacingIt) {
   openWithBlouse();
   const CommandMode* before = GetCOREInterface()->GetCommandMode();
+  const std::vector<std::wstring>& scripts = Application::instance().scripts().texts();
+  const std::size_t scriptsBefore = scripts.size();
   click(createButton());
   EXPECT_EQ(commands().take(), QStringList("create"));
-  EXPECT_EQ(Application::instance().scripts().texts().back(), L"animButtonState=false") << "no keys are recorded";
+  ASSERT_EQ(scripts.size(), scriptsBefore + 1);
+  EXPECT_EQ(scripts.back(), L"animButtonState=false") << "no keys are recorded";
   EXPECT_NE(GetCOREInterface()->GetINodeByName(L"ZORVEL Character Anna"), nullptr);
   EXPECT_NE(GetCOREInterface()->GetCommandMode(), before);
   EXPECT_TRUE(window().isVisible());
