@@ -90,6 +90,7 @@ void ShowIfPictured(PageOffer& page, OfferedElement element, const ClothInPose& 
 PageOffer PageOffers::GetClothing() const {
   PageOffer page = MakePage(PageKind::Clothing, m_character.GetContainerName(CLOTH));
   const std::wstring folder = FolderOf(m_character);
+  page.shown.reserve(static_cast<std::size_t>(m_character.GetCount(CLOTH)));
   for (int i = 0; i < m_character.GetCount(CLOTH); ++i) {
     const DataContainer* cloth = m_character.GetContainerElement(CLOTH, i);
     if (!cloth) continue;

@@ -48,6 +48,7 @@ void MainWindowClothSelector::AddPreviews() {
   FileStamps files;
   PageOffer page = PageOffers(*character, files).GetClothing();
   for (std::size_t i = 0; i < page.hidden.size(); ++i) LogInfo(L"preview image not found");
+  m_elements.reserve(page.shown.size());
   int x = 2;
   for (OfferedElement& offered : page.shown) {
     m_elements.push_back(std::make_unique<MainWindowClothPreview>());
