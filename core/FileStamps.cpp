@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "core/DiskView.h"
+
 namespace ZORVEL {
 
 namespace {
@@ -13,6 +15,10 @@ std::uint64_t Join(DWORD high, DWORD low) { return (static_cast<std::uint64_t>(h
 FileStamp FileStamp::Of(const std::wstring& path) {
   WIN32_FILE_ATTRIBUTE_DATA data = {};
   FileStamp stamp;
+  if (DiskView* view = ViewedDisk::GetView()) {
+    stamp.exists = view->Look(path) == DiskEntry::File;
+    return stamp;
+  }
   if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) == 0) return stamp;
   if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return stamp;
   stamp.exists = true;

@@ -104,7 +104,7 @@ std::wstring FindFolder(const XmlElement& character, const wchar_t* path) {
 }
 
 /// Null when there is none that could be read.
-std::unique_ptr<XmlDocument> LoadDescription(const wchar_t* path) {
+std::shared_ptr<const XmlDocument> LoadDescription(const wchar_t* path) {
   const std::wstring file = RepositoryPaths::Description(path);
   if (!Disk::FileExists(file)) {
     Debug::AddDebugMessage(DEBUG_INFO, L"ParseRepositoryXML: XML file \"zorvel.xml\" does not exist in this folder:");
@@ -115,7 +115,7 @@ std::unique_ptr<XmlDocument> LoadDescription(const wchar_t* path) {
   XmlError error;
   XmlOptions options;
   options.places = ObservedParsing::GetObserver() != nullptr;
-  auto document = XmlDocument::Load(file.c_str(), error, options);
+  const std::shared_ptr<const XmlDocument> document = XmlDocument::Load(file.c_str(), error, options);
   if (!document) ParseNotes::TellUnreadable(file, error);
   if (!Holds(document != nullptr, L"ParseRepositoryXML: invalid character.xml")) return nullptr;
   const XmlElement& root = document->GetRoot();
@@ -135,6 +135,7 @@ bool NetXMLParser2::ParseRepositoryXML(const wchar_t* path) {
   Debug::AddDebugMessage(DEBUG_INFO, path);
   const auto document = LoadDescription(path);
   if (!document) return false;
+  ParseNotes::TellDocument(document);
   ForEachChild(&document->GetRoot(), [path](const XmlElement& child) { ParseRepositoryElement(&child, path); });
   return true;
 }

@@ -28,7 +28,7 @@ bool IsObserved() { return ObservedParsing::GetObserver() != nullptr; }
 void Send(const ParseNote& note) { ObservedParsing::GetObserver()->Noted(note); }
 
 ParseNote NoteAt(ParseNoteKind kind, const XmlElement& element) {
-  return {kind, element.name, {}, {}, {}, element.line, element.column};
+  return {kind, element.name, {}, {}, {}, element.line, element.column, &element};
 }
 
 void SendAttribute(ParseNoteKind kind, const XmlElement& element, const wchar_t* attribute) {
@@ -69,11 +69,11 @@ std::vector<const XmlElement*> ClothesOf(const XmlElement& character) {
 }  // namespace
 
 void ParseNotes::TellMissing(const std::wstring& file) {
-  if (IsObserved()) Send({ParseNoteKind::NoDescription, {}, {}, {}, file});
+  if (IsObserved()) Send({ParseNoteKind::NoDescription, {}, {}, {}, file, 0, 0, nullptr});
 }
 
 void ParseNotes::TellUnreadable(const std::wstring& file, const XmlError& error) {
-  if (IsObserved()) Send({KindOf(error.fault), {}, {}, error.message, file, error.line, error.column});
+  if (IsObserved()) Send({KindOf(error.fault), {}, {}, error.message, file, error.line, error.column, nullptr});
 }
 
 void ParseNotes::TellWrongDocumentElement(const std::wstring& file, const XmlElement& root) {
@@ -81,6 +81,10 @@ void ParseNotes::TellWrongDocumentElement(const std::wstring& file, const XmlEle
   ParseNote note = NoteAt(ParseNoteKind::WrongDocumentElement, root);
   note.path = file;
   Send(note);
+}
+
+void ParseNotes::TellDocument(const std::shared_ptr<const XmlDocument>& document) {
+  if (IsObserved()) ObservedParsing::GetObserver()->DocumentRead(document);
 }
 
 void ParseNotes::TellRefused(ParseNoteKind kind, const XmlElement& character, const std::wstring& folder) {
@@ -126,7 +130,7 @@ void ParseNotes::TellRow(const XmlElement& row, bool added) {
 
 void ParseNotes::TellRecord(const XmlElement& element, const DataContainer& record) {
   if (!IsObserved()) return;
-  ObservedParsing::GetObserver()->RecordRead(record, element.line, element.column);
+  ObservedParsing::GetObserver()->RecordRead(record, element);
   for (const SystemField& one : SYSTEM_FIELDS) {
     if (std::wcscmp(element.name, one.element) != 0 || !element.FindAttribute(one.field)) continue;
     SendAttribute(ParseNoteKind::AttributeOfTheSystem, element, one.field);

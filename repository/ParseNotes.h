@@ -16,6 +16,8 @@ void TellMissing(const std::wstring& file);
 void TellUnreadable(const std::wstring& file, const XmlError& error);
 void TellWrongDocumentElement(const std::wstring& file, const XmlElement& root);
 
+void TellDocument(const std::shared_ptr<const XmlDocument>& document);
+
 void TellRefused(ParseNoteKind kind, const XmlElement& character, const std::wstring& folder = std::wstring());
 void TellSkipped(const XmlElement& element, const wchar_t* parent);
 /// The name is about to be appended to the one that the list has.

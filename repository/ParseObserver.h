@@ -1,10 +1,13 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 namespace ZORVEL {
 
 class DataContainer;
+class XmlDocument;
+struct XmlElement;
 
 /// With what each of them has besides element and place.
 enum class ParseNoteKind {
@@ -35,6 +38,8 @@ struct ParseNote {
   // Of the element's start tag, counted from 1; 0 when there is no such place.
   int line = 0;
   int column = 0;
+  // The element, as long as the document is kept; null for what concerns the whole file.
+  const XmlElement* source = nullptr;
 };
 
 /// Told of what the parser does with a description, in the order in which it happens. Nothing that it could do changes
@@ -43,9 +48,11 @@ class ParseObserver {
  public:
   virtual ~ParseObserver() = default;
   virtual void Noted(const ParseNote& note) = 0;
-  /// The record of the element that begins there is filled. It may be destroyed later: a clothing without a preview.
-  /// One with the fields of a matrix row lives only as long as the call.
-  virtual void RecordRead(const DataContainer& /*record*/, int /*line*/, int /*column*/) {}
+  /// The document whose elements are read next; who keeps it, keeps the elements that are told of below.
+  virtual void DocumentRead(const std::shared_ptr<const XmlDocument>& /*document*/) {}
+  /// The record of the element is filled. It may be destroyed later: a clothing without a preview. One with the fields
+  /// of a matrix row lives only as long as the call.
+  virtual void RecordRead(const DataContainer& /*record*/, const XmlElement& /*element*/) {}
 };
 
 /// As long as it lives, every parse is told to its observer. The youngest one counts, and none is there by default:

@@ -2,7 +2,6 @@
 
 #include "apps/support/ParseNoteText.h"
 #include "core/Settings.h"
-#include "host/files/Paths.h"
 #include "model/Data2.h"
 #include "model/Selection2.h"
 #include "repository/Parser2.h"
@@ -25,15 +24,12 @@ class NoteKeeper : public ZORVEL::ParseObserver {
 
 }  // namespace
 
-LoadedRepository::LoadedRepository(const fs::path& root) : root_(root), appData_(settingsFolder_.path()) {
+LoadedRepository::LoadedRepository(const fs::path& root) : root_(root), settings_(root) {
   ZORVEL::SceneNotifications::Register();
-  if (settingsFolder_.path().empty()) {
+  if (!settings_.isThere()) {
     error_ = "No temporary folder can be made.";
     return;
   }
-  ZORVEL::Settings::LoadSettings();
-  // The trailing separator is what choosing the file in the dialog of 3ds Max would leave.
-  ZORVEL::Settings::StorePath((host::toWide(fs::absolute(root).string()) + L"\\").c_str());
   read();
 }
 
@@ -41,7 +37,6 @@ LoadedRepository::~LoadedRepository() {
   ZORVEL::SceneNotifications::Unregister();
   ZORVEL::Selection2::Reset();
   ZORVEL::Data2::Clear();
-  ZORVEL::Settings::FreeSettings();
 }
 
 void LoadedRepository::read() {

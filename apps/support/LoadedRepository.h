@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/files/LocalAppData.h"
-#include "host/files/TemporaryFolder.h"
+#include "apps/support/SettledRoot.h"
 #include "repository/ParseObserver.h"
 
 namespace apps {
@@ -32,8 +31,7 @@ class LoadedRepository {
   std::string tryRead();
 
   std::filesystem::path root_;
-  host::TemporaryFolder settingsFolder_;
-  host::LocalAppData appData_;
+  SettledRoot settings_;
   std::vector<ZORVEL::ParseNote> notes_;
   std::string error_;
 };

@@ -75,7 +75,7 @@ class Notes : public ZORVEL::ParseObserver {
     if (note.kind >= Kind::CharacterWithoutAttributes && note.kind <= Kind::CharacterWithoutSkin) ++characters_;
     if (note.kind == Kind::ElementSkipped) ++skipped_;
   }
-  void RecordRead(const DataContainer& /*record*/, int /*line*/, int /*column*/) override { ++records_; }
+  void RecordRead(const DataContainer& /*record*/, const ZORVEL::XmlElement& /*element*/) override { ++records_; }
   /// Whether every element has become a record or was told to be left out.
   void expectAll(const std::string& description) const {
     if (documents_ > 0) {

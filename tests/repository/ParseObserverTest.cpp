@@ -2,6 +2,7 @@
 
 #include "model/Fields.h"
 #include "repository/Parser2.h"
+#include "repository/XmlDocument.h"
 #include "tests/repository/RepositoryFixture.h"
 
 namespace ZORVEL {
@@ -13,13 +14,15 @@ class ParseListener : public ParseObserver {
     notes.emplace_back(note.kind, place(note.line, note.column) + L" " + note.element + L"|" + note.name + L"|" +
                                       note.text + L"|" + note.path);
   }
-  void RecordRead(const DataContainer& record, int line, int column) override {
+  void DocumentRead(const std::shared_ptr<const XmlDocument>& read) override { document = read; }
+  void RecordRead(const DataContainer& record, const XmlElement& element) override {
     const wchar_t* id = Fields::OptionalText(&record, L"id");
-    records.push_back(place(line, column) + L" " + (id ? id : L"-"));
+    records.push_back(place(element.line, element.column) + L" " + (id ? id : L"-"));
   }
 
   std::vector<std::pair<ParseNoteKind, std::wstring>> notes;
   std::vector<std::wstring> records;
+  std::shared_ptr<const XmlDocument> document;
 
  private:
   static std::wstring place(int line, int column) { return std::to_wstring(line) + L":" + std::to_wstring(column); }

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "check/Description.h"
+#include "check/Finding.h"
+
+namespace check {
+
+/// A text of the repository or of the checker, as UTF-8.
+class Value {
+ public:
+  Value(std::string text) : text_(std::move(text)) {}        // NOLINT: every text is a value
+  Value(const char* text) : text_(text) {}                   // NOLINT
+  Value(const std::wstring& text);                           // NOLINT
+  Value(const wchar_t* text) : Value(std::wstring(text)) {}  // NOLINT
+  Value(int number) : text_(std::to_string(number)) {}       // NOLINT
+
+  const std::string& text() const { return text_; }
+
+ private:
+  std::string text_;
+};
+
+/// Takes in what is found. The same thing is taken in once.
+class Findings {
+ public:
+  explicit Findings(const Description& description) : description_(description) {}
+
+  /// `values` go into the rule's sentence; the first of them is what the finding is about. A null element stands for
+  /// the whole description.
+  void add(RuleId rule, const ZORVEL::XmlElement* element, std::vector<Value> values);
+  void add(RuleId rule, const ZORVEL::DataContainer* record, std::vector<Value> values);
+  /// At a place of the description that is no element.
+  void addAt(RuleId rule, int line, int column, std::vector<Value> values);
+  /// About a file below the root, or about the root itself when `file` is empty.
+  void addToFile(RuleId rule, const std::string& file, std::vector<Value> values);
+
+  bool has(RuleId rule, const ZORVEL::DataContainer* record) const;
+  const Description& description() const { return description_; }
+  /// Sorted; leaves nothing behind.
+  std::vector<Finding> takeAll();
+
+ private:
+  void insert(Finding finding, const std::vector<Value>& values);
+
+  const Description& description_;
+  std::vector<Finding> findings_;
+  std::set<std::pair<RuleId, const ZORVEL::XmlElement*>> told_;
+};
+
+}  // namespace check
