@@ -1,11 +1,11 @@
-#include "apps/cli/NearestIds.h"
+#include "apps/support/NearestIds.h"
 
 #include <algorithm>
 #include <cctype>
 #include <numeric>
 #include <utility>
 
-namespace cli {
+namespace apps {
 
 namespace {
 
@@ -44,6 +44,12 @@ std::vector<std::string> nearestIds(const std::string& wanted, const std::vector
   return result;
 }
 
+std::string nearestId(const std::string& wanted, const std::vector<std::string>& known) {
+  const std::vector<std::string> near = nearestIds(wanted, known);
+  const std::size_t most = (wanted.size() + 2) / 3;
+  return near.empty() || editDistance(wanted, near.front()) > most ? std::string() : near.front();
+}
+
 std::string unknownId(const std::string& kind, const std::string& wanted, const std::vector<std::string>& known) {
   constexpr std::size_t MOST = 8;
   std::string text = "There is no " + kind + " with the id \"" + wanted + "\"";
@@ -55,4 +61,4 @@ std::string unknownId(const std::string& kind, const std::string& wanted, const 
   return text + ".";
 }
 
-}  // namespace cli
+}  // namespace apps
