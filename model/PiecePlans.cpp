@@ -137,8 +137,7 @@ void PiecePlans::PlanShared(PiecePlan& plan, const DataContainer* materialRecord
 void PiecePlans::PlanOwn(PiecePlan& plan, const DataContainer* materialRecord, const std::wstring& poseId) const {
   const std::wstring folder = RepositoryPaths::Element(m_folder, plan.record);
   const bool isForThisPose = CharacterData::IsSpecific(plan.record);
-  plan.meshFile =
-      isForThisPose ? RepositoryPaths::AssetMeshInPose(folder, poseId) : RepositoryPaths::AssetMesh(folder);
+  plan.meshFile = isForThisPose ? RepositoryPaths::AssetMeshInPose(folder, poseId) : RepositoryPaths::AssetMesh(folder);
   if (!isForThisPose) Place(plan, plan.element.id.c_str(), poseId);
   if (plan.placing != PlacingState::NoRow) AskForMaterial(plan, materialRecord, RepositoryPaths::Library(folder));
 }
