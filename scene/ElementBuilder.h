@@ -1,33 +1,34 @@
 #pragma once
 
-namespace ZORVEL {
+#include "model/PiecePlans.h"
+#include "scene/PieceBuilder.h"
 
-struct BuildContext;
-struct BuildReport;
-class DataContainer;
+namespace ZORVEL {
 
 /// Makes everything that hangs on the parent of a character.
 class ElementBuilder {
  public:
   /// Both must outlive this.
-  ElementBuilder(const BuildContext& context, BuildReport& report) : m_context(context), m_report(report) {}
+  ElementBuilder(const BuildContext& context, BuildReport& report);
 
   /// Body, the assets that the pose asks for, clothing, chosen assets. Whatever cannot be made is left out; without a
   /// body the pose's assets are, too.
-  void AddAll();
+  void AddAll() const;
 
  private:
   /// False when there is none.
-  bool AddBody();
-  void AddMandatoryAssets();
-  void AddMandatoryAsset(const DataContainer* entry);
-  void LeaveOutMandatoryAssets();
-  void AddCloth();
-  void AddSelectedAssets();
-  void AddSelectedAsset(int unique);
+  bool AddBody() const;
+  void AddMandatoryAssets() const;
+  void LeaveOutMandatoryAssets() const;
+  void AddCloth() const;
+  void AddSelectedAssets() const;
+  void AddSelectedAsset(int unique) const;
+  void AddAsset(const PiecePlan& plan) const;
 
   const BuildContext& m_context;
   BuildReport& m_report;
+  PiecePlans m_plans;
+  PieceBuilder m_pieces;
 };
 
 }  // namespace ZORVEL

@@ -2,9 +2,8 @@
 
 #include <maxapi.h>
 
-#include <algorithm>
-
 #include "core/Debug.h"
+#include "model/LibrarySearches.h"
 #include "scene/TextureRedirection.h"
 
 namespace ZORVEL {
@@ -26,28 +25,14 @@ Mtl* AsMaterial(MtlBase* found) {
   return static_cast<Mtl*>(found);
 }
 
-LibraryState Search(const std::wstring& file, const wchar_t* name) {
+/// Makes the library the host's current one.
+LibraryState LookIntoLibrary(const std::wstring& file, const wchar_t* name) {
+  Log(file.c_str());
   Interface* host = GetCOREInterface();
   if (host->LoadMaterialLib(file.c_str()) == 0) return LibraryState::NotLoaded;
   MtlBase* found = FindByName(host->GetMaterialLibrary(), name);
   if (found == nullptr) return LibraryState::WithoutName;
   return AsMaterial(found) != nullptr ? LibraryState::HoldsMaterial : LibraryState::NameOfMap;
-}
-
-/// Ends with the first library that holds the material.
-std::vector<LibrarySearch> SearchAll(const std::vector<std::wstring>& files, const wchar_t* name) {
-  std::vector<LibrarySearch> searches;
-  for (const std::wstring& file : files) {
-    Log(file.c_str());
-    searches.push_back({file, Search(file, name)});
-    if (searches.back().state == LibraryState::HoldsMaterial) break;
-  }
-  return searches;
-}
-
-bool Saw(const MaterialResult& result, LibraryState state) {
-  return std::any_of(result.searches.begin(), result.searches.end(),
-                     [state](const LibrarySearch& one) { return one.state == state; });
 }
 
 /// From the host's current library; null when it does not hold the material.
@@ -59,42 +44,46 @@ Mtl* UpdateLibraryMaterial(const MaterialSearch& search, std::vector<std::wstrin
   return material;
 }
 
-void ResolveFromLibraries(const MaterialSearch& search, INode& node, MaterialResult& result) {
-  Log(L"Search in material lib: ");
-  result.searches = SearchAll(search.libraries, search.name);
-  if (!Saw(result, LibraryState::HoldsMaterial)) {
-    Log(L"Could not find material");
-    if (Saw(result, LibraryState::NameOfMap)) result.state = MaterialState::NameOfMap;
-    return;
-  }
-  Mtl* material = UpdateLibraryMaterial(search, result.missingTextures);
-  if (material == nullptr) {
+void TakeFromLibrary(const MaterialSearch& search, INode& node, MaterialResult& result) {
+  if (Mtl* material = UpdateLibraryMaterial(search, result.missingTextures)) {
+    Log(L"Found material in lib");
+    node.SetMtl(material);
+  } else {
     Log(L"Could not find material in lib");
-    return;
+    result.state = MaterialState::InNoLibrary;
   }
-  Log(L"Found material in lib");
-  node.SetMtl(material);
-  result.state = MaterialState::FromLibrary;
+}
+
+MaterialResult ResolveFromLibraries(const MaterialSearch& search, INode& node) {
+  Log(L"Search in material lib: ");
+  MaterialResult result = LibrarySearches::Run(search.name, search.libraries, LookIntoLibrary);
+  if (result.state == MaterialState::FromLibrary) {
+    TakeFromLibrary(search, node, result);
+  } else {
+    Log(L"Could not find material");
+  }
+  return result;
+}
+
+MaterialResult TakeFromScene(const MaterialSearch& search, INode& node, Mtl& material) {
+  Log(L"Found material!");
+  node.SetMtl(&material);
+  MaterialResult result;
+  result.state = MaterialState::FromScene;
+  result.name = search.name;
+  return result;
 }
 
 }  // namespace
 
 MaterialResult MaterialResolver::Resolve(const MaterialSearch& search, INode& node) {
-  MaterialResult result;
-  result.state = search.name != nullptr ? MaterialState::InNoLibrary : MaterialState::NoField;
-  if (search.name == nullptr) return result;
-  result.name = search.name;
+  if (search.name == nullptr) return LibrarySearches::Run(nullptr, search.libraries, LookIntoLibrary);
   Log(L"Search for material: ");
   Log(search.name);
   MtlBase* present = FindByName(*GetCOREInterface()->GetSceneMtls(), search.name);
-  if (Mtl* material = AsMaterial(present)) {
-    Log(L"Found material!");
-    node.SetMtl(material);
-    result.state = MaterialState::FromScene;
-    return result;
-  }
-  if (present != nullptr) result.state = MaterialState::NameOfMap;
-  ResolveFromLibraries(search, node, result);
+  if (Mtl* material = AsMaterial(present)) return TakeFromScene(search, node, *material);
+  MaterialResult result = ResolveFromLibraries(search, node);
+  if (present != nullptr && result.state == MaterialState::InNoLibrary) result.state = MaterialState::NameOfMap;
   return result;
 }
 

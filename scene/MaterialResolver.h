@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "scene/BuildReport.h"
+#include "model/MaterialResult.h"
 
 class INode;
 

@@ -4,7 +4,6 @@
 #include <maxapi.h>
 
 #include "core/Debug.h"
-#include "core/Disk.h"
 #include "scene/ProxyObjectDatabase.h"
 
 namespace ZORVEL {
@@ -42,12 +41,6 @@ bool SetMeshFile(Object& object, const std::wstring& meshFile) {
   return block->SetValue(PROXY_FILE, now, meshFile.c_str()) != FALSE;
 }
 
-MeshState StateOnDisk(const std::wstring& meshFile) {
-  if (Disk::FileIsReadable(meshFile)) return MeshState::Found;
-  const bool exists = Disk::FileExists(meshFile) || Disk::FolderExists(meshFile);
-  return exists ? MeshState::Unreadable : MeshState::Missing;
-}
-
 ILayer* CharacterLayer() {
   ILayerManager* manager = GetCOREInterface13()->GetLayerManager();
   if (manager == nullptr) return nullptr;
@@ -66,7 +59,7 @@ ProxyNode SceneNodes::AddProxy(const std::wstring& meshFile, const wchar_t* name
   const bool isShared = object != nullptr;
   if (!isShared) object = NewProxy(meshFile);
   if (object == nullptr) return added;
-  added.mesh = isShared ? MeshState::Shared : StateOnDisk(meshFile);
+  added.mesh = isShared ? MeshState::Shared : MeshFiles::Look(meshFile);
   if (!SetMeshFile(*object, meshFile)) added.mesh = MeshState::Refused;
   Interface* host = GetCOREInterface();
   added.node = host->CreateObjectNode(object);

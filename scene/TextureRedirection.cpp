@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "core/Debug.h"
 #include "core/Disk.h"
@@ -40,10 +41,60 @@ T* Referenced(IParamBlock2& block, ParamID id) {
   return value;
 }
 
-void ScaleLength(IParamBlock2& block, ParamID id) {
+struct LengthParameter {
+  IParamBlock2* block;
+  ParamID id;
+};
+
+/// What of a material is redirected, in the order in which it is found and as often as it is found.
+class MaterialParts {
+ public:
+  explicit MaterialParts(Mtl& material) { AddMaterial(&material); }
+
+  const std::vector<BitmapTex*>& GetBitmaps() const { return m_bitmaps; }
+  const std::vector<LengthParameter>& GetLengths() const { return m_lengths; }
+
+ private:
+  /// Null is passed over, here and below.
+  void AddMaterial(Mtl* material);
+  void AddMap(Texmap* map);
+
+  std::vector<BitmapTex*> m_bitmaps;
+  std::vector<LengthParameter> m_lengths;
+};
+
+void MaterialParts::AddMaterial(Mtl* material) {
+  if (material == nullptr) return;
+  if (material->ClassID() == MULTI_MATERIAL_CLASS) {
+    for (int i = 0; i < material->NumSubMtls(); ++i) AddMaterial(material->GetSubMtl(i));
+    return;
+  }
+  for (int slot = 0; slot < TEXTURE_SLOTS; ++slot) AddMap(material->GetSubTexmap(slot));
+  const bool scaled = material->ClassID() == SCALED_MATERIAL_CLASS;
+  ForEachParameter(*material, [this, scaled](IParamBlock2& block, ParamID id) {
+    if (scaled && id == SCALED_PARAMETER) m_lengths.push_back({&block, id});
+    const ParamType2 type = block.GetParameterType(id);
+    if (type == TYPE_MTL) AddMaterial(Referenced<Mtl>(block, id));
+    if (type == TYPE_TEXMAP) AddMap(Referenced<Texmap>(block, id));
+  });
+}
+
+void MaterialParts::AddMap(Texmap* map) {
+  if (map == nullptr) return;
+  if (map->ClassID() == BITMAP_CLASS) {
+    m_bitmaps.push_back(static_cast<BitmapTex*>(map));
+    return;
+  }
+  ForEachParameter(*map, [this](IParamBlock2& block, ParamID id) {
+    if (block.GetParameterType(id) == TYPE_TEXMAP) AddMap(Referenced<Texmap>(block, id));
+  });
+}
+
+void ScaleLength(const LengthParameter& parameter) {
   float length = 0.0F;
   Interval valid = FOREVER;
-  if (block.GetValue(id, 0, length, valid) != FALSE) block.SetValue(id, 0, length * UnitFactor());
+  if (parameter.block->GetValue(parameter.id, 0, length, valid) == FALSE) return;
+  parameter.block->SetValue(parameter.id, 0, length * UnitFactor());
 }
 
 std::wstring FileNameOf(const wchar_t* path) {
@@ -53,72 +104,41 @@ std::wstring FileNameOf(const wchar_t* path) {
   return std::wstring(name) + extension;
 }
 
-/// One walk through a material.
-class Redirection {
- public:
-  explicit Redirection(const std::wstring& mapsFolder) : m_mapsFolder(mapsFolder) {}
-
-  /// Null is passed over, here and below.
-  void RedirectMaterial(Mtl* material);
-  const std::vector<std::wstring>& Missing() const { return m_missing; }
-
- private:
-  void RedirectMap(Texmap* map);
-  void RedirectBitmap(BitmapTex& bitmap);
-  void NoteMissing(const std::wstring& file);
-
-  const std::wstring& m_mapsFolder;
-  std::vector<std::wstring> m_missing;
-};
-
-void Redirection::RedirectMaterial(Mtl* material) {
-  if (material == nullptr) return;
-  if (material->ClassID() == MULTI_MATERIAL_CLASS) {
-    for (int i = 0; i < material->NumSubMtls(); ++i) RedirectMaterial(material->GetSubMtl(i));
-    return;
-  }
-  for (int slot = 0; slot < TEXTURE_SLOTS; ++slot) RedirectMap(material->GetSubTexmap(slot));
-  const bool scaled = material->ClassID() == SCALED_MATERIAL_CLASS;
-  ForEachParameter(*material, [this, scaled](IParamBlock2& block, ParamID id) {
-    if (scaled && id == SCALED_PARAMETER) ScaleLength(block, id);
-    const ParamType2 type = block.GetParameterType(id);
-    if (type == TYPE_MTL) RedirectMaterial(Referenced<Mtl>(block, id));
-    if (type == TYPE_TEXMAP) RedirectMap(Referenced<Texmap>(block, id));
-  });
+std::wstring TargetOf(const BitmapTex& bitmap, const std::wstring& mapsFolder) {
+  return mapsFolder + FileNameOf(bitmap.GetMap().GetFileName().data());
 }
 
-void Redirection::RedirectMap(Texmap* map) {
-  if (map == nullptr) return;
-  if (map->ClassID() == BITMAP_CLASS) {
-    RedirectBitmap(static_cast<BitmapTex&>(*map));
-    return;
-  }
-  ForEachParameter(*map, [this](IParamBlock2& block, ParamID id) {
-    if (block.GetParameterType(id) == TYPE_TEXMAP) RedirectMap(Referenced<Texmap>(block, id));
-  });
-}
-
-void Redirection::RedirectBitmap(BitmapTex& bitmap) {
+void RedirectBitmap(BitmapTex& bitmap, const std::wstring& mapsFolder) {
   using MaxSDK::AssetManagement::IAssetManager;
   using MaxSDK::AssetManagement::kBitmapAsset;
-  const std::wstring file = m_mapsFolder + FileNameOf(bitmap.GetMap().GetFileName().data());
+  const std::wstring file = TargetOf(bitmap, mapsFolder);
   Debug::AddDebugMessage(DEBUG_INFO, L"set new texture path:");
   Debug::AddDebugMessage(DEBUG_INFO, file.c_str());
   bitmap.SetMap(IAssetManager::GetInstance()->GetAsset(file.c_str(), kBitmapAsset));
-  NoteMissing(file);
 }
 
-void Redirection::NoteMissing(const std::wstring& file) {
-  const bool isKnown = std::find(m_missing.begin(), m_missing.end(), file) != m_missing.end();
-  if (!isKnown && !Disk::FileExists(file)) m_missing.push_back(file);
+std::vector<std::wstring> TargetsOf(const MaterialParts& parts, const std::wstring& mapsFolder) {
+  std::vector<std::wstring> files;
+  for (const BitmapTex* bitmap : parts.GetBitmaps()) {
+    std::wstring file = TargetOf(*bitmap, mapsFolder);
+    if (std::find(files.begin(), files.end(), file) == files.end()) files.push_back(std::move(file));
+  }
+  return files;
 }
 
 }  // namespace
 
+std::vector<std::wstring> TextureRedirection::Targets(Mtl& material, const std::wstring& mapsFolder) {
+  return TargetsOf(MaterialParts(material), mapsFolder);
+}
+
 std::vector<std::wstring> TextureRedirection::Redirect(Mtl& material, const std::wstring& mapsFolder) {
-  Redirection redirection(mapsFolder);
-  redirection.RedirectMaterial(&material);
-  return redirection.Missing();
+  const MaterialParts parts(material);
+  std::vector<std::wstring> files = TargetsOf(parts, mapsFolder);
+  for (const LengthParameter& parameter : parts.GetLengths()) ScaleLength(parameter);
+  for (BitmapTex* bitmap : parts.GetBitmaps()) RedirectBitmap(*bitmap, mapsFolder);
+  files.erase(std::remove_if(files.begin(), files.end(), Disk::FileExists), files.end());
+  return files;
 }
 
 }  // namespace ZORVEL

@@ -13,6 +13,9 @@ class TextureRedirection {
  public:
   TextureRedirection() = delete;
 
+  /// The files, each once and in order, that the bitmaps would name. Changes nothing and asks neither the disk nor
+  /// the host. The folder ends in a separator.
+  static std::vector<std::wstring> Targets(Mtl& material, const std::wstring& mapsFolder);
   /// The folder ends in a separator. Answers the files that the bitmaps now name and that are not there, each once.
   static std::vector<std::wstring> Redirect(Mtl& material, const std::wstring& mapsFolder);
 };
