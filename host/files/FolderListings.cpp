@@ -3,10 +3,9 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
-#include <clocale>
-#include <cwctype>
 #include <memory>
 
+#include "host/files/NameCase.h"
 #include "host/files/Paths.h"
 
 namespace host {
@@ -18,24 +17,7 @@ constexpr std::size_t MOST_FOLDERS = 256;
 // change again without its time showing it.
 constexpr std::time_t UNSETTLED_SECONDS = 3;
 
-/// A locale that knows all characters, whatever the process's locale is.
-locale_t unicodeLocale() {
-  static const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-  return locale;
-}
-
-wchar_t foldCharacter(wchar_t c) {
-  const auto wide = static_cast<wint_t>(c);
-  const locale_t locale = unicodeLocale();
-  if (!locale) return static_cast<wchar_t>(towlower(towupper(wide)));
-  return static_cast<wchar_t>(towlower_l(towupper_l(wide, locale), locale));
-}
-
-std::wstring foldName(const std::string& name) {
-  std::wstring folded = toWide(name);
-  for (wchar_t& c : folded) c = foldCharacter(c);
-  return folded;
-}
+std::wstring foldName(const std::string& name) { return inCapitals(toWide(name)); }
 
 bool sameTime(const std::timespec& left, const std::timespec& right) {
   return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
