@@ -4,7 +4,7 @@
 #include <mutex>
 
 #include "check/ParallelWork.h"
-#include "host/files/NameFolding.h"
+#include "host/files/NameCase.h"
 #include "host/files/Paths.h"
 
 namespace check {
@@ -36,7 +36,7 @@ bool isPassedOver(const fs::directory_entry& entry) {
 
 /// Of two names that are alike the first by the order of characters counts, as everywhere.
 void addFolded(std::unordered_map<std::wstring, std::wstring>& folded, const std::wstring& name) {
-  std::wstring& held = folded[host::foldName(name)];
+  std::wstring& held = folded[host::inCapitals(name)];
   if (held.empty() || name < held) held = name;
 }
 
@@ -164,7 +164,7 @@ std::wstring FolderIndex::onDisk(Folder& folder, const std::wstring& name) {
     for (const auto& [file, entry] : folder.files) addFolded(folder.folded, file);
     for (const auto& [below, entry] : folder.folders) addFolded(folder.folded, below);
   }
-  const auto alike = folder.folded.find(host::foldName(name));
+  const auto alike = folder.folded.find(host::inCapitals(name));
   if (alike == folder.folded.end()) return name;
   const std::string path = host::toUtf8(folder.path + L"/").erase(0, 1);
   caseDifferences_.insert({path + host::toUtf8(name), path + host::toUtf8(alike->second)});

@@ -77,6 +77,14 @@ enum GET_FILEEX_INFO_LEVELS { GetFileExInfoStandard };
 #define _MAX_FNAME 256
 #define _MAX_EXT 256
 
+#define CSTR_LESS_THAN 1
+#define CSTR_EQUAL 2
+#define CSTR_GREATER_THAN 3
+
+/// Compares texts of so many characters (zero-terminated for -1) by their code points, as capital letters where case is
+/// to be ignored. 0 for a null text.
+int WINAPI CompareStringOrdinal(LPCWSTR left, int leftLength, LPCWSTR right, int rightLength, BOOL ignoreCase);
+
 /// INVALID_FILE_ATTRIBUTES when the path names nothing that can be reached.
 DWORD WINAPI GetFileAttributesW(LPCWSTR path);
 

@@ -10,6 +10,7 @@
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/ListCommand.h"
 #include "apps/cli/SampleCommand.h"
+#include "apps/cli/author/InitCommand.h"
 
 namespace cli {
 
@@ -103,6 +104,13 @@ Command addSample(CLI::App& app) {
   return {command, [options] { return runSample(*options); }};
 }
 
+Command addInit(CLI::App& app) {
+  const auto folder = std::make_shared<std::filesystem::path>();
+  CLI::App* command = app.add_subcommand("init", "Write a small repository to begin with: one character that builds");
+  command->add_option("DIR", *folder, "Folder to write; must be empty or not exist")->required();
+  return {command, [folder] { return runInit(*folder); }};
+}
+
 int report(const CLI::App& app, const CLI::ParseError& error) {
   return app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE;
 }
@@ -114,7 +122,7 @@ int run(int argc, const char* const* argv) try {
   app.footer(EXIT_TEXT);
   app.set_version_flag("--version", "zorvel 1.0.0");
   app.require_subcommand(1);
-  const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app)};
+  const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app), addInit(app)};
   for (const Command& command : commands) command.app->footer(EXIT_TEXT);
   try {
     app.parse(argc, argv);

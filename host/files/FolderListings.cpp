@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "host/files/NameFolding.h"
+#include "host/files/NameCase.h"
 #include "host/files/Paths.h"
 
 namespace host {
@@ -17,6 +17,8 @@ constexpr std::size_t MOST_FOLDERS = 256;
 // change again without its time showing it.
 constexpr std::time_t UNSETTLED_SECONDS = 3;
 
+std::wstring foldName(const std::string& name) { return inCapitals(toWide(name)); }
+
 bool sameTime(const std::timespec& left, const std::timespec& right) {
   return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
 }
@@ -27,7 +29,7 @@ std::unordered_map<std::wstring, std::string> readNames(const std::string& folde
   if (!directory) return names;
   while (const dirent* entry = ::readdir(directory.get())) {
     const std::string name = entry->d_name;
-    std::string& held = names[foldName(toWide(name))];
+    std::string& held = names[foldName(name)];
     if (held.empty() || name < held) held = name;
   }
   return names;
@@ -44,7 +46,7 @@ std::string FolderListings::find(const std::string& folder, const std::string& n
   const std::lock_guard<std::mutex> lock(mutex_);
   const Listing* listing = current(folder);
   if (!listing) return name;
-  const auto position = listing->names.find(foldName(toWide(name)));
+  const auto position = listing->names.find(foldName(name));
   return position == listing->names.end() ? name : position->second;
 }
 
