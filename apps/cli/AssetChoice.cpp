@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "apps/cli/ModelText.h"
+#include "apps/support/ModelText.h"
 #include "apps/support/NearestIds.h"
 #include "host/files/Paths.h"
 #include "model/Data2.h"
@@ -13,6 +13,8 @@
 #include "plugin/InitialChoice.h"
 
 namespace cli {
+
+using namespace apps;
 
 using ZORVEL::CharacterData;
 using ZORVEL::Data2;
@@ -49,7 +51,7 @@ void AssetChoice::wishFor(const std::string& wanted) {
     asset = find(id);
   }
   if (asset == nullptr) {
-    result_.errors.push_back(apps::unknownId("asset", id, idsOf(elementsOf(character_, ZORVEL::ASSETS))));
+    result_.errors.push_back(unknownId("asset", id, idsOf(elementsOf(character_, ZORVEL::ASSETS))));
     return;
   }
   const DataContainer* record = recordOf(*asset);
@@ -57,7 +59,7 @@ void AssetChoice::wishFor(const std::string& wanted) {
   const auto found = std::find_if(materials.begin(), materials.end(),
                                   [&](const DataContainer* one) { return field(one, FIELD_ID) == material; });
   if (!material.empty() && found == materials.end()) {
-    result_.errors.push_back(apps::unknownId("material of " + field(record, FIELD_ID), material, idsOf(materials)));
+    result_.errors.push_back(unknownId("material of " + field(record, FIELD_ID), material, idsOf(materials)));
     return;
   }
   wishes_.push_back({id, record, material.empty() ? nullptr : *found, nullptr, 0, {}});

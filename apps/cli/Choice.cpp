@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "apps/cli/AssetChoice.h"
-#include "apps/cli/ModelText.h"
+#include "apps/support/ModelText.h"
 #include "apps/support/NearestIds.h"
 #include "core/FileStamps.h"
 #include "host/files/Paths.h"
@@ -16,6 +16,8 @@
 #include "plugin/InitialChoice.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace {
 
@@ -110,7 +112,7 @@ class Chooser {
     const auto found = std::find_if(records.begin(), records.end(), fits);
     if (found == records.end()) {
       if (wish) {
-        fail(apps::unknownId(kind, *wish, idsOf(records)));
+        fail(unknownId(kind, *wish, idsOf(records)));
       } else {
         fail("There is no usable " + kind + " to choose.");
         for (const Record* record : records) failFor(kind, *record, whyNot(*record));
@@ -150,7 +152,7 @@ class Chooser {
         return nullptr;
       }
     }
-    fail(apps::unknownId(kind, id, idsOf(known)));
+    fail(unknownId(kind, id, idsOf(known)));
     return nullptr;
   }
 

@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 
 #include "apps/cli/ExitStatus.h"
-#include "apps/cli/ModelText.h"
 #include "apps/support/LoadedRepository.h"
+#include "apps/support/ModelText.h"
 #include "apps/support/ParseNoteText.h"
 #include "host/files/Paths.h"
 #include "model/Data2.h"
@@ -14,6 +14,8 @@
 #include "model/RepositoryValidation.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include <sstream>
 
 #include "apps/cli/Choice.h"
-#include "apps/cli/ModelText.h"
+#include "apps/support/ModelText.h"
 #include "core/FileStamps.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
@@ -222,9 +222,9 @@ class Offers {
     expectAll(ZORVEL::POSES);
     expectAll(ZORVEL::SKINS);
     if (const DataContainer* cloth = character_.GetCloth(Selection2::GetCloth())) {
-      for (const DataContainer* style : cli::clothChildren(*cloth, ZORVEL::MATERIAL)) expectKnown(style);
+      for (const DataContainer* style : apps::clothChildren(*cloth, ZORVEL::MATERIAL)) expectKnown(style);
     }
-    for (const DataContainer* asset : cli::elementsOf(character_, ZORVEL::ASSETS)) {
+    for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
       const DataContainer* global = Data2::CheckAssetGlobal(asset) ? Data2::GetGlobalAssetForAsset(asset) : nullptr;
       expectKnown(global != nullptr && known_.count(asset) == 0 ? global : asset);
     }
@@ -248,10 +248,10 @@ class Offers {
   }
 
   void expectAll(ZORVEL::CONTAINER container) const {
-    for (const DataContainer* element : cli::elementsOf(character_, container)) expectKnown(element);
+    for (const DataContainer* element : apps::elementsOf(character_, container)) expectKnown(element);
   }
   void expectKnown(const DataContainer* element) const {
-    EXPECT_EQ(known_.count(element), 1U) << cli::nameOf(*element) << " is on no page and has no reason";
+    EXPECT_EQ(known_.count(element), 1U) << apps::nameOf(*element) << " is on no page and has no reason";
   }
 
   const CharacterData& character_;

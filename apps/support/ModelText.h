@@ -6,7 +6,7 @@
 #include "model/CharacterData.h"
 #include "model/RepositoryFormat.h"
 
-namespace cli {
+namespace apps {
 
 /// The field as UTF-8; empty for a null record and a missing field.
 std::string field(const ZORVEL::DataContainer* record, const wchar_t* name);
@@ -28,4 +28,4 @@ std::vector<std::string> idsOf(const std::vector<Record*>& records) {
 /// For a person: id and name, as far as it has them.
 std::string nameOf(const ZORVEL::DataContainer& record);
 
-}  // namespace cli
+}  // namespace apps

@@ -1,9 +1,9 @@
-#include "apps/cli/ModelText.h"
+#include "apps/support/ModelText.h"
 
 #include "host/files/Paths.h"
 #include "model/Data2.h"
 
-namespace cli {
+namespace apps {
 
 using ZORVEL::CharacterData;
 using ZORVEL::Data2;
@@ -51,4 +51,4 @@ std::string nameOf(const DataContainer& record) {
   return "\"" + id + "\" (" + name + ")";
 }
 
-}  // namespace cli
+}  // namespace apps

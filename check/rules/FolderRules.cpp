@@ -1,0 +1,111 @@
+#include "check/rules/FolderRules.h"
+
+#include "apps/support/ModelText.h"
+#include "core/WindowsNames.h"
+#include "model/Data2.h"
+#include "model/Fields.h"
+#include "model/RepositoryFormat.h"
+#include "model/RepositoryPaths.h"
+#include "model/RepositoryValidation.h"
+
+namespace check {
+
+using ZORVEL::CharacterData;
+using ZORVEL::DataContainer;
+using ZORVEL::Fields;
+using ZORVEL::WhyNot;
+using ZORVEL::XmlElement;
+using namespace ZORVEL::RepositoryFormat;
+
+namespace {
+
+/// As the description has it: for a character the record holds the whole path.
+std::wstring writtenAttribute(const XmlElement* element, const wchar_t* name) {
+  const wchar_t* text = element != nullptr ? element->FindAttribute(name) : nullptr;
+  return text != nullptr ? text : L"";
+}
+
+std::vector<std::wstring> namesIn(const std::wstring& path) {
+  std::vector<std::wstring> names(1);
+  for (const wchar_t c : path) {
+    if (c == L'\\' || c == L'/') {
+      names.emplace_back();
+    } else {
+      names.back() += c;
+    }
+  }
+  return names;
+}
+
+bool leadsOut(const std::wstring& path) {
+  int depth = 0;
+  for (const std::wstring& name : namesIn(path)) {
+    if (name == L"..") --depth;
+    if (name != L".." && name != L"." && !name.empty()) ++depth;
+    if (depth < 0) return true;
+  }
+  return path.size() > 1 && path[1] == L':';
+}
+
+}  // namespace
+
+void FolderRules::run() {
+  for (const DataContainer* shared : apps::globalAssets()) {
+    lookAt(*shared, nullptr, RuleId::GlobalFolderMissing, EntryKind::SharedAsset);
+    lookAtName(*shared, FIELD_FOLDER);
+    for (const DataContainer* material : apps::childrenOf(*shared)) lookAtName(*material, FIELD_PREVIEW);
+  }
+  for (const CharacterData* character : apps::characters()) lookAt(*character);
+}
+
+void FolderRules::lookAt(const CharacterData& character) {
+  lookAtName(character, FIELD_FOLDER);
+  if (writtenAttribute(survey_.elementOf(&character), FIELD_FOLDER).empty()) {
+    survey_.findings.add(RuleId::FolderEmpty, &character, {wordFor(EntryKind::Character)});
+  }
+  for (const DataContainer* skin : apps::elementsOf(character, ZORVEL::SKINS)) lookAtName(*skin, FIELD_PREVIEW);
+  for (const DataContainer* clothing : apps::elementsOf(character, ZORVEL::CLOTH)) {
+    lookAt(*clothing, &character, RuleId::ClothingFolderMissing, EntryKind::Clothing);
+    lookAtName(*clothing, FIELD_FOLDER);
+    for (const DataContainer* style : apps::clothChildren(*clothing, ZORVEL::MATERIAL))
+      lookAtName(*style, FIELD_PREVIEW);
+  }
+  for (const DataContainer* pose : apps::elementsOf(character, ZORVEL::POSES)) {
+    lookAt(*pose, &character, RuleId::PoseFolderMissing, EntryKind::Pose);
+    lookAtName(*pose, FIELD_FOLDER);
+  }
+  for (const DataContainer* asset : apps::elementsOf(character, ZORVEL::ASSETS)) {
+    // What stands for a shared asset has no folder of its own.
+    if (ZORVEL::Data2::CheckAssetGlobal(asset)) continue;
+    lookAt(*asset, &character, RuleId::AssetFolderMissing, EntryKind::Asset);
+    lookAtName(*asset, FIELD_FOLDER);
+    for (const DataContainer* material : apps::childrenOf(*asset)) lookAtName(*material, FIELD_PREVIEW);
+  }
+}
+
+void FolderRules::lookAt(const DataContainer& record, const CharacterData* character, RuleId missing, EntryKind kind) {
+  const ZORVEL::Refusal refusal = ZORVEL::RepositoryValidation::WhyUnmarked(record, character);
+  if (refusal.why == WhyNot::FolderMissing) {
+    survey_.findings.add(missing, &record, {survey_.shown(refusal.concerned)});
+  } else if (refusal.why == WhyNot::FolderUnnamed && kind == EntryKind::Clothing) {
+    survey_.findings.add(RuleId::ClothingFolderUnnamed, &record, {});
+  } else if (refusal.why == WhyNot::FolderUnnamed) {
+    survey_.findings.add(RuleId::FolderUnnamed, &record, {wordFor(kind)});
+  } else if (refusal.why == WhyNot::Nothing && Fields::Equals(&record, FIELD_FOLDER, L"")) {
+    survey_.findings.add(RuleId::FolderEmpty, &record, {wordFor(kind)});
+  }
+}
+
+void FolderRules::lookAtName(const DataContainer& record, const wchar_t* attribute) {
+  const std::wstring path = writtenAttribute(survey_.elementOf(&record), attribute);
+  if (path.empty()) return;
+  if (leadsOut(path)) return survey_.findings.add(RuleId::FolderOutside, &record, {attribute, path});
+  for (const std::wstring& name : namesIn(path)) {
+    if (name.empty() || name == L"." || name == L"..") continue;
+    const ZORVEL::NameRefusal refusal = ZORVEL::WindowsNames::WhyRefused(name);
+    if (refusal.fault == ZORVEL::NameFault::None) continue;
+    return survey_.findings.add(RuleId::NameRefusedByWindows, &record, {attribute, path, refusal.GetText()});
+  }
+}
+
+}  // namespace check

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "check/rules/Survey.h"
+
+namespace check {
+
+/// Folders that are not there, as the check on disk has marked them.
+class FolderRules {
+ public:
+  explicit FolderRules(Survey& survey) : survey_(survey) {}
+  void run();
+
+ private:
+  void lookAt(const ZORVEL::CharacterData& character);
+  void lookAt(const ZORVEL::DataContainer& record, const ZORVEL::CharacterData* character, RuleId missing,
+              EntryKind kind);
+  void lookAtName(const ZORVEL::DataContainer& record, const wchar_t* attribute);
+
+  Survey& survey_;
+};
+
+}  // namespace check

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <set>
+#include <unordered_map>
+
+#include "check/Vocabulary.h"
+#include "check/rules/Survey.h"
+
+namespace check {
+
+/// What the parser has refused, skipped or limited, as it has told, and what it has read and nobody ever asks for.
+class ReadingRules {
+ public:
+  explicit ReadingRules(Survey& survey) : survey_(survey) {}
+  void run();
+
+ private:
+  void tell(const ZORVEL::ParseNote& note);
+  void tellSkipped(const ZORVEL::ParseNote& note);
+  void walk(const ZORVEL::XmlElement& element, const ElementEntry& entry);
+  void lookAtAttributes(const ZORVEL::XmlElement& element, const ElementEntry& entry);
+  void lookAtName(const ZORVEL::XmlElement& element, const ElementEntry& entry);
+  void lookAtValue(const ZORVEL::XmlElement& element, const ElementEntry& entry, const AttributeEntry& attribute,
+                   const wchar_t* value);
+
+  Survey& survey_;
+  /// The kinds of the elements around those that were skipped.
+  std::unordered_map<const ZORVEL::XmlElement*, const ElementEntry*> entries_;
+  std::set<const ZORVEL::XmlElement*> refused_;
+};
+
+}  // namespace check
