@@ -3,6 +3,7 @@
 #include <shlobj.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -31,22 +32,28 @@ bool FindSettingsFile(std::wstring& name) {
   return true;
 }
 
+PathKeeping KeepingOf(std::size_t length) {
+  if (length < SHORTEST_PATH) return PathKeeping::TooShort;
+  return length > LONGEST_FILE ? PathKeeping::TooLong : PathKeeping::Whole;
+}
+
+/// Empty when there is too much of it.
 std::wstring ReadLatin1(std::FILE* file) {
   std::wstring text;
   char buffer[4096];
   while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, file)) {
     for (std::size_t i = 0; i < count; ++i) text += static_cast<wchar_t>(static_cast<unsigned char>(buffer[i]));
-    if (text.size() > LONGEST_FILE) return std::wstring();
+    if (KeepingOf(text.size()) == PathKeeping::TooLong) return std::wstring();
   }
   return text;
 }
 
+bool FitsOneByte(wchar_t character) { return character >= 0 && character <= 0xFF; }
+
 std::string Latin1Beginning(const std::wstring& text) {
-  std::string bytes;
-  for (const wchar_t character : text) {
-    if (character < 0 || character > 0xFF) break;
-    bytes += static_cast<char>(static_cast<unsigned char>(character));
-  }
+  std::string bytes(Settings::WhatIsKept(text).length, '\0');
+  std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(bytes.size()), bytes.begin(),
+                 [](wchar_t character) { return static_cast<char>(static_cast<unsigned char>(character)); });
   return bytes;
 }
 
@@ -94,6 +101,12 @@ const wchar_t* Settings::GetPath() {
   return m_singleton->m_path.c_str();
 }
 
+KeptPath Settings::WhatIsKept(const std::wstring& path) {
+  const auto end = std::find_if_not(path.begin(), path.end(), FitsOneByte);
+  const auto length = static_cast<std::size_t>(end - path.begin());
+  return {end != path.end() ? PathKeeping::Cut : KeepingOf(length), length};
+}
+
 bool Settings::StorePath(const wchar_t* path) {
   if (!m_singleton) {
     Debug::AddDebugMessage(DEBUG_ERROR, L"Settings::GetPathSet - singleton is nullptr");
@@ -130,7 +143,7 @@ bool Settings::LoadFromSettingsFile() {
   const File file = OpenSettingsFile(name, L"r");
   if (!file) return false;
   std::wstring text = ReadLatin1(file.get());
-  if (text.size() < SHORTEST_PATH) return false;
+  if (KeepingOf(text.size()) != PathKeeping::Whole) return false;
   m_singleton->m_path = std::move(text);
   m_singleton->m_pathSet = true;
   return true;

@@ -1,5 +1,6 @@
 #include "ui/MainWindowClothPreview.h"
 
+#include "model/PictureSize.h"
 #include "model/RepositoryPaths.h"
 #include "plugin/Commands.h"
 #include "ui/Texts.h"
@@ -12,7 +13,8 @@ void MainWindowClothPreview::Create(QWidget* panel, int x, OfferedElement cloth,
   PictureSource source;
   source.path = m_cloth.picturePath;
   source.stamp = files.Get(source.path);
-  source.box = QSize(110, 330);
+  const PictureSize box = PictureSize::OfBox(PageKind::Clothing);
+  source.box = QSize(box.width, box.height);
   if (!isAvailable()) {
     source.overlay = RepositoryPaths::ClothOverlay(RepositoryPaths::Root());
     source.overlayStamp = files.Get(source.overlay);

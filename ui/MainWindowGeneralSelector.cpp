@@ -5,6 +5,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/PageOffers.h"
+#include "model/PictureSize.h"
 #include "model/Selection2.h"
 #include "ui/DestroyTogether.h"
 #include "ui/Log.h"
@@ -72,28 +73,29 @@ void MainWindowGeneralSelector::AddPage(PageOffer page, int width) {
     case PageKind::Clothing:
       return;
     case PageKind::Poses:
-      posesTab = MakePage<MainWindowPosesTab>(100, 300, page.title, width);
+      posesTab = MakePage<MainWindowPosesTab>(page, width);
       return posesTab->FillPoses(std::move(page));
     case PageKind::Skins:
-      skinTab = MakePage<MainWindowSkinTab>(150, 150, page.title, width);
+      skinTab = MakePage<MainWindowSkinTab>(page, width);
       return skinTab->FillSkins(std::move(page));
     case PageKind::Styles:
-      clothMaterialTab = MakePage<MainWindowClothMaterialsTab>(100, 300, page.title, width);
+      clothMaterialTab = MakePage<MainWindowClothMaterialsTab>(page, width);
       return clothMaterialTab->FillMaterials(std::move(page));
     case PageKind::Assets:
       if (!page.hasTab) return;
-      auto* tab = MakePage<MainWindowGenericTab>(150, 150, page.title, width);
+      auto* tab = MakePage<MainWindowGenericTab>(page, width);
       return tab->FillAssets(std::move(page));
   }
 }
 
 template <class Page>
-Page* MainWindowGeneralSelector::MakePage(int w, int h, const std::wstring& title, int width) {
+Page* MainWindowGeneralSelector::MakePage(const PageOffer& offer, int width) {
   auto page = std::make_unique<Page>(*m_parent, m_files);
   Page* added = page.get();
   m_pages.push_back(std::move(page));
-  added->SetSize(w, h);
-  added->Create(m_control, width, title);
+  const PictureSize size = PictureSize::OfBox(offer.kind);
+  added->SetPictureSize(QSize(size.width, size.height));
+  added->Create(m_control, width, offer.title);
   return added;
 }
 

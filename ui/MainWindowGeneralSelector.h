@@ -44,7 +44,7 @@ class MainWindowGeneralSelector {
   /// Drops the pages from the index on.
   void RemovePages(std::size_t first);
   template <class Page>
-  Page* MakePage(int w, int h, const std::wstring& title, int width);
+  Page* MakePage(const PageOffer& offer, int width);
 
   TabControl* m_control = nullptr;
   std::vector<std::unique_ptr<MainWindowGeneralPage>> m_pages;

@@ -21,7 +21,20 @@ QString WhyRefused(const QImageReader& reader, const QSize& size) {
   return QString();
 }
 
+/// Leaves the reader ready to decode.
+QSize SizeIn(QImageReader& reader, QString& problem) {
+  reader.setDecideFormatFromContent(true);
+  const QSize size = reader.size();
+  problem = WhyRefused(reader, size);
+  return problem.isEmpty() ? size : QSize();
+}
+
 }  // namespace
+
+QSize PictureReader::Measure(QIODevice& device, QString& problem) {
+  QImageReader reader(&device);
+  return SizeIn(reader, problem);
+}
 
 QImage PictureReader::Read(const std::wstring& path, const QSize& box, QString& problem) {
   std::FILE* stream = _wfopen(path.c_str(), L"rb");
@@ -31,10 +44,8 @@ QImage PictureReader::Read(const std::wstring& path, const QSize& box, QString& 
     return QImage();
   }
   QImageReader reader(&file);
-  reader.setDecideFormatFromContent(true);
-  const QSize size = reader.size();
-  problem = WhyRefused(reader, size);
-  if (!problem.isEmpty()) return QImage();
+  const QSize size = SizeIn(reader, problem);
+  if (size.isEmpty()) return QImage();
   reader.setClipRect(QRect(QPoint(), size.boundedTo(box)));
   QImage image = reader.read();
   if (image.isNull()) problem = reader.errorString();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIODevice>
 #include <QImage>
 #include <QString>
 #include <string>
@@ -9,8 +10,11 @@ namespace ZORVEL {
 /// Reads picture files of any type that the toolkit knows, told by their content whatever their names say.
 class PictureReader {
  public:
-  /// The upper left corner of the picture, no larger than `box`. Null, and `problem` says why in a few words, for what
-  /// is no picture, is cut off, or has more than 64 million pixels, which are refused before they are decoded.
+  /// In pixels, without decoding the picture. Empty, and `problem` says why in a few words, for what is no picture or
+  /// has more than 64 million pixels. The device is open for reading.
+  static QSize Measure(QIODevice& device, QString& problem);
+  /// The upper left corner of the picture, no larger than `box`. Null, and `problem` says why, for what cannot be
+  /// measured, which is not decoded, and for what is cut off.
   static QImage Read(const std::wstring& path, const QSize& box, QString& problem);
 };
 

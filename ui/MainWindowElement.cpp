@@ -1,4 +1,4 @@
-#include "ui/MainWindowElementBase.h"
+#include "ui/MainWindowElement.h"
 
 #include <utility>
 
@@ -10,12 +10,18 @@
 
 namespace ZORVEL {
 
-void MainWindowElementBase::Create(OfferedElement content, MainWindowGeneralPage* host) {
+namespace {
+
+const int CHECK_BOX_HEIGHT = 50;
+
+}  // namespace
+
+void MainWindowElement::Create(OfferedElement content, MainWindowGeneralPage* host) {
   m_content = std::move(content);
   m_host = host;
 }
 
-void MainWindowElementBase::MakeControls(QWidget* parent) {
+void MainWindowElement::MakeControls(QWidget* parent) {
   const QString name = Texts::FromWide(m_content.text);
   const QString description = Describe();
   const QString toolTip = Texts::ToolTip(description);
@@ -31,29 +37,29 @@ void MainWindowElementBase::MakeControls(QWidget* parent) {
   m_logo->setAccessibleDescription(Texts::OneLine(description));
 }
 
-void MainWindowElementBase::MakeCheckBox(QWidget* parent) {
+void MainWindowElement::MakeCheckBox(QWidget* parent) {
   m_checkBox = new WrappingCheckBox(parent);
-  m_checkBox->resize(GetCheckBoxSize());
+  m_checkBox->resize(m_host->GetPictureSize().width(), CHECK_BOX_HEIGHT);
   m_checkBox->setChecked(m_selected);
   QObject::connect(m_checkBox, &QCheckBox::clicked, m_checkBox, [this] { AfterSelect(); });
 }
 
-void MainWindowElementBase::MakePicture(QWidget* parent) {
+void MainWindowElement::MakePicture(QWidget* parent) {
   PictureSource source;
   source.path = m_content.picturePath;
   source.stamp = m_host->GetFiles().Get(source.path);
-  source.box = GetPictureSize();
+  source.box = m_host->GetPictureSize();
   if (!isAvailable()) {
     source.overlay = RepositoryPaths::ElementOverlay(RepositoryPaths::Root());
     source.overlayStamp = m_host->GetFiles().Get(source.overlay);
   }
   m_logo = new PictureBox(parent);
-  m_logo->resize(GetPictureSize());
+  m_logo->resize(source.box);
   m_logo->SetSource(source);
   QObject::connect(m_logo, &PictureBox::clicked, m_logo, [this] { AfterSelectImage(); });
 }
 
-QString MainWindowElementBase::Describe() const {
+QString MainWindowElement::Describe() const {
   QString text = Texts::FromWide(m_content.text);
   if (isAvailable()) return text;
   text += QObject::tr("\nNot available, this file is missing: %1").arg(Texts::FromWide(m_content.refusal.concerned));
@@ -62,35 +68,35 @@ QString MainWindowElementBase::Describe() const {
   return text;
 }
 
-void MainWindowElementBase::Place(int x, int y) {
+void MainWindowElement::Place(int x, int y) {
   if (m_checkBox != nullptr) m_checkBox->move(x, y);
   if (m_logo != nullptr) m_logo->move(x, y - m_logo->height());
 }
 
-void MainWindowElementBase::SetSelected(bool selected) {
+void MainWindowElement::SetSelected(bool selected) {
   m_selected = selected;
   if (m_checkBox != nullptr) m_checkBox->setChecked(selected);
 }
 
-void MainWindowElementBase::SelectThisInCase(int unique) {
+void MainWindowElement::SelectThisInCase(int unique) {
   if (GetUnique() == unique) SetSelected(true);
 }
 
-void MainWindowElementBase::Focus() {
+void MainWindowElement::Focus() {
   if (m_checkBox != nullptr) m_checkBox->setFocus();
 }
 
-void MainWindowElementBase::AfterSelect() {
+void MainWindowElement::AfterSelect() {
   m_selected = m_checkBox->isChecked();
   TellHost(m_selected);
 }
 
-void MainWindowElementBase::AfterSelectImage() {
+void MainWindowElement::AfterSelectImage() {
   if (isAvailable()) return TellHost(!m_selected);
   WebAddress::Open(Texts::FromWide(m_content.url));
 }
 
-void MainWindowElementBase::TellHost(bool selected) {
+void MainWindowElement::TellHost(bool selected) {
   LogInfo(selected ? L"select..." : L"unselect...");
   if (selected) return m_host->SelectedElement(GetUnique());
   m_host->UnselectElement(GetUnique());
