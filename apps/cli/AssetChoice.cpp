@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "apps/cli/ModelText.h"
-#include "apps/cli/NearestIds.h"
+#include "apps/support/NearestIds.h"
 #include "host/files/Paths.h"
 #include "model/Data2.h"
 #include "model/RepositoryFormat.h"
@@ -49,7 +49,7 @@ void AssetChoice::wishFor(const std::string& wanted) {
     asset = find(id);
   }
   if (asset == nullptr) {
-    result_.errors.push_back(unknownId("asset", id, idsOf(elementsOf(character_, ZORVEL::ASSETS))));
+    result_.errors.push_back(apps::unknownId("asset", id, idsOf(elementsOf(character_, ZORVEL::ASSETS))));
     return;
   }
   const DataContainer* record = recordOf(*asset);
@@ -57,7 +57,7 @@ void AssetChoice::wishFor(const std::string& wanted) {
   const auto found = std::find_if(materials.begin(), materials.end(),
                                   [&](const DataContainer* one) { return field(one, FIELD_ID) == material; });
   if (!material.empty() && found == materials.end()) {
-    result_.errors.push_back(unknownId("material of " + field(record, FIELD_ID), material, idsOf(materials)));
+    result_.errors.push_back(apps::unknownId("material of " + field(record, FIELD_ID), material, idsOf(materials)));
     return;
   }
   wishes_.push_back({id, record, material.empty() ? nullptr : *found, nullptr, 0, {}});

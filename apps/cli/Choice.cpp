@@ -4,7 +4,7 @@
 
 #include "apps/cli/AssetChoice.h"
 #include "apps/cli/ModelText.h"
-#include "apps/cli/NearestIds.h"
+#include "apps/support/NearestIds.h"
 #include "core/FileStamps.h"
 #include "host/files/Paths.h"
 #include "model/Data2.h"
@@ -110,7 +110,7 @@ class Chooser {
     const auto found = std::find_if(records.begin(), records.end(), fits);
     if (found == records.end()) {
       if (wish) {
-        fail(unknownId(kind, *wish, idsOf(records)));
+        fail(apps::unknownId(kind, *wish, idsOf(records)));
       } else {
         fail("There is no usable " + kind + " to choose.");
         for (const Record* record : records) failFor(kind, *record, whyNot(*record));
@@ -150,7 +150,7 @@ class Chooser {
         return nullptr;
       }
     }
-    fail(unknownId(kind, id, idsOf(known)));
+    fail(apps::unknownId(kind, id, idsOf(known)));
     return nullptr;
   }
 

@@ -7,7 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "apps/cli/ExitStatus.h"
-#include "apps/cli/NearestIds.h"
+#include "apps/support/NearestIds.h"
 #include "tests/support/SmallRepository.h"
 
 namespace {
@@ -145,7 +145,7 @@ TEST_F(CommandLine, NamesTheNearestIdsAndBuildsNothingForAnUnknownOne) {
     EXPECT_THAT(outcome.out, Not(HasSubstr("Built")));
     EXPECT_FALSE(isWritten("none.json"));
   }
-  EXPECT_THAT(cli::nearestIds("Standng", {"sitting", "standing", "walking"}),
+  EXPECT_THAT(apps::nearestIds("Standng", {"sitting", "standing", "walking"}),
               ElementsAre("standing", "sitting", "walking"));
 }
 

@@ -1,11 +1,11 @@
-#include "apps/cli/NearestIds.h"
+#include "apps/support/NearestIds.h"
 
 #include <algorithm>
 #include <cctype>
 #include <numeric>
 #include <utility>
 
-namespace cli {
+namespace apps {
 
 namespace {
 
@@ -55,4 +55,4 @@ std::string unknownId(const std::string& kind, const std::string& wanted, const 
   return text + ".";
 }
 
-}  // namespace cli
+}  // namespace apps

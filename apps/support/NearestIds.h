@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace cli {
+namespace apps {
 
 /// The up to three ids that are most like the wanted one, best first; those that have nothing in common with it are
 /// left out.
@@ -12,4 +12,4 @@ std::vector<std::string> nearestIds(const std::string& wanted, const std::vector
 /// A sentence about an id that there is not, which names the nearest or, when none is near, some of the known.
 std::string unknownId(const std::string& kind, const std::string& wanted, const std::vector<std::string>& known);
 
-}  // namespace cli
+}  // namespace apps
