@@ -14,7 +14,7 @@ using Severities = std::map<std::string, std::optional<Severity>>;
 const Severities SEVERITIES = {
     {"error", Severity::Error}, {"hint", Severity::Hint}, {"off", std::nullopt}, {"warning", Severity::Warning}};
 
-std::string quoted(const std::string& text) { return '"' + printable(text) + '"'; }
+std::string quotedSafely(const std::string& text) { return '"' + printable(text) + '"'; }
 
 std::string lowerCase(std::string text) {
   for (char& c : text) {
@@ -42,7 +42,7 @@ std::string unknownRule(const std::string& text) {
   for (const std::string& one : apps::nearestIds(text.substr(0, LONGEST), known)) {
     nearest += (nearest.empty() ? "; nearest: " : ", ") + one;
   }
-  return "there is no rule " + quoted(text) + nearest;
+  return "there is no rule " + quotedSafely(text) + nearest;
 }
 
 }  // namespace
@@ -61,7 +61,7 @@ std::string Judgement::setSeverity(const std::string& rule, const std::string& s
   const Rule* found = ruleCalled(rule);
   if (found == nullptr) return unknownRule(rule);
   const auto known = SEVERITIES.find(severity);
-  if (known == SEVERITIES.end()) return quoted(severity) + " is none of error, warning, hint, off";
+  if (known == SEVERITIES.end()) return quotedSafely(severity) + " is none of error, warning, hint, off";
   severities_[found->id] = known->second;
   return {};
 }
@@ -70,7 +70,7 @@ std::string Judgement::setFailOn(const std::string& severity) {
   static const std::map<std::string, FailOn> KNOWN = {
       {"error", FailOn::Error}, {"hint", FailOn::Hint}, {"never", FailOn::Never}, {"warning", FailOn::Warning}};
   const auto known = KNOWN.find(severity);
-  if (known == KNOWN.end()) return quoted(severity) + " is none of error, warning, hint, never";
+  if (known == KNOWN.end()) return quotedSafely(severity) + " is none of error, warning, hint, never";
   failOn_ = known->second;
   return {};
 }

@@ -13,11 +13,11 @@ namespace check {
 
 namespace {
 
-using Json = nlohmann::json;
+using Json = nlohmann::ordered_json;
 using Take = std::function<std::string(const std::string&)>;
 
 /// Of a file; far beyond what a person writes there.
-constexpr std::uintmax_t MOST_BYTES = 1 << 20;
+constexpr std::uintmax_t MOST_JUDGEMENT_BYTES = 1 << 20;
 
 std::string at(const std::string& key, const std::string& error) {
   return error.empty() ? error : printable(key) + ": " + error;
@@ -77,7 +77,7 @@ std::string takeAll(const Json& json, Judgement& judgement) {
 }
 
 /// Where in the text the reader stopped, as an editor counts.
-std::string placeOf(std::string_view text, std::size_t byte) {
+std::string positionOf(std::string_view text, std::size_t byte) {
   const std::string_view before = text.substr(0, byte == 0 ? 0 : byte - 1);
   const std::size_t lineStart = before.rfind('\n') + 1;
   return "line " + std::to_string(std::count(before.begin(), before.end(), '\n') + 1) + ", column " +
@@ -88,7 +88,7 @@ std::string takeFile(const std::string& text, Judgement& judgement) {
   try {
     return takeAll(Json::parse(text), judgement);
   } catch (const Json::parse_error& error) {
-    return "is no JSON from " + placeOf(text, error.byte) + " on";
+    return "is no JSON from " + positionOf(text, error.byte) + " on";
   }
 }
 
@@ -96,7 +96,7 @@ std::string read(const std::filesystem::path& file, std::string& text) {
   std::error_code error;
   // A pipe of that name would keep its reader waiting.
   if (!std::filesystem::is_regular_file(file, error)) return "is no file";
-  if (std::filesystem::file_size(file, error) > MOST_BYTES) return "is larger than a megabyte";
+  if (std::filesystem::file_size(file, error) > MOST_JUDGEMENT_BYTES) return "is larger than a megabyte";
   std::ifstream stream(file, std::ios::binary);
   text.assign(std::istreambuf_iterator<char>(stream), {});
   return stream ? "" : "cannot be read";
