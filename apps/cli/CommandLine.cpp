@@ -120,7 +120,7 @@ int report(const CLI::App& app, const CLI::ParseError& error) {
 int run(int argc, const char* const* argv) try {
   CLI::App app("zorvel: lists, builds and previews character repositories");
   app.footer(EXIT_TEXT);
-  app.set_version_flag("--version", "zorvel 1.0.0");
+  app.set_version_flag("--version", "zorvel " ZORVEL_VERSION);
   app.require_subcommand(1);
   const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app), addInit(app)};
   for (const Command& command : commands) command.app->footer(EXIT_TEXT);

@@ -1,0 +1,84 @@
+#include "check/report/JsonReport.h"
+
+#include <nlohmann/json.hpp>
+#include <set>
+
+#include "check/PrintableText.h"
+#include "check/report/FindingCounts.h"
+
+namespace check {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// Of the form; goes up when a reader of the old one would misunderstand the new.
+constexpr int FORM_VERSION = 1;
+
+void addText(Json& json, const char* key, const std::string& text) {
+  if (!text.empty()) json[key] = printable(text);
+}
+
+void addNumber(Json& json, const char* key, int number) {
+  if (number > 0) json[key] = number;
+}
+
+Json describe(const Finding& finding) {
+  Json json;
+  json["code"] = ruleOf(finding.rule).code;
+  json["severity"] = nameOf(finding.severity);
+  addText(json, "file", finding.file);
+  addNumber(json, "line", finding.line);
+  addNumber(json, "column", finding.column);
+  addText(json, "element", finding.element);
+  addText(json, "subject", finding.subject);
+  json["message"] = printable(finding.message);
+  return json;
+}
+
+Json describe(const JudgedRepository& repository) {
+  const CheckResult& result = repository.result;
+  const FindingCounts counts = countsOf(result);
+  Json json;
+  json["root"] = printable(result.root);
+  json["readable"] = result.isReadable;
+  json["failed"] = repository.hasFailed;
+  json["characters"] = result.characterCount;
+  json["elements"] = result.elementCount;
+  json["files"] = result.fileCount;
+  json["errors"] = counts.errors;
+  json["warnings"] = counts.warnings;
+  json["hints"] = counts.hints;
+  json["ignored"] = repository.ignoredCount;
+  json["findings"] = Json::array();
+  for (const Finding& finding : result.findings) json["findings"].push_back(describe(finding));
+  return json;
+}
+
+/// Those that something was found of, in the order of the codes.
+Json describeRules(const std::vector<JudgedRepository>& repositories) {
+  std::set<RuleId> found;
+  for (const JudgedRepository& repository : repositories) {
+    for (const Finding& finding : repository.result.findings) found.insert(finding.rule);
+  }
+  Json json = Json::object();
+  for (const RuleId id : found) {
+    const Rule& rule = ruleOf(id);
+    json[rule.code] = {{"name", rule.name}, {"remedy", rule.remedy}};
+  }
+  return json;
+}
+
+}  // namespace
+
+std::string jsonReport(const std::vector<JudgedRepository>& repositories) {
+  Json json;
+  json["format"] = "zorvel-check";
+  json["version"] = FORM_VERSION;
+  json["repositories"] = Json::array();
+  for (const JudgedRepository& repository : repositories) json["repositories"].push_back(describe(repository));
+  json["rules"] = describeRules(repositories);
+  return json.dump(2) + '\n';
+}
+
+}  // namespace check
