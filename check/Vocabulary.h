@@ -76,6 +76,7 @@ struct ElementEntry {
   /// Whether it is read whatever its name: the name is only the usual one.
   bool isNameFree;
   const char* becomes;
+  /// Of all elements of the kind; empty for nothing.
   const char* without;
   std::vector<AttributeEntry> attributes;
 };

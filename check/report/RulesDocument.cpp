@@ -1,83 +1,93 @@
 #include "check/report/RulesDocument.h"
 
-#include <map>
-#include <nlohmann/json.hpp>
-
 #include "check/Rule.h"
 
 namespace check {
 
 namespace {
 
-const std::map<char, const char*> CHAPTERS = {{'1', "Reading the description"},
-                                              {'2', "Ids and names"},
-                                              {'3', "Files and folders"},
-                                              {'4', "What is offered"},
-                                              {'5', "What is built"}};
+const char* const BEGINNING = R"(# Rules of `zorvel check`
 
-const char* const INTRODUCTION =
-    "# Rules of `zorvel check`\n"
-    "\n"
-    "Made by `zorvel rules --format md`. Codes never change their meaning. An *error* means that a character or an\n"
-    "element cannot be seen or built, a *warning* that the artist will miss something, a *hint* is worth knowing. "
-    "What\n"
-    "stands in braces is filled in.\n";
+`zorvel check` reads a repository as the plug-in does and names everything that will not show, cannot be chosen or is not built. Each
+finding has one of the codes below. A code never changes its meaning; one that is no longer used is not given to another rule.
 
-/// What stands for itself in a cell of a table.
-std::string markdownText(const std::string& text) {
+| severity | means |
+|---|---|
+| error | a character or an element cannot be seen or built |
+| warning | the artist will miss something |
+| hint | worth knowing |
+
+What stands in `{braces}` is filled in by each finding.
+
+## To silence a rule
+
+For one run: `zorvel check DIR --ignore ZV122`, or `--only ZV312` for nothing but that rule. For good, write a file `.zorvel-check.json`
+into the repository's folder:
+
+```json
+{ "ignore": ["ZV122", "ZV321"], "severity": { "ZV113": "hint" } }
+```
+
+`severity` makes a rule count more or less without silencing it. Letter case does not matter in codes. What else the file may say stands
+in [Continuous integration](continuous-integration.md).
+)";
+
+struct Group {
+  char hundred;
+  const char* title;
+  const char* introduction;
+};
+
+const Group GROUPS[] = {
+    {'1', "Reading the description",
+     "What the reader of `zorvel.xml` refuses, skips or reads otherwise than it was meant. What is refused or skipped "
+     "is "
+     "gone with all that it holds. The names that are read stand in [The repository](repository-format.md)."},
+    {'2', "Ids and names",
+     "Ids tie the parts of a description together and are parts of file names. Where one is missing, twice there or "
+     "impossible as a file name, the window shows one thing and chooses another, or a file is never found."},
+    {'3', "Files and folders",
+     "What the plug-in looks for on disk: folders, pictures and meshes. A missing picture mostly takes its element off "
+     "the page; a missing mesh leaves a gap in what is built."},
+    {'4', "What is offered",
+     "Everything is read and there, and still the window does not offer it, or chooses something else than the "
+     "description says."},
+    {'5', "What is built",
+     "What can be chosen, and is missing, in the wrong place or without its material in the scene."},
+};
+
+/// "<" would begin a tag of HTML.
+std::string escaped(const char* text) {
   std::string result;
-  for (const char c : text) {
-    if (c == '<') {
+  for (; *text != '\0'; ++text) {
+    if (*text == '<') {
       result += "&lt;";
-    } else if (c == '>') {
-      result += "&gt;";
     } else {
-      result += (c == '|' || c == '*' || c == '_' ? "\\" : "") + std::string(1, c);
+      result += *text;
     }
   }
   return result;
 }
 
-char chapterOf(const Rule& rule) { return rule.code[2]; }
+std::string sectionOf(const Rule& rule) {
+  return std::string("\n### ") + rule.code + ' ' + rule.name + "\n\n**" + nameOf(rule.severity) +
+         "**: " + escaped(rule.sentence) + "\n\n" + escaped(rule.remedy) + '\n';
+}
 
-std::string headOf(char chapter) {
-  const auto named = CHAPTERS.find(chapter);
-  const std::string title = named == CHAPTERS.end() ? std::string("Others") : named->second;
-  return "\n## " + title + "\n\n| code | name | severity | what is found | what to do |\n|---|---|---|---|---|\n";
+std::string partOf(const Group& group) {
+  std::string text = std::string("\n## ") + group.hundred + "xx: " + group.title + "\n\n" + group.introduction + '\n';
+  for (const Rule& rule : allRules()) {
+    if (rule.code[2] == group.hundred) text += sectionOf(rule);
+  }
+  return text;
 }
 
 }  // namespace
 
-std::string rulesText() {
-  std::string text;
-  for (const Rule& rule : allRules()) {
-    text += std::string(rule.code) + "  " + nameOf(rule.severity) + "  " + rule.name + "\n    " + rule.sentence +
-            "\n    Remedy: " + rule.remedy + '\n';
-  }
+std::string rulesDocument() {
+  std::string text = BEGINNING;
+  for (const Group& group : GROUPS) text += partOf(group);
   return text;
-}
-
-std::string rulesMarkdown() {
-  std::string text = INTRODUCTION;
-  char chapter = '\0';
-  for (const Rule& rule : allRules()) {
-    if (chapterOf(rule) != chapter) text += headOf(chapter = chapterOf(rule));
-    text += "| " + std::string(rule.code) + " | `" + rule.name + "` | " + nameOf(rule.severity) + " | " +
-            markdownText(rule.sentence) + " | " + markdownText(rule.remedy) + " |\n";
-  }
-  return text;
-}
-
-std::string rulesJson() {
-  nlohmann::ordered_json json = nlohmann::ordered_json::array();
-  for (const Rule& rule : allRules()) {
-    json.push_back({{"code", rule.code},
-                    {"name", rule.name},
-                    {"severity", nameOf(rule.severity)},
-                    {"sentence", rule.sentence},
-                    {"remedy", rule.remedy}});
-  }
-  return json.dump(2) + '\n';
 }
 
 }  // namespace check

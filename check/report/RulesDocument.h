@@ -4,11 +4,7 @@
 
 namespace check {
 
-/// All rules for a terminal: code, severity, name, what is found and what to do.
-std::string rulesText();
-/// A document: a table for each hundred of codes.
-std::string rulesMarkdown();
-/// An array of objects with code, name, severity, sentence and remedy.
-std::string rulesJson();
+/// docs/rules.md: every rule with its sentence and remedy, in groups, as Markdown.
+std::string rulesDocument();
 
 }  // namespace check

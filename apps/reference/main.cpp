@@ -1,0 +1,23 @@
+#include <exception>
+#include <iostream>
+
+#include "apps/reference/Documents.h"
+#include "host/files/WholeFile.h"
+
+int main(int argc, char** argv) try {
+  if (argc != 2) {
+    std::cerr
+        << "usage: zorvel-reference FOLDER\nWrites what comes from the checker's tables into the documents there.\n";
+    return 2;
+  }
+  for (const reference::Document& document : reference::documents(argv[1])) {
+    const std::string error = host::writeWholeFile(document.file, document.text);
+    if (error.empty()) continue;
+    std::cerr << "zorvel-reference: " << error << '\n';
+    return 1;
+  }
+  return 0;
+} catch (const std::exception& error) {
+  std::cerr << "zorvel-reference: " << error.what() << '\n';
+  return 1;
+}
