@@ -79,6 +79,8 @@ class CharacterData : public DataContainer {
   DataContainer* GetCloth(const wchar_t* id) const;
   /// A style is a material of a cloth.
   DataContainer* GetStyle(const wchar_t* clothId, const wchar_t* styleId) const;
+  /// One of the character's own, which may stand for a global one.
+  DataContainer* GetAsset(const wchar_t* id) const;
   DataContainer* GetCategory(const DataContainer* asset) const;
   DataContainer* GetCategoryForGlobalAsset(const DataContainer* globalAsset) const;
   /// The assets to offer for a category with the selected cloth and pose, appended in list order. A global asset is
@@ -88,6 +90,8 @@ class CharacterData : public DataContainer {
   std::vector<ListedAsset> ListAssetsForCategory(const DataContainer* category) const;
   /// Whether the selected cloth asks for the asset, or for the asset in this material (null: in any).
   bool CheckAssetStyleForClothSelection(const DataContainer* asset, const DataContainer* material) const;
+  /// Whether an entry of a clothing's select group finds an asset, and for one with materials the material, too.
+  bool FindsSelected(const DataContainer* entry) const;
   /// `material` is null when the id names the asset itself. On false both are left as they were.
   bool GetAssetAndMaterial(int unique, DataContainer*& asset, DataContainer*& material) const;
   const AssetMatrixElement* FindAssetMatrixElement(const wchar_t* poseID, const wchar_t* assetID) const;

@@ -23,6 +23,23 @@ bool NeedsMatrixRow(const DataContainer* asset, const DataContainer* globalAsset
   return Data2::CheckAssetGlobal(asset) ? globalAsset != nullptr : !CharacterData::IsSpecific(asset);
 }
 
+/// Null when the asset stands for none, or for one that there is not.
+DataContainer* GlobalBehind(const DataContainer* asset) {
+  return Data2::CheckAssetGlobal(asset) ? Data2::GetGlobalAssetForAsset(asset) : nullptr;
+}
+
+/// Of an entry of a select group.
+bool NamesMaterial(const DataContainer* entry, const wchar_t* materialId) {
+  return Fields::Equals(entry, FIELD_MATERIAL_ID, materialId);
+}
+
+bool NamesMaterialOf(const DataContainer* entry, const DataContainer& record) {
+  for (int i = 0; i < record.GetChildCount(); ++i) {
+    if (NamesMaterial(entry, Fields::OptionalText(record.GetChild(i), FIELD_ID))) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 DataContainer* CharacterData::FindElementById(const DataContainer* container, const wchar_t* id) {
@@ -40,6 +57,8 @@ DataContainer* CharacterData::GetSkin(const wchar_t* id) const { return FindElem
 DataContainer* CharacterData::GetPose(const wchar_t* id) const { return FindElementById(&m_containers[POSES], id); }
 
 DataContainer* CharacterData::GetCloth(const wchar_t* id) const { return FindElementById(&m_containers[CLOTH], id); }
+
+DataContainer* CharacterData::GetAsset(const wchar_t* id) const { return FindElementById(&m_containers[ASSETS], id); }
 
 DataContainer* CharacterData::GetStyle(const wchar_t* clothId, const wchar_t* styleId) const {
   if (!clothId || !styleId) return nullptr;
@@ -81,7 +100,7 @@ std::vector<ListedAsset> CharacterData::ListAssetsForCategory(const DataContaine
 
 ListedAsset CharacterData::ListAsset(DataContainer* asset, const DataContainer* cloth) const {
   const wchar_t* id = Fields::OptionalText(asset, FIELD_ID);
-  DataContainer* globalAsset = Data2::CheckAssetGlobal(asset) ? Data2::GetGlobalAssetForAsset(asset) : nullptr;
+  DataContainer* globalAsset = GlobalBehind(asset);
   if (globalAsset && id) globalAsset->SetData(FIELD_LOCAL_ASSET_ID, id);
   ListedAsset listed = {asset, globalAsset ? globalAsset : asset, WhyNot::Nothing};
   if (NeedsMatrixRow(asset, globalAsset) && !FindAssetMatrixElement(Selection2::GetPose(), id)) {
@@ -105,7 +124,19 @@ bool CharacterData::CheckAssetStyleForClothSelection(const DataContainer* asset,
     const DataContainer* entry = selects->GetChild(i);
     const wchar_t* entryAsset = Fields::Text(entry, FIELD_ASSET_ID);
     if (!entryAsset || std::wcscmp(entryAsset, assetId) != 0) continue;
-    if (!material || Fields::Equals(entry, FIELD_MATERIAL_ID, materialId)) return true;
+    if (!material || NamesMaterial(entry, materialId)) return true;
+  }
+  return false;
+}
+
+bool CharacterData::FindsSelected(const DataContainer* entry) const {
+  const wchar_t* id = Fields::OptionalText(entry, FIELD_ASSET_ID);
+  for (int i = 0; id && i < GetCount(ASSETS); ++i) {
+    const DataContainer* asset = GetContainerElement(ASSETS, i);
+    if (!Fields::Equals(asset, FIELD_ID, id)) continue;
+    const DataContainer* globalAsset = GlobalBehind(asset);
+    const DataContainer& record = globalAsset ? *globalAsset : *asset;
+    if (record.GetChildCount() == 0 || NamesMaterialOf(entry, record)) return true;
   }
   return false;
 }
@@ -174,7 +205,7 @@ DataContainer* CharacterData::FindLocalAssetForGlobal(const DataContainer* globa
 DataContainer* CharacterData::ResolveAsset(const DataContainer* element) const {
   const wchar_t* id = Fields::OptionalText(element, FIELD_ID);
   if (!id) return nullptr;
-  DataContainer* asset = FindElementById(&m_containers[ASSETS], id);
+  DataContainer* asset = GetAsset(id);
   return Data2::CheckAssetGlobal(asset) ? Data2::GetGlobalAssetForAsset(asset) : asset;
 }
 

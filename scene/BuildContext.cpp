@@ -63,8 +63,8 @@ std::unique_ptr<BuildContext> BuildContext::Prepare(INode& parent, BuildReport& 
   if (root == nullptr) report.obstacle = BuildObstacle::RepositoryPath;
   CharacterData* character = root != nullptr ? FindCharacter(report) : nullptr;
   if (character == nullptr) return nullptr;
-  const std::wstring folder = Fields::TextOrEmpty(character, FIELD_FOLDER);
-  character->SetData(FIELD_TEXTURE_FOLDER, RepositoryPaths::Textures(folder).c_str());
+  const std::wstring textures = RepositoryPaths::Textures(Fields::TextOrEmpty(character, FIELD_FOLDER));
+  character->SetData(FIELD_TEXTURE_FOLDER, textures.c_str());
   SelectedElements elements;
   if (!Find(*character, elements, report)) return nullptr;
   const std::wstring maps = RepositoryPaths::Maps(root);
@@ -72,7 +72,7 @@ std::unique_ptr<BuildContext> BuildContext::Prepare(INode& parent, BuildReport& 
   report.poseId = Selection2::GetPose();
   return std::make_unique<BuildContext>(BuildContext{parent, *character, *elements.pose, *elements.cloth,
                                                      *elements.style, *elements.skin, report.poseId,
-                                                     Selection2::GetCloth(), root, folder, maps});
+                                                     Selection2::GetCloth(), root, maps});
 }
 
 }  // namespace ZORVEL

@@ -27,8 +27,6 @@ struct BuildContext {
   std::wstring clothId;
   /// Ends in a separator, as does the folder of textures.
   std::wstring repositoryPath;
-  /// A complete path.
-  std::wstring characterFolder;
   std::wstring globalMaps;
 };
 

@@ -5,6 +5,9 @@
 
 namespace ZORVEL {
 
+struct BuildContext;
+struct BuildReport;
+
 /// Makes everything that hangs on the parent of a character.
 class ElementBuilder {
  public:

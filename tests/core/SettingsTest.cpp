@@ -70,4 +70,30 @@ TEST_F(SettingsTest, TheFileEndsBeforeACharacterBeyondOneByteAndMemoryKeepsThePa
   EXPECT_STREQ(Settings::GetPath(), L"D:\\h\u00E4user\u00FF");
 }
 
+TEST_F(SettingsTest, WhatIsKeptOfAPathIsKnownBeforeItIsStored) {
+  const struct {
+    std::wstring path;
+    PathKeeping keeping;
+    std::size_t length;
+  } cases[] = {{L"C:\\", PathKeeping::Whole, 3},
+               {L"D:\\h\u00E4user\u00FF\u0100\\x", PathKeeping::Cut, 10},
+               {L"\u0100:\\x", PathKeeping::Cut, 0},
+               {L"C:", PathKeeping::TooShort, 2},
+               {std::wstring(1 << 20, L'x'), PathKeeping::Whole, 1 << 20},
+               {std::wstring((1 << 20) + 1, L'x'), PathKeeping::TooLong, (1 << 20) + 1}};
+  for (const auto& one : cases) {
+    const KeptPath kept = Settings::WhatIsKept(one.path);
+    EXPECT_EQ(kept.keeping, one.keeping);
+    EXPECT_EQ(kept.length, one.length);
+    Settings::FreeSettings();
+    Settings::LoadSettings();
+    Settings::StorePath(one.path.c_str());
+    EXPECT_EQ(appData_.folder().read("zorvel.ini").size(), kept.length);
+    Settings::FreeSettings();
+    Settings::LoadSettings();
+    EXPECT_EQ(Settings::GetPath() == one.path, kept.keeping == PathKeeping::Whole);
+  }
+  clearLog();
+}
+
 }  // namespace ZORVEL

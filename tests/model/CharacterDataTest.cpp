@@ -190,6 +190,30 @@ TEST_F(CharacterDataTest, TheSelectedClothChoosesAssetsAndTheirMaterials) {
   EXPECT_FALSE(character_.CheckAssetStyleForClothSelection(nullptr, &material));
 }
 
+TEST_F(CharacterDataTest, ASelectEntryFindsWhatTheClothWouldChoose) {
+  addGlobalAsset({{L"id", L"g"}});
+  fill(Data2::AddMaterialToGlobalaAsset(Data2::GetGlobalAsset(0)), {{L"id", L"gm"}});
+  add(character_, ASSETS, {{L"id", L"plain"}});
+  add(character_, ASSETS, {{L"id", L"ref"}, {L"type", L"global"}, {L"globalID", L"g"}});
+  add(character_, ASSETS, {{L"id", L"lost"}, {L"type", L"global"}, {L"globalID", L"h"}});
+  add(character_, ASSETS, {{L"id", L"bag"}});
+  fill(character_.AddMaterialToAsset(3), {{L"id", L"m"}});
+  const auto finds = [this](Attributes entry) {
+    DataContainer record;
+    return character_.FindsSelected(fill(&record, entry));
+  };
+  EXPECT_TRUE(finds({{L"asset_id", L"plain"}, {L"material_id", L"any"}}));
+  EXPECT_TRUE(finds({{L"asset_id", L"lost"}}));
+  EXPECT_TRUE(finds({{L"asset_id", L"bag"}, {L"material_id", L"m"}}));
+  EXPECT_TRUE(finds({{L"asset_id", L"ref"}, {L"material_id", L"gm"}}));
+  EXPECT_FALSE(finds({{L"asset_id", L"bag"}})) << "it is offered once for each material";
+  EXPECT_FALSE(finds({{L"asset_id", L"ref"}, {L"material_id", L"m"}}));
+  EXPECT_FALSE(finds({{L"asset_id", L"g"}, {L"material_id", L"gm"}}));
+  EXPECT_FALSE(finds({{L"material_id", L"m"}}));
+  EXPECT_FALSE(character_.FindsSelected(nullptr));
+  expectComplaints({});
+}
+
 TEST_F(CharacterDataTest, GlobalAssetsAreReachedThroughTheCharactersOwn) {
   DataContainer* const global = addGlobalAsset({{L"id", L"g"}});
   DataContainer* const category = add(character_, CATEGORIES, {{L"id", L"t"}});

@@ -187,6 +187,12 @@ TEST_F(MaterialResolution, RedirectsBitmapsInSlotsParametersNestedMapsAndMateria
   Interval valid = FOREVER;
   deep->GetParamBlock(0)->GetValue(6, 0, coat, valid);
   EXPECT_EQ(bitmapsOf(*coat), Files{L"coat.tar.png"});
+  clearLog();
+  const std::wstring other = L"Q:\\maps\\";
+  EXPECT_EQ(ZORVEL::TextureRedirection::Targets(*deep, other),
+            (Files{other + L"slot.png", other + L"nested.png", other + L"coat.tar.png"}));
+  EXPECT_EQ(bitmapsOf(*deep), (Files{L"slot.png", L"nested.png"})) << "to ask changes nothing";
+  EXPECT_EQ(countLogged(L"set new texture path:"), 0);
   Mtl* parts = resolve(L"Parts")->GetMtl();
   ASSERT_NE(parts, nullptr);
   EXPECT_EQ(bitmapsOf(*parts->GetSubMtl(1)), Files{L"part.png"});
@@ -218,6 +224,7 @@ TEST_F(MaterialResolution, BringsTheScaledLengthIntoSceneUnitsOnceForEachMateria
   content.blocks = {host::Ref<host::ParameterBlock>(new host::ParameterBlock(0, {{4, TYPE_MTL, host::Ref<Mtl>(wax)}}))};
   const host::Ref<Mtl> multi(new host::Material(Class_ID(MULTI_CLASS_ID, 0), content));
   SetMasterUnitInfo(UNITS_MILLIMETERS, 1.0F);
+  EXPECT_EQ(ZORVEL::TextureRedirection::Targets(*multi, maps_), Files{maps_ + L"a.png"});
   ZORVEL::TextureRedirection::Redirect(*multi, maps_);
   EXPECT_NEAR(parameter(wax, 22), 10.0F, 1e-5F);
 }

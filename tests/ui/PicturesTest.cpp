@@ -75,6 +75,27 @@ TEST_F(Pictures, ThatCannotBeShownSayWhyInTheirPlace) {
   EXPECT_TRUE(tabs().isVisible()) << "it can be clicked all the same";
 }
 
+TEST_F(Pictures, AreMeasuredWithoutBeingDecoded) {
+  const std::string good = encoded(QSize(110, 330), "PNG");
+  const struct {
+    std::string bytes;
+    QSize size;
+    const char* problem;
+  } cases[] = {{good, QSize(110, 330), ""},
+               {encoded(QSize(90, 7), "JPG"), QSize(90, 7), ""},
+               {good.substr(0, good.size() / 2), QSize(110, 330), ""},
+               {"no picture at all\n", QSize(), "it is not a picture"},
+               {hugePng(), QSize(), "it is too large (20000 x 20000 pixels)"}};
+  for (const auto& one : cases) {
+    QByteArray bytes = QByteArray::fromStdString(one.bytes);
+    QBuffer device(&bytes);
+    device.open(QIODevice::ReadOnly);
+    QString problem = "what was there before";
+    EXPECT_EQ(ZORVEL::PictureReader::Measure(device, problem), one.size);
+    EXPECT_EQ(problem, one.problem);
+  }
+}
+
 TEST_F(Pictures, LargerThanTheirPlaceShowTheirUpperLeftCorner) {
   QImage large(4000, 3000, QImage::Format_RGB32);
   large.fill(Qt::red);
