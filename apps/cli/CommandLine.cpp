@@ -10,6 +10,7 @@
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/ListCommand.h"
 #include "apps/cli/SampleCommand.h"
+#include "apps/cli/author/AddCommand.h"
 #include "apps/cli/author/InitCommand.h"
 
 namespace cli {
@@ -111,6 +112,36 @@ Command addInit(CLI::App& app) {
   return {command, [folder] { return runInit(*folder); }};
 }
 
+Command addAdd(CLI::App& app) {
+  const auto options = std::make_shared<AddOptions>();
+  CLI::App* command = app.add_subcommand(
+      "add", "Add an entry to zorvel.xml, which stays as it is elsewhere, and name the files that it needs");
+  const auto add = [command](const char* name, std::optional<std::string>& text, const char* help) {
+    return command->add_option(name, text, help);
+  };
+  command->add_option("DIR", options->repository, "Repository folder, the one with zorvel.xml")->required();
+  command->add_option("KIND", options->kind, "character, clothing, pose, skin, style, category or asset")
+      ->required()
+      ->check(CLI::IsMember({"character", "clothing", "pose", "skin", "style", "category", "asset"}));
+  command->add_option("ID", options->id, "Id of the entry, which is part of file names")->required();
+  add("--to", options->to, "Id of the character that it belongs to; needed where there are several");
+  add("--clothing", options->clothing, "style: id of the clothing; needed where there are several");
+  add("--name", options->name, "For people to read; made from the id unless given");
+  add("--folder", options->folder, "Made from the id unless given");
+  add("--material", options->material, "Name of the material; begins with the character's name unless given");
+  add("--preview", options->preview, "skin, style: file of the picture");
+  add("--category", options->category, "asset: id of the category; needed where there are several");
+  add("--type", options->type,
+      "asset: common (placed by the matrix), specific (a mesh for each pose), global (shared by all characters)")
+      ->check(CLI::IsMember({"common", "specific", "global"}));
+  add("--global", options->global, "asset: id of the shared asset that it stands for");
+  command->add_flag("--multiple", options->multiple, "category: several of its assets at once");
+  command->add_flag("--required", options->required, "category: one of its assets is always chosen");
+  command->add_flag("--no-style", options->noStyle, "clothing: without a first style");
+  command->add_flag("--no-rows", options->noRows, "pose, asset: without rows of the asset matrix");
+  return {command, [options] { return runAdd(*options); }};
+}
+
 int report(const CLI::App& app, const CLI::ParseError& error) {
   return app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE;
 }
@@ -122,7 +153,7 @@ int run(int argc, const char* const* argv) try {
   app.footer(EXIT_TEXT);
   app.set_version_flag("--version", "zorvel " ZORVEL_VERSION);
   app.require_subcommand(1);
-  const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app), addInit(app)};
+  const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app), addInit(app), addAdd(app)};
   for (const Command& command : commands) command.app->footer(EXIT_TEXT);
   try {
     app.parse(argc, argv);

@@ -1,0 +1,80 @@
+#include "apps/cli/author/AddCommand.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <iostream>
+
+#include "apps/cli/ExitStatus.h"
+#include "apps/cli/author/DescriptionFile.h"
+#include "apps/cli/author/NeededFiles.h"
+#include "apps/cli/author/NewEntry.h"
+#include "host/files/Paths.h"
+#include "model/RepositoryFormat.h"
+
+namespace cli {
+
+namespace fs = std::filesystem;
+using namespace ZORVEL::RepositoryFormat;
+
+namespace {
+
+int complain(const std::string& text, ExitStatus status) {
+  std::cerr << "zorvel add: " << text << '\n';
+  return status;
+}
+
+std::string attribute(const Element& element, const wchar_t* name) { return host::toUtf8(element.text(name)); }
+
+void printEntry(const AddOptions& options, const NewEntry& entry) {
+  std::cout << "Added the " << options.kind << " \"" << options.id << '"';
+  const std::string name = attribute(entry.element, FIELD_NAME);
+  if (!name.empty()) std::cout << " (" << name << ')';
+  if (!entry.clothing.empty()) std::cout << " to the clothing \"" << host::toUtf8(entry.clothing) << "\" of";
+  if (!entry.character.empty())
+    std::cout << (entry.clothing.empty() ? " to" : "") << " \"" << host::toUtf8(entry.character) << '"';
+  std::cout << ".\n";
+  for (const auto& [field, value] : entry.element.attributes) {
+    if (field != FIELD_ID && field != FIELD_NAME) {
+      std::cout << "  " << host::toUtf8(field) << "  " << host::toUtf8(value) << '\n';
+    }
+  }
+  for (const Element& child : entry.element.children) {
+    if (child.name != ELEMENT_MATERIAL) continue;
+    std::cout << "  style  " << attribute(child, FIELD_ID) << " (" << attribute(child, FIELD_NAME) << ")\n";
+  }
+  if (entry.rows > 0) {
+    std::cout << "  " << entry.rows << (entry.rows == 1 ? " row" : " rows")
+              << " of the AssetMatrix, with zeros: what is placed stands between the feet until they are set\n";
+  }
+}
+
+void printFiles(const fs::path& repository, const std::wstring& root, const std::vector<NeededFile>& files) {
+  if (files.empty()) return;
+  std::cout << "Still to be put into " << repository.string() << ":\n";
+  std::vector<std::string> names;
+  for (const NeededFile& file : files) {
+    names.push_back(host::nativePath(file.path).lexically_relative(host::nativePath(root)).string());
+  }
+  std::size_t width = 0;
+  for (const std::string& name : names) width = std::max(width, name.size());
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    std::cout << "  " << std::left << std::setw(static_cast<int>(width)) << names[i] << "  " << files[i].what << '\n';
+  }
+}
+
+}  // namespace
+
+int runAdd(const AddOptions& options) {
+  const DescriptionFile description(options.repository);
+  if (!description.error().empty()) return complain(description.error(), EXIT_UNREADABLE);
+  const NewEntry entry = planEntry(description.root(), options);
+  if (!entry.refusal.empty()) return complain(entry.refusal, entry.status);
+  const std::string error = description.add(entry.additions);
+  if (!error.empty()) return complain(error, EXIT_FINDINGS);
+  printEntry(options, entry);
+  const std::wstring root = host::toWide(fs::absolute(options.repository).lexically_normal().string());
+  printFiles(options.repository, root, neededFiles(root, withAdditions(description.root(), entry.additions), entry));
+  return EXIT_CLEAN;
+}
+
+}  // namespace cli
