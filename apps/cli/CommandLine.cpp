@@ -6,9 +6,11 @@
 #include <iostream>
 #include <map>
 
+#include "apps/cli/CheckCommand.h"
 #include "apps/cli/CreateCommand.h"
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/ListCommand.h"
+#include "apps/cli/RulesCommand.h"
 #include "apps/cli/SampleCommand.h"
 #include "apps/cli/author/AddCommand.h"
 #include "apps/cli/author/InitCommand.h"
@@ -44,6 +46,53 @@ Command addList(CLI::App& app) {
   command->add_option("DIR", options->repository, "Repository folder, the one with zorvel.xml")->required();
   command->add_flag("--json", options->json, "Print JSON");
   return {command, [options] { return runList(options->repository, options->json); }};
+}
+
+/// An option of one text that may be given several times.
+void addRepeated(CLI::App& command, const char* name, std::vector<std::string>& texts, const char* form,
+                 const char* text) {
+  command.add_option(name, texts, text)->type_size(1)->allow_extra_args(false)->option_text(form);
+}
+
+void addJudgement(CLI::App& command, CheckCommandOptions& options) {
+  addRepeated(command, "--ignore", options.ignored, "CODE", "Leave out a rule (ZV113 or unknown-attribute)");
+  addRepeated(command, "--only", options.only, "CODE", "Ask for this rule only; may be repeated");
+  addRepeated(command, "--severity", options.severities, "CODE=LEVEL",
+              "How much a rule matters: error, warning, hint, off");
+  command.add_option("--fail-on", options.failOn, "What is a failure: error, warning (unless given), hint, never")
+      ->option_text("LEVEL");
+  command
+      .add_option("--target-root", options.targetRoot,
+                  "Where the repository will lie on Windows; how long paths are is measured from there")
+      ->option_text("PATH");
+  command.add_flag_callback(
+      "--no-config", [&options] { options.readsConfiguration = false; },
+      "Do not read the .zorvel-check.json of the repositories");
+}
+
+Command addCheck(CLI::App& app) {
+  const auto options = std::make_shared<CheckCommandOptions>();
+  CLI::App* command = app.add_subcommand("check", "Name everything in repositories that will not show or build");
+  command->add_option("DIR", options->repositories, "Repository folders, those with zorvel.xml")->required();
+  command->add_option("--format", options->format, "text (unless given), json, sarif, junit or csv")
+      ->check(CLI::IsMember({"text", "json", "sarif", "junit", "csv"}))
+      ->option_text("FORMAT");
+  command->add_option("--output", options->output, "Write the report into this file")->option_text("FILE");
+  command->add_flag("--all", options->showsAll, "Text: show all findings of a rule, however many there are");
+  addJudgement(*command, *options);
+  command->add_option("--color", options->color, "Text: always, never, or auto for on a terminal")
+      ->check(CLI::IsMember({"always", "never", "auto"}))
+      ->option_text("WHEN");
+  return {command, [options] { return runCheck(*options); }};
+}
+
+Command addRules(CLI::App& app) {
+  const auto format = std::make_shared<std::string>("text");
+  CLI::App* command = app.add_subcommand("rules", "Print what zorvel check can find, and what to do about it");
+  command->add_option("--format", *format, "text (unless given), md or json")
+      ->check(CLI::IsMember({"text", "md", "json"}))
+      ->option_text("FORMAT");
+  return {command, [format] { return runRules(*format); }};
 }
 
 void addCamera(CLI::App& command, CreateOptions& options) {
@@ -149,11 +198,12 @@ int report(const CLI::App& app, const CLI::ParseError& error) {
 }  // namespace
 
 int run(int argc, const char* const* argv) try {
-  CLI::App app("zorvel: lists, builds and previews character repositories");
+  CLI::App app("zorvel: checks, lists, builds and previews character repositories");
   app.footer(EXIT_TEXT);
   app.set_version_flag("--version", "zorvel " ZORVEL_VERSION);
   app.require_subcommand(1);
-  const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app), addInit(app), addAdd(app)};
+  const std::vector<Command> commands = {addSample(app), addInit(app), addAdd(app),   addCheck(app),
+                                         addRules(app),  addList(app), addCreate(app)};
   for (const Command& command : commands) command.app->footer(EXIT_TEXT);
   try {
     app.parse(argc, argv);

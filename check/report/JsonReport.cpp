@@ -12,7 +12,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// Of the form; goes up when a reader of the old one would misunderstand the new.
+/// As in the schema.
 constexpr int FORM_VERSION = 1;
 
 void addText(Json& json, const char* key, const std::string& text) {

@@ -62,6 +62,7 @@ class Writer {
   explicit Writer(const TextReportOptions& options) : options_(options) {}
 
   void add(const JudgedRepository& repository) {
+    if (!text_.empty()) text_ += '\n';
     for (const Group& group : groupsOf(repository.result.findings)) add(repository.result, group);
     text_ += verdictOf(repository) + '\n';
   }
@@ -73,7 +74,7 @@ class Writer {
       total.warnings += counts.warnings;
       total.hints += counts.hints;
     }
-    text_ += std::to_string(repositories.size()) + " repositories: " + summaryOf(total) + '\n';
+    text_ += '\n' + std::to_string(repositories.size()) + " repositories: " + summaryOf(total) + '\n';
   }
   const std::string& text() const { return text_; }
 

@@ -1,0 +1,20 @@
+#include "apps/cli/RulesCommand.h"
+
+#include <iostream>
+
+#include "apps/cli/ExitStatus.h"
+#include "apps/cli/StandardOutput.h"
+#include "check/report/RulesDocument.h"
+
+namespace cli {
+
+int runRules(const std::string& format) {
+  const std::string error = writeStandardOutput(format == "md"     ? check::rulesMarkdown()
+                                                : format == "json" ? check::rulesJson()
+                                                                   : check::rulesText());
+  if (error.empty()) return EXIT_CLEAN;
+  std::cerr << "zorvel rules: " << error << '\n';
+  return EXIT_INTERNAL;
+}
+
+}  // namespace cli
