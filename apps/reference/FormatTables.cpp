@@ -1,6 +1,7 @@
 #include "apps/reference/FormatTables.h"
 
 #include "apps/reference/VocabularyText.h"
+#include "host/files/Paths.h"
 
 namespace reference {
 
@@ -31,10 +32,8 @@ const char* wordFor(Need need) {
 
 std::string meaningOf(const AttributeEntry& attribute) {
   std::string text = attribute.meaning;
-  for (std::size_t i = 0; i < attribute.values.size(); ++i) {
-    const check::AttributeValue& value = attribute.values[i];
-    const std::wstring name = value.text;
-    text += (i == 0 ? ": " : "; ") + code(std::string(name.begin(), name.end())) + " is " + value.meaning;
+  for (const check::AttributeValue& value : attribute.values) {
+    text += "<br>" + code(host::toUtf8(value.text)) + ": " + value.meaning;
   }
   return text;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "apps/reference/VocabularyText.h"
+#include "host/files/Paths.h"
 
 namespace reference {
 
@@ -54,8 +55,7 @@ std::string elementOf(const ElementEntry& entry, const char* indent) {
 std::string choiceOf(const AttributeEntry& attribute) {
   std::string text = "      <xs:simpleType><xs:union>\n        <xs:simpleType><xs:restriction base=\"xs:string\">\n";
   for (const check::AttributeValue& value : attribute.values) {
-    const std::wstring name = value.text;
-    text += "          <xs:enumeration value=\"" + escaped(std::string(name.begin(), name.end())) + "\">" +
+    text += "          <xs:enumeration value=\"" + escaped(host::toUtf8(value.text)) + "\">" +
             annotation(value.meaning) + "</xs:enumeration>\n";
   }
   return text + "        </xs:restriction></xs:simpleType>\n" +

@@ -24,6 +24,9 @@ const char* textOf(Count count) {
   return "";
 }
 
+/// "asset in globalAssets": a name alone is not enough.
+std::string placeOf(const ElementEntry& entry) { return nameOf(entry) + " in " + nameOf(check::entryOf(entry.parent)); }
+
 }  // namespace
 
 std::string nameOf(const ElementEntry& entry) { return host::toUtf8(entry.name); }
@@ -42,7 +45,7 @@ std::string kindOf(const check::AttributeEntry& attribute) {
     case AttributeKind::Id:
       return "id";
     case AttributeKind::Reference:
-      return "id of " + nameOf(check::entryOf(attribute.target));
+      return "id of " + placeOf(check::entryOf(attribute.target));
     case AttributeKind::File:
       return "file";
     case AttributeKind::Folder:

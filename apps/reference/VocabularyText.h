@@ -14,7 +14,7 @@ std::string summaryOf(const check::ElementEntry& entry);
 /// False for what is only there to be warned of.
 bool isWorthWriting(const check::AttributeEntry& attribute);
 
-/// "text", "id of asset".
+/// "text", "id of asset in assets".
 std::string kindOf(const check::AttributeEntry& attribute);
 
 }  // namespace reference

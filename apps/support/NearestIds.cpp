@@ -46,7 +46,7 @@ std::vector<std::string> nearestIds(const std::string& wanted, const std::vector
 
 std::string nearestId(const std::string& wanted, const std::vector<std::string>& known) {
   const std::vector<std::string> near = nearestIds(wanted, known);
-  const std::size_t most = (wanted.size() + 2) / 3;
+  const std::size_t most = std::max(std::size_t{1}, wanted.size() / 3);
   return near.empty() || editDistance(wanted, near.front()) > most ? std::string() : near.front();
 }
 

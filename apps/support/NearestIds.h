@@ -9,7 +9,7 @@ namespace apps {
 /// left out.
 std::vector<std::string> nearestIds(const std::string& wanted, const std::vector<std::string>& known);
 
-/// The id that was probably meant: at most every third letter differs. Empty when there is none.
+/// The id that was probably meant: one letter differs, or at most every third. Empty when there is none.
 std::string nearestId(const std::string& wanted, const std::vector<std::string>& known);
 
 /// A sentence about an id that there is not, which names the nearest or, when none is near, some of the known.
