@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "core/Debug.h"
@@ -22,6 +23,7 @@ const Class_ID SCALED_MATERIAL_CLASS(0x3F2C5FAA, 0x750008BC);
 const ParamID SCALED_PARAMETER = 22;
 /// Asked for whatever a material reports; slots that it does not have are empty.
 const int TEXTURE_SLOTS = 18;
+const int MOST_STEPS = 100000;
 
 /// Calls visit(block, parameter id) for every parameter, in block and index order.
 template <class Visit>
@@ -55,16 +57,18 @@ class MaterialParts {
   const std::vector<LengthParameter>& GetLengths() const { return m_lengths; }
 
  private:
-  /// Null is passed over, here and below.
+  /// Null is passed over, here and below, and whatever comes after more steps than any material takes: parts that name
+  /// each other over and over would never end.
   void AddMaterial(Mtl* material);
   void AddMap(Texmap* map);
 
+  int m_steps = 0;
   std::vector<BitmapTex*> m_bitmaps;
   std::vector<LengthParameter> m_lengths;
 };
 
 void MaterialParts::AddMaterial(Mtl* material) {
-  if (material == nullptr) return;
+  if (material == nullptr || ++m_steps > MOST_STEPS) return;
   if (material->ClassID() == MULTI_MATERIAL_CLASS) {
     for (int i = 0; i < material->NumSubMtls(); ++i) AddMaterial(material->GetSubMtl(i));
     return;
@@ -80,7 +84,7 @@ void MaterialParts::AddMaterial(Mtl* material) {
 }
 
 void MaterialParts::AddMap(Texmap* map) {
-  if (map == nullptr) return;
+  if (map == nullptr || ++m_steps > MOST_STEPS) return;
   if (map->ClassID() == BITMAP_CLASS) {
     m_bitmaps.push_back(static_cast<BitmapTex*>(map));
     return;
@@ -128,8 +132,20 @@ std::vector<std::wstring> TargetsOf(const MaterialParts& parts, const std::wstri
 
 }  // namespace
 
-std::vector<std::wstring> TextureRedirection::Targets(Mtl& material, const std::wstring& mapsFolder) {
-  return TargetsOf(MaterialParts(material), mapsFolder);
+RedirectionOutlook TextureRedirection::LookAhead(Mtl& material, const std::wstring& mapsFolder) {
+  const MaterialParts parts(material);
+  RedirectionOutlook outlook;
+  std::set<std::wstring> known;
+  for (const BitmapTex* bitmap : parts.GetBitmaps()) {
+    const std::wstring from = bitmap->GetMap().GetFileName().data();
+    if (known.insert(from).second) outlook.textures.push_back({from, TargetOf(*bitmap, mapsFolder)});
+  }
+  std::set<const IParamBlock2*> lengths;
+  for (const LengthParameter& length : parts.GetLengths()) {
+    if (length.block->GetParameterType(length.id) != TYPE_FLOAT) outlook.hasOddLength = true;
+    if (!lengths.insert(length.block).second) outlook.isScaledAgain = true;
+  }
+  return outlook;
 }
 
 std::vector<std::wstring> TextureRedirection::Redirect(Mtl& material, const std::wstring& mapsFolder) {

@@ -2,13 +2,14 @@
 
 #include "plugin/Commands.h"
 #include "ui/Log.h"
+#include "ui/MainWindowPosesElement.h"
 
 namespace ZORVEL {
 
 void MainWindowClothMaterialsTab::FillMaterials(PageOffer page) {
   // The text names another page; it is kept as it is.
   for (std::size_t i = 0; i < page.hidden.size(); ++i) LogInfo(L"MainWindowSkinTab::FillMaterials clothDC not found");
-  Fill(std::move(page));
+  Fill<MainWindowPosesElement>(std::move(page));
 }
 
 void MainWindowClothMaterialsTab::SelectedElement(int unique) {

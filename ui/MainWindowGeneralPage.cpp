@@ -1,7 +1,6 @@
 #include "ui/MainWindowGeneralPage.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "model/Data2.h"
 #include "model/Selection2.h"
@@ -20,9 +19,14 @@ void MainWindowGeneralPage::Create(QTabWidget* tabControl, int width, const std:
   tabControl->setTabToolTip(index, Texts::ToolTip(name));
 }
 
+void MainWindowGeneralPage::SetSize(int w, int h) {
+  m_w = w;
+  m_h = h;
+}
+
 void MainWindowGeneralPage::SetWidth(int width) {
   // A page narrower than one picture still has one column.
-  m_step = std::max(0, (width - 250) / (m_pictureSize.width() + 15) - 1);
+  m_step = std::max(0, (width - 250) / (m_w + 15) - 1);
   m_page->SetScrollPosition(QPoint(0, 0));
   if (m_isShown) LayOut();
 }
@@ -68,15 +72,6 @@ void MainWindowGeneralPage::UpdateSelection() {
 QWidget* MainWindowGeneralPage::GetFirstControl() const {
   auto* first = m_page->GetContent()->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
   return first != nullptr ? first : m_page;
-}
-
-void MainWindowGeneralPage::Fill(PageOffer page) {
-  m_elements.reserve(page.shown.size());
-  for (OfferedElement& offered : page.shown) {
-    m_elements.push_back(std::make_unique<MainWindowElement>());
-    m_elements.back()->Create(std::move(offered), this);
-  }
-  BeginWith(page);
 }
 
 void MainWindowGeneralPage::BeginWith(const PageOffer& page) {

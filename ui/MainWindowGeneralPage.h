@@ -6,7 +6,7 @@
 
 #include "core/FileStamps.h"
 #include "model/PageOffer.h"
-#include "ui/MainWindowElement.h"
+#include "ui/MainWindowElementBase.h"
 #include "ui/MaxForm.h"
 #include "ui/ScrollPanel.h"
 
@@ -25,15 +25,14 @@ class MainWindowGeneralPage {
 
   /// Adds the tab. `width` is the form's, here and below.
   void Create(QTabWidget* tabControl, int width, const std::wstring& title);
-  /// In pixels.
-  void SetPictureSize(const QSize& size) { m_pictureSize = size; }
-  const QSize& GetPictureSize() const { return m_pictureSize; }
+  /// Of the pictures, in pixels.
+  void SetSize(int w, int h);
   /// Lays the elements out and scrolls to the top.
   void SetWidth(int width);
   /// Makes the controls of the elements, once. Pages that nobody looks at do without.
   void Show();
-  int GetX(int column) const { return (m_pictureSize.width() + 15) * column + 15; }
-  int GetY(int row) const { return (m_pictureSize.height() + 15) * (row + 1) + 50 * row; }
+  int GetX(int column) const { return (m_w + 15) * column + 15; }
+  int GetY(int row) const { return (m_h + 15) * row + m_h + 15 + 50 * row; }
 
   virtual void SelectedElement(int unique) = 0;
   virtual void UnselectElement(int unique) = 0;
@@ -50,13 +49,21 @@ class MainWindowGeneralPage {
   /// The page goes with its control, which the tab control owns.
   ScrollPanel* GetControl() const { return m_page; }
   FileStamps& GetFiles() { return m_files; }
-  const std::vector<std::unique_ptr<MainWindowElement>>& GetElements() const { return m_elements; }
+  const std::vector<std::unique_ptr<MainWindowElementBase>>& GetElements() const { return m_elements; }
 
  protected:
-  using ElementPtr = std::unique_ptr<MainWindowElement>;
+  using ElementPtr = std::unique_ptr<MainWindowElementBase>;
 
   /// Makes the elements that the page shows, and chooses what it begins with; the window is not refreshed for it.
-  void Fill(PageOffer page);
+  template <class Element>
+  void Fill(PageOffer page) {
+    m_elements.reserve(page.shown.size());
+    for (OfferedElement& offered : page.shown) {
+      m_elements.push_back(std::make_unique<Element>());
+      m_elements.back()->Create(std::move(offered), this);
+    }
+    BeginWith(page);
+  }
 
   int m_lastSelected = 0;
 
@@ -71,7 +78,8 @@ class MainWindowGeneralPage {
   ScrollPanel* m_page = nullptr;
   bool m_isShown = false;
   int m_step = 0;
-  QSize m_pictureSize;
+  int m_w = 0;
+  int m_h = 0;
 };
 
 }  // namespace ZORVEL

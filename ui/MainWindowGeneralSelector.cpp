@@ -94,7 +94,7 @@ Page* MainWindowGeneralSelector::MakePage(const PageOffer& offer, int width) {
   Page* added = page.get();
   m_pages.push_back(std::move(page));
   const PictureSize size = PictureSize::OfBox(offer.kind);
-  added->SetPictureSize(QSize(size.width, size.height));
+  added->SetSize(size.width, size.height);
   added->Create(m_control, width, offer.title);
   return added;
 }

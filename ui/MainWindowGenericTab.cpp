@@ -2,10 +2,11 @@
 
 #include "plugin/Commands.h"
 #include "ui/Log.h"
+#include "ui/MainWindowGeneralElement.h"
 
 namespace ZORVEL {
 
-void MainWindowGenericTab::FillAssets(PageOffer page) { Fill(std::move(page)); }
+void MainWindowGenericTab::FillAssets(PageOffer page) { Fill<MainWindowGeneralElement>(std::move(page)); }
 
 void MainWindowGenericTab::SelectedElement(int unique) {
   LogInfo(L"selected an asset in the GUI");

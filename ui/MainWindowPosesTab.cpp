@@ -2,10 +2,11 @@
 
 #include "plugin/Commands.h"
 #include "ui/Log.h"
+#include "ui/MainWindowPosesElement.h"
 
 namespace ZORVEL {
 
-void MainWindowPosesTab::FillPoses(PageOffer page) { Fill(std::move(page)); }
+void MainWindowPosesTab::FillPoses(PageOffer page) { Fill<MainWindowPosesElement>(std::move(page)); }
 
 void MainWindowPosesTab::SelectedElement(int unique) {
   LogInfo(L"selected a pose in the GUI");

@@ -2,10 +2,11 @@
 
 #include "plugin/Commands.h"
 #include "ui/Log.h"
+#include "ui/MainWindowGeneralElement.h"
 
 namespace ZORVEL {
 
-void MainWindowSkinTab::FillSkins(PageOffer page) { Fill(std::move(page)); }
+void MainWindowSkinTab::FillSkins(PageOffer page) { Fill<MainWindowGeneralElement>(std::move(page)); }
 
 void MainWindowSkinTab::SelectedElement(int unique) {
   LogInfo(L"selected a skin in the GUI");

@@ -5,11 +5,12 @@
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/StandardOutput.h"
 #include "check/report/RulesDocument.h"
+#include "check/report/RulesReport.h"
 
 namespace cli {
 
 int runRules(const std::string& format) {
-  const std::string error = writeStandardOutput(format == "md"     ? check::rulesMarkdown()
+  const std::string error = writeStandardOutput(format == "md"     ? check::rulesDocument()
                                                 : format == "json" ? check::rulesJson()
                                                                    : check::rulesText());
   if (error.empty()) return EXIT_CLEAN;

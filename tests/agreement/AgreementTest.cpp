@@ -156,7 +156,7 @@ class Agreement : public testing::Test {
   }
 
   /// The page checks an element without an id too, which a choice by id cannot take.
-  static bool isChosen(const ZORVEL::MainWindowElement& element) {
+  static bool isChosen(const ZORVEL::MainWindowElementBase& element) {
     const int unique = element.GetUnique();
     const wchar_t* id = Data2::GetIdForUnique(unique);
     if (id == nullptr || *id == L'\0') return true;

@@ -16,6 +16,7 @@
 #include "check/report/JsonReport.h"
 #include "check/report/JunitReport.h"
 #include "check/report/RulesDocument.h"
+#include "check/report/RulesReport.h"
 #include "check/report/SarifReport.h"
 #include "check/report/TextReport.h"
 #include "tests/check/SampleFindings.h"
@@ -243,7 +244,7 @@ TEST(SarifReport, NamesAFindingTheSameWhenLinesMoveAndApartFromOthersThatAreAlik
 TEST(RulesDocument, HasEveryRuleOnceInEachForm) {
   const std::size_t count = check::allRules().size();
   EXPECT_EQ(Json::parse(check::rulesJson()).size(), count);
-  const std::string markdown = check::rulesMarkdown();
+  const std::string markdown = check::rulesDocument();
   for (const check::Rule& rule : check::allRules()) {
     EXPECT_THAT(markdown, HasSubstr("\n| " + std::string(rule.code) + " | `" + rule.name + "` | "));
     EXPECT_THAT(check::rulesText(), HasSubstr(rule.remedy));

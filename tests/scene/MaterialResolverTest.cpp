@@ -60,6 +60,11 @@ class MaterialResolution : public support::LogStoreFixture {
     return files;
   }
   using Files = std::vector<std::wstring>;
+  static Files aims(Mtl& material, const std::wstring& maps) {
+    Files files;
+    for (const auto& one : ZORVEL::TextureRedirection::LookAhead(material, maps).textures) files.push_back(one.to);
+    return files;
+  }
   using States = std::vector<LibraryState>;
   static States statesOf(const MaterialResult& result) {
     States states;
@@ -189,8 +194,7 @@ TEST_F(MaterialResolution, RedirectsBitmapsInSlotsParametersNestedMapsAndMateria
   EXPECT_EQ(bitmapsOf(*coat), Files{L"coat.tar.png"});
   clearLog();
   const std::wstring other = L"Q:\\maps\\";
-  EXPECT_EQ(ZORVEL::TextureRedirection::Targets(*deep, other),
-            (Files{other + L"slot.png", other + L"nested.png", other + L"coat.tar.png"}));
+  EXPECT_EQ(aims(*deep, other), (Files{other + L"slot.png", other + L"nested.png", other + L"coat.tar.png"}));
   EXPECT_EQ(bitmapsOf(*deep), (Files{L"slot.png", L"nested.png"})) << "to ask changes nothing";
   EXPECT_EQ(countLogged(L"set new texture path:"), 0);
   Mtl* parts = resolve(L"Parts")->GetMtl();
@@ -224,7 +228,8 @@ TEST_F(MaterialResolution, BringsTheScaledLengthIntoSceneUnitsOnceForEachMateria
   content.blocks = {host::Ref<host::ParameterBlock>(new host::ParameterBlock(0, {{4, TYPE_MTL, host::Ref<Mtl>(wax)}}))};
   const host::Ref<Mtl> multi(new host::Material(Class_ID(MULTI_CLASS_ID, 0), content));
   SetMasterUnitInfo(UNITS_MILLIMETERS, 1.0F);
-  EXPECT_EQ(ZORVEL::TextureRedirection::Targets(*multi, maps_), Files{maps_ + L"a.png"});
+  EXPECT_EQ(aims(*multi, maps_), Files{maps_ + L"a.png"});
+  EXPECT_FALSE(ZORVEL::TextureRedirection::LookAhead(*multi, maps_).isScaledAgain);
   ZORVEL::TextureRedirection::Redirect(*multi, maps_);
   EXPECT_NEAR(parameter(wax, 22), 10.0F, 1e-5F);
 }

@@ -81,7 +81,7 @@ TEST_F(ElementPages, StandInAsManyColumnsAsTheWidthHolds) {
   EXPECT_EQ(places("Things"),
             (QList<QPoint>{
                 {15, 15}, {180, 15}, {345, 15}, {510, 15}, {15, 230}, {180, 230}, {345, 230}, {510, 230}, {15, 445}}));
-  const ZORVEL::MainWindowElement& second = element("Things", "Bag : Leather");
+  const ZORVEL::MainWindowElementBase& second = element("Things", "Bag : Leather");
   EXPECT_EQ(second.GetPicture()->geometry(), QRect(180, 15, 150, 150));
   EXPECT_EQ(second.GetCheckBox()->geometry(), QRect(180, 165, 150, 50));
   EXPECT_EQ(element("Pose", "Sitting").GetPicture()->geometry(), QRect(130, 15, 100, 300));
@@ -157,7 +157,7 @@ TEST_F(ElementPages, FollowTheRulesOfTheirCategories) {
 
 TEST_F(ElementPages, OpenTheWebPageOfWhatIsNotThere) {
   support::OpenedAddresses opened;
-  const ZORVEL::MainWindowElement& walking = element("Pose", "Walking");
+  const ZORVEL::MainWindowElementBase& walking = element("Pose", "Walking");
   EXPECT_EQ(walking.GetCheckBox(), nullptr);
   EXPECT_EQ(shown(*walking.GetPicture()).pixelColor(50, 5), QColor(Qt::blue));
   EXPECT_EQ(shown(*walking.GetPicture()).pixelColor(50, 25), QColor(Qt::red));

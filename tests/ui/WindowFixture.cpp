@@ -18,7 +18,7 @@ namespace support {
 namespace {
 
 /// Only what has no picture is known by its box alone.
-QString nameOf(const ZORVEL::MainWindowElement& element) {
+QString nameOf(const ZORVEL::MainWindowElementBase& element) {
   const ZORVEL::PictureBox* picture = element.GetPicture();
   return picture != nullptr ? picture->accessibleName() : element.GetCheckBox()->text();
 }
@@ -132,7 +132,7 @@ const ZORVEL::MainWindowGeneralPage& WindowFixture::page(const QString& title) {
   return *window().GetGeneralSelectorWidget().GetPages().at(static_cast<std::size_t>(index));
 }
 
-const ZORVEL::MainWindowElement& WindowFixture::element(const QString& title, const QString& name) {
+const ZORVEL::MainWindowElementBase& WindowFixture::element(const QString& title, const QString& name) {
   const int index = names(title).indexOf(name);
   if (index < 0) throw std::runtime_error("no such element: " + name.toStdString());
   return *page(title).GetElements().at(static_cast<std::size_t>(index));

@@ -55,7 +55,7 @@ class WindowFixture : public LoadedRepositoryFixture {
   static void openTab(const QString& title);
   /// Looks at it: it is the current one afterwards. So do those that ask about its elements.
   static const ZORVEL::MainWindowGeneralPage& page(const QString& title);
-  static const ZORVEL::MainWindowElement& element(const QString& title, const QString& name);
+  static const ZORVEL::MainWindowElementBase& element(const QString& title, const QString& name);
   static void clickBox(const QString& title, const QString& name);
   static void clickPicture(const QString& title, const QString& name);
   /// In the order they stand.

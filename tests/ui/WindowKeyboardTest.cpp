@@ -45,7 +45,7 @@ TEST_F(WindowKeyboard, SpaceChoosesClothesPosesAndElements) {
   focusByTab(*window().GetClothWidget().GetElements().front()->GetPicture());
   key(Qt::Key_Space);
   EXPECT_EQ(selection(), "c1 kb p1 s1 m1 a2 a5 g1m2");
-  const ZORVEL::MainWindowElement& sitting = element("Pose", "Sitting");
+  const ZORVEL::MainWindowElementBase& sitting = element("Pose", "Sitting");
   const QImage plain = shown(*sitting.GetPicture());
   focusByTab(*sitting.GetPicture());
   EXPECT_NE(shown(*sitting.GetPicture()), plain) << "framed";

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "apps/cli/NearestIds.h"
+#include "apps/support/NearestIds.h"
 #include "apps/cli/author/NamesFromIds.h"
 #include "apps/cli/author/OptionsCheck.h"
 #include "apps/cli/author/RecordOf.h"
@@ -122,7 +122,7 @@ class Planner {
     const auto found = std::find_if(elements.begin(), elements.end(),
                                     [&](const Element* element) { return element->text(FIELD_ID) == id; });
     if (found != elements.end()) return *found;
-    refuse(EXIT_FINDINGS, unknownId(kind, *wanted, asUtf8(idsOf(elements))));
+    refuse(EXIT_FINDINGS, apps::unknownId(kind, *wanted, asUtf8(idsOf(elements))));
     return nullptr;
   }
 

@@ -10,11 +10,11 @@ class MainWindowGeneralPage;
 
 /// One element of a page: a picture with a check box underneath. One that is not available has no box, and a click on
 /// its picture opens the web page where it can be had.
-class MainWindowElement {
+class MainWindowElementBase {
  public:
-  MainWindowElement() = default;
-  MainWindowElement(const MainWindowElement&) = delete;
-  MainWindowElement& operator=(const MainWindowElement&) = delete;
+  virtual ~MainWindowElementBase() = default;
+  MainWindowElementBase(const MainWindowElementBase&) = delete;
+  MainWindowElementBase& operator=(const MainWindowElementBase&) = delete;
 
   /// What the element is; it can be chosen from now on.
   void Create(OfferedElement content, MainWindowGeneralPage* host);
@@ -36,7 +36,15 @@ class MainWindowElement {
   const QCheckBox* GetCheckBox() const { return m_checkBox; }
   const PictureBox* GetPicture() const { return m_logo; }
 
+ protected:
+  MainWindowElementBase() = default;
+  /// In pixels.
+  static QSize BoxOf(PageKind page);
+
  private:
+  virtual QSize GetPictureSize() const = 0;
+  virtual QSize GetCheckBoxSize() const = 0;
+
   void MakeCheckBox(QWidget* parent);
   void MakePicture(QWidget* parent);
   QString Describe() const;

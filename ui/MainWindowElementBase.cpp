@@ -1,6 +1,7 @@
-#include "ui/MainWindowElement.h"
+#include "ui/MainWindowElementBase.h"
 
 #include <utility>
+#include "model/PictureSize.h"
 
 #include "model/RepositoryPaths.h"
 #include "ui/Log.h"
@@ -10,18 +11,17 @@
 
 namespace ZORVEL {
 
-namespace {
+QSize MainWindowElementBase::BoxOf(PageKind page) {
+  const PictureSize size = PictureSize::OfBox(page);
+  return QSize(size.width, size.height);
+}
 
-const int CHECK_BOX_HEIGHT = 50;
-
-}  // namespace
-
-void MainWindowElement::Create(OfferedElement content, MainWindowGeneralPage* host) {
+void MainWindowElementBase::Create(OfferedElement content, MainWindowGeneralPage* host) {
   m_content = std::move(content);
   m_host = host;
 }
 
-void MainWindowElement::MakeControls(QWidget* parent) {
+void MainWindowElementBase::MakeControls(QWidget* parent) {
   const QString name = Texts::FromWide(m_content.text);
   const QString description = Describe();
   const QString toolTip = Texts::ToolTip(description);
@@ -37,29 +37,29 @@ void MainWindowElement::MakeControls(QWidget* parent) {
   m_logo->setAccessibleDescription(Texts::OneLine(description));
 }
 
-void MainWindowElement::MakeCheckBox(QWidget* parent) {
+void MainWindowElementBase::MakeCheckBox(QWidget* parent) {
   m_checkBox = new WrappingCheckBox(parent);
-  m_checkBox->resize(m_host->GetPictureSize().width(), CHECK_BOX_HEIGHT);
+  m_checkBox->resize(GetCheckBoxSize());
   m_checkBox->setChecked(m_selected);
   QObject::connect(m_checkBox, &QCheckBox::clicked, m_checkBox, [this] { AfterSelect(); });
 }
 
-void MainWindowElement::MakePicture(QWidget* parent) {
+void MainWindowElementBase::MakePicture(QWidget* parent) {
   PictureSource source;
   source.path = m_content.picturePath;
   source.stamp = m_host->GetFiles().Get(source.path);
-  source.box = m_host->GetPictureSize();
+  source.box = GetPictureSize();
   if (!isAvailable()) {
     source.overlay = RepositoryPaths::ElementOverlay(RepositoryPaths::Root());
     source.overlayStamp = m_host->GetFiles().Get(source.overlay);
   }
   m_logo = new PictureBox(parent);
-  m_logo->resize(source.box);
+  m_logo->resize(GetPictureSize());
   m_logo->SetSource(source);
   QObject::connect(m_logo, &PictureBox::clicked, m_logo, [this] { AfterSelectImage(); });
 }
 
-QString MainWindowElement::Describe() const {
+QString MainWindowElementBase::Describe() const {
   QString text = Texts::FromWide(m_content.text);
   if (isAvailable()) return text;
   text += QObject::tr("\nNot available, this file is missing: %1").arg(Texts::FromWide(m_content.refusal.concerned));
@@ -68,35 +68,35 @@ QString MainWindowElement::Describe() const {
   return text;
 }
 
-void MainWindowElement::Place(int x, int y) {
+void MainWindowElementBase::Place(int x, int y) {
   if (m_checkBox != nullptr) m_checkBox->move(x, y);
   if (m_logo != nullptr) m_logo->move(x, y - m_logo->height());
 }
 
-void MainWindowElement::SetSelected(bool selected) {
+void MainWindowElementBase::SetSelected(bool selected) {
   m_selected = selected;
   if (m_checkBox != nullptr) m_checkBox->setChecked(selected);
 }
 
-void MainWindowElement::SelectThisInCase(int unique) {
+void MainWindowElementBase::SelectThisInCase(int unique) {
   if (GetUnique() == unique) SetSelected(true);
 }
 
-void MainWindowElement::Focus() {
+void MainWindowElementBase::Focus() {
   if (m_checkBox != nullptr) m_checkBox->setFocus();
 }
 
-void MainWindowElement::AfterSelect() {
+void MainWindowElementBase::AfterSelect() {
   m_selected = m_checkBox->isChecked();
   TellHost(m_selected);
 }
 
-void MainWindowElement::AfterSelectImage() {
+void MainWindowElementBase::AfterSelectImage() {
   if (isAvailable()) return TellHost(!m_selected);
   WebAddress::Open(Texts::FromWide(m_content.url));
 }
 
-void MainWindowElement::TellHost(bool selected) {
+void MainWindowElementBase::TellHost(bool selected) {
   LogInfo(selected ? L"select..." : L"unselect...");
   if (selected) return m_host->SelectedElement(GetUnique());
   m_host->UnselectElement(GetUnique());
