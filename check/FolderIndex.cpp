@@ -91,6 +91,7 @@ DiskEntry FolderIndex::Look(const std::wstring& path) {
   const Found found = findAny(path);
   if (found.isOutside) return lookOutside(path);
   if (found.file == nullptr) return found.folder != nullptr ? DiskEntry::Folder : DiskEntry::Absent;
+  if (!found.file->isReferredTo) askedFor_.insert(path.substr(prefix_.size()));
   found.file->isReferredTo = true;
   return DiskEntry::File;
 }

@@ -60,6 +60,8 @@ class FolderIndex : public ZORVEL::DiskView {
   /// Files that nobody has asked for, below the root and sorted; a folder of which nothing was asked for stands for all
   /// its files, with a slash at its end and their number.
   std::vector<std::pair<std::string, int>> unreferenced() const;
+  /// Files that were asked for and are there, below the root and as they were asked for.
+  const std::set<std::wstring>& askedFor() const { return askedFor_; }
   /// Folders that could not be listed, with the reason.
   std::vector<std::pair<std::string, std::string>> unreadableFolders() const;
   int fileCount() const;
@@ -97,6 +99,7 @@ class FolderIndex : public ZORVEL::DiskView {
   std::unordered_map<std::wstring, Place> asWritten_;
   std::unordered_map<std::wstring, ZORVEL::DiskEntry> outside_;
   std::set<CaseDifference> caseDifferences_;
+  std::set<std::wstring> askedFor_;
 };
 
 }  // namespace check

@@ -110,25 +110,39 @@ void OfferRules::chooseClothes() {
   for (const DataContainer* clothing : choosable(apps::elementsOf(character_, ZORVEL::CLOTH))) {
     // Without a folder, or with an empty name of one, nothing of it is where it is looked for; that is told already.
     const bool hasFolder = !Fields::TextOrEmpty(clothing, FIELD_FOLDER).empty();
-    if (hasFolder && clothing->GetFastFlag(ZORVEL::FLAG_VALID)) clothes_.push_back(clothing);
+    if (hasFolder && clothing->GetFastFlag(ZORVEL::FLAG_VALID)) {
+      clothes_.push_back(clothing);
+    } else if (hasFolder) {
+      unavailable_.push_back(clothing);
+    }
     if (clothing->GetChildCount() > 0 && apps::clothChildren(*clothing, ZORVEL::MATERIAL).empty()) {
       survey_.findings.add(RuleId::ClothingWithoutStyle, clothing, {});
     }
   }
   poses_ = choosable(apps::elementsOf(character_, ZORVEL::POSES));
-  for (const DataContainer* clothing : clothes_) {
-    clothing_ = clothing;
-    pose_ = nullptr;
+  for (const DataContainer* clothing : clothes_) choose(*clothing);
+  // Its poses are shown, all of them grey.
+  for (const DataContainer* clothing : unavailable_) {
     Selection2::SetCloth(idOf(clothing).c_str());
     Selection2::SetPose(nullptr);
     offers_.VisitAll([this](const PageOffer& page) {
-      if (page.kind == PageKind::Poses) {
-        takePoses(*clothing_, page);
-      } else if (pose_ != nullptr) {
-        takePage(page, true);
-      }
+      for (const OfferedElement& element : page.shown) takePicture(page, element);
     });
   }
+}
+
+void OfferRules::choose(const DataContainer& clothing) {
+  clothing_ = &clothing;
+  pose_ = nullptr;
+  Selection2::SetCloth(idOf(&clothing).c_str());
+  Selection2::SetPose(nullptr);
+  offers_.VisitAll([this](const PageOffer& page) {
+    if (page.kind == PageKind::Poses) {
+      takePoses(*clothing_, page);
+    } else if (pose_ != nullptr) {
+      takePage(page, true);
+    }
+  });
 }
 
 void OfferRules::takePoses(const DataContainer& clothing, const PageOffer& page) {
@@ -261,10 +275,19 @@ void OfferRules::tellPair(const WornPose& pair) {
   }
 }
 
+/// Such an asset needs no page.
+bool OfferRules::isAskedForByAPose(const std::wstring& id) const {
+  for (const DataContainer* pose : apps::elementsOf(character_, ZORVEL::POSES)) {
+    if (CharacterData::FindElementById(pose, id.c_str()) != nullptr) return true;
+  }
+  return false;
+}
+
 void OfferRules::tellAssetsWithoutPage() {
   const auto known = apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES));
   for (const OfferedElement& element : offers_.GetAssetsWithoutPage()) {
     const std::wstring& id = element.refusal.concerned;
+    if (element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(idOf(element.record))) continue;
     if (element.refusal.why == WhyNot::CategoryUnnamed) {
       survey_.findings.add(RuleId::AssetCategoryUnnamed, element.record, {});
     } else {

@@ -42,6 +42,7 @@ class OfferRules {
   void lookAtLists();
   void lookAtStrip();
   void chooseClothes();
+  void choose(const ZORVEL::DataContainer& clothing);
   void choosePoses();
   void takePoses(const ZORVEL::DataContainer& clothing, const ZORVEL::PageOffer& page);
   void takePage(const ZORVEL::PageOffer& page, bool isFirstOfClothing);
@@ -53,6 +54,7 @@ class OfferRules {
 
   void tellWorn();
   void tellPair(const WornPose& pair);
+  bool isAskedForByAPose(const std::wstring& id) const;
   void tellAssetsWithoutPage();
   void tellAssetsWithoutRow();
   void tellAddresses();
@@ -63,6 +65,7 @@ class OfferRules {
   ZORVEL::PageOffers offers_;
   /// Each id once: another element with the same one is never chosen.
   Records clothes_;
+  Records unavailable_;
   Records poses_;
   std::vector<WornPose> worn_;
   const ZORVEL::DataContainer* pose_ = nullptr;

@@ -30,8 +30,8 @@ std::string contentOf(const std::filesystem::path& file) {
   return content.str();
 }
 
-std::vector<Ref<Mtl>> read(const std::filesystem::path& file) {
-  const Json document = Json::parse(contentOf(file), nullptr, false);
+std::vector<Ref<Mtl>> materialsIn(std::string_view text) {
+  const Json document = Json::parse(text, nullptr, false);
   if (!document.is_object() || document.value("format", "") != "zorvel-material-library") {
     throw Unreadable("is no material library that this host reads");
   }
@@ -43,25 +43,37 @@ std::vector<Ref<Mtl>> read(const std::filesystem::path& file) {
   return result;
 }
 
-}  // namespace
-
-MaterialLibraryContent readMaterialLibrary(const std::wstring& path) {
+/// Runs `read`, turning whatever it throws into the one line that the caller shows.
+template <class Read>
+MaterialLibraryContent reading(Read read) {
   MaterialLibraryContent content;
   try {
-    const std::filesystem::path file = resolvePath(path);
-    std::error_code error;
-    content.missing = !std::filesystem::exists(file, error);
-    if (content.missing) {
-      content.error = "does not exist";
-    } else {
-      content.materials = read(file);
-    }
+    read(content);
   } catch (const Json::exception& problem) {
     content.error = std::string("is damaged: ") + problem.what();
   } catch (const std::exception& problem) {
     content.error = problem.what();
   }
   return content;
+}
+
+}  // namespace
+
+MaterialLibraryContent readMaterialLibrary(const std::wstring& path) {
+  return reading([&path](MaterialLibraryContent& content) {
+    const std::filesystem::path file = resolvePath(path);
+    std::error_code error;
+    content.missing = !std::filesystem::exists(file, error);
+    if (content.missing) {
+      content.error = "does not exist";
+    } else {
+      content.materials = materialsIn(contentOf(file));
+    }
+  });
+}
+
+MaterialLibraryContent readMaterialLibraryText(std::string_view text) {
+  return reading([text](MaterialLibraryContent& content) { content.materials = materialsIn(text); });
 }
 
 }  // namespace host

@@ -3,6 +3,7 @@
 #include <imtl.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/services/Ref.h"
@@ -21,5 +22,7 @@ struct MaterialLibraryContent {
 /// Reads the embedded host's open form of a material library: JSON with materials of any class, their parameter blocks,
 /// sub-materials, sub-texture slots and bitmaps. `path` is Windows-shaped.
 MaterialLibraryContent readMaterialLibrary(const std::wstring& path);
+/// The same of a text that was read already.
+MaterialLibraryContent readMaterialLibraryText(std::string_view text);
 
 }  // namespace host

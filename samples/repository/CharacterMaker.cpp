@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 MaterialLibraryWriter& libraryFor(std::map<fs::path, MaterialLibraryWriter>& libraries, const fs::path& file,
                                   const std::string& owner) {
-  return libraries.try_emplace(file, "D:\\textures\\" + owner).first->second;
+  return libraries.try_emplace(file, "D:\\textures").first->second;
 }
 
 }  // namespace

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <set>
 
-#include "apps/support/NearestIds.h"
 #include "apps/cli/author/NamesFromIds.h"
 #include "apps/cli/author/OptionsCheck.h"
 #include "apps/cli/author/RecordOf.h"
+#include "apps/support/NearestIds.h"
 #include "core/WindowsNames.h"
 #include "host/files/NameCase.h"
 #include "host/files/Paths.h"

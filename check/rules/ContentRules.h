@@ -1,0 +1,40 @@
+#pragma once
+
+#include <map>
+
+#include "check/Contents.h"
+#include "check/rules/MaterialLibraryIndex.h"
+#include "check/rules/Survey.h"
+
+namespace check {
+
+/// What is in the pictures, meshes and material libraries that the rules before have met.
+class ContentRules {
+ public:
+  explicit ContentRules(Survey& survey) : survey_(survey), libraries_(survey.files, contents_) {}
+
+  void run(const std::function<void(std::size_t done, std::size_t known)>& progress);
+
+ private:
+  void want();
+  void lookAtPicture(const ShownPicture& picture);
+  void lookAtMesh(const UsedMesh& mesh);
+  void lookAtLibraries();
+  void countClosed();
+  void lookAtMaterial(const UsedMaterial& material);
+  void lookIntoMaterial(const UsedMaterial& used, const std::wstring& library);
+  void compareWithOthers(const UsedMaterial& used, const std::wstring& library);
+  void lookAtTextures(const UsedMaterial& used, Mtl& material);
+  std::string describe(const std::vector<ZORVEL::LibrarySearch>& searches) const;
+
+  Survey& survey_;
+  Contents contents_;
+  MaterialLibraryIndex libraries_;
+  /// Which library a name comes from, where it is first met.
+  std::map<std::wstring, std::wstring> firstLibrary_;
+  /// Where each file of the folder of textures comes from.
+  std::map<std::wstring, std::wstring> textureSources_;
+  std::set<std::wstring> metTextures_;
+};
+
+}  // namespace check
