@@ -24,13 +24,6 @@ File OpenSettingsFile(const std::wstring& name, const wchar_t* mode) {
   return File(_wfopen(name.c_str(), mode), &std::fclose);
 }
 
-bool FindSettingsFile(std::wstring& name) {
-  wchar_t folder[MAX_PATH] = {};
-  if (FAILED(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder))) return false;
-  name = std::wstring(folder) + L"\\zorvel.ini";
-  return true;
-}
-
 std::wstring ReadLatin1(std::FILE* file) {
   std::wstring text;
   char buffer[4096];
@@ -133,6 +126,13 @@ bool Settings::LoadFromSettingsFile() {
   if (text.size() < SHORTEST_PATH) return false;
   m_singleton->m_path = std::move(text);
   m_singleton->m_pathSet = true;
+  return true;
+}
+
+bool Settings::FindSettingsFile(std::wstring& name) {
+  wchar_t folder[MAX_PATH] = {};
+  if (FAILED(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder))) return false;
+  name = std::wstring(folder) + L"\\zorvel.ini";
   return true;
 }
 

@@ -32,6 +32,8 @@ class Settings {
   /// True when a path was taken from the file. Missing, unreadable or holding less than three characters, it changes
   /// nothing.
   static bool LoadFromSettingsFile();
+  /// The whole path of the settings file, which need not be there. False when the application-data folder is unknown.
+  static bool FindSettingsFile(std::wstring& name);
 
  private:
   Settings() = default;

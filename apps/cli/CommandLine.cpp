@@ -10,7 +10,9 @@
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/ListCommand.h"
 #include "apps/cli/SampleCommand.h"
+#include "apps/cli/Version.h"
 #include "apps/cli/author/AddCommand.h"
+#include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
 
 namespace cli {
@@ -18,7 +20,7 @@ namespace cli {
 namespace {
 
 const char* const EXIT_TEXT =
-    "Exit status: 0 clean, 1 findings or nothing built, 2 wrong usage, 3 input unreadable, 4 internal error.";
+    "Exit status: 0 clean, 1 findings or nothing built or added, 2 wrong usage, 3 input unreadable, 4 internal error.";
 
 const std::map<std::string, int> UNITS = {{"inches", UNITS_INCHES},
                                           {"feet", UNITS_FEET},
@@ -142,6 +144,19 @@ Command addAdd(CLI::App& app) {
   return {command, [options] { return runAdd(*options); }};
 }
 
+Command addDoctor(CLI::App& app) {
+  struct Options {
+    std::filesystem::path repository;
+    bool json = false;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* command =
+      app.add_subcommand("doctor", "Say what of this machine is well and what is not, and what to do about it");
+  command->add_option("DIR", options->repository, "Look at this repository, too");
+  command->add_flag("--json", options->json, "Print JSON");
+  return {command, [options] { return runDoctor(options->repository, options->json); }};
+}
+
 int report(const CLI::App& app, const CLI::ParseError& error) {
   return app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE;
 }
@@ -149,11 +164,12 @@ int report(const CLI::App& app, const CLI::ParseError& error) {
 }  // namespace
 
 int run(int argc, const char* const* argv) try {
-  CLI::App app("zorvel: lists, builds and previews character repositories");
+  CLI::App app("zorvel: makes, lists, builds and previews character repositories");
   app.footer(EXIT_TEXT);
-  app.set_version_flag("--version", "zorvel 1.0.0");
+  app.set_version_flag("--version", std::string("zorvel ") + PROGRAM_VERSION);
   app.require_subcommand(1);
-  const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app), addInit(app), addAdd(app)};
+  const std::vector<Command> commands = {addSample(app), addList(app), addCreate(app),
+                                         addInit(app),   addAdd(app),  addDoctor(app)};
   for (const Command& command : commands) command.app->footer(EXIT_TEXT);
   try {
     app.parse(argc, argv);

@@ -1,5 +1,3 @@
-#include "apps/cli/CommandLine.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,33 +6,17 @@
 
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/NearestIds.h"
+#include "tests/cli/RunCommand.h"
 #include "tests/support/SmallRepository.h"
 
 namespace {
 
+using support::Outcome;
+using support::run;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 using Json = nlohmann::json;
-
-struct Outcome {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-Outcome run(std::vector<std::string> arguments) {
-  arguments.insert(arguments.begin(), "zorvel");
-  std::vector<const char*> argv;
-  for (const std::string& argument : arguments) argv.push_back(argument.c_str());
-  testing::internal::CaptureStdout();
-  testing::internal::CaptureStderr();
-  Outcome outcome;
-  outcome.status = cli::run(static_cast<int>(argv.size()), argv.data());
-  outcome.out = testing::internal::GetCapturedStdout();
-  outcome.err = testing::internal::GetCapturedStderr();
-  return outcome;
-}
 
 class CommandLine : public testing::Test {
  protected:
