@@ -140,7 +140,9 @@ Command addAdd(CLI::App& app) {
   command->add_flag("--multiple", options->multiple, "category: several of its assets at once");
   command->add_flag("--required", options->required, "category: one of its assets is always chosen");
   command->add_flag("--no-style", options->noStyle, "clothing: without a first style");
-  command->add_flag("--no-rows", options->noRows, "pose, asset: without rows of the asset matrix");
+  command->add_flag(
+      "--no-rows", options->noRows,
+      "pose, asset: without rows of the asset matrix (a pose gets one for each asset that every other has one for)");
   return {command, [options] { return runAdd(*options); }};
 }
 

@@ -204,6 +204,7 @@ TEST_F(AuthorCommands, AddNamesTheFilesThatAreStillNeededUntilTheyAreThere) {
   const std::string reference = add({"asset", "my_bench", "--global", "bench"}).out;
   EXPECT_THAT(reference, HasSubstr("1 row of the AssetMatrix"));
   EXPECT_THAT(reference, Not(HasSubstr("Still")));
+  ASSERT_EQ(add({"asset", "lamp", "--no-rows"}).status, cli::EXIT_CLEAN);
   // Letter case does not count on disk.
   folder_.write("people/mannequin/Walking/POSE.vrmesh", "x");
   const std::string pose = add({"pose", "walking"}).out;
@@ -213,6 +214,7 @@ TEST_F(AuthorCommands, AddNamesTheFilesThatAreStillNeededUntilTheyAreThere) {
   }
   EXPECT_THAT(description(), HasSubstr(R"(<matrix poseID="walking" assetID="my_bench" xpos="0")"));
   EXPECT_THAT(description(), Not(HasSubstr(R"(assetID="scarf")")));
+  EXPECT_THAT(description(), Not(HasSubstr(R"(assetID="lamp")"))) << "it is not in every other pose";
   const std::string style = add({"style", "leisure_blue2", "--clothing", "leisure", "--preview", "blue.png",
                                  "--material", "Mannequin Leisure Blue"})
                                 .out;
