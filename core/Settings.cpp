@@ -25,13 +25,6 @@ File OpenSettingsFile(const std::wstring& name, const wchar_t* mode) {
   return File(_wfopen(name.c_str(), mode), &std::fclose);
 }
 
-bool FindSettingsFile(std::wstring& name) {
-  wchar_t folder[MAX_PATH] = {};
-  if (FAILED(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder))) return false;
-  name = std::wstring(folder) + L"\\zorvel.ini";
-  return true;
-}
-
 PathKeeping KeepingOf(std::size_t length) {
   if (length < SHORTEST_PATH) return PathKeeping::TooShort;
   return length > LONGEST_FILE ? PathKeeping::TooLong : PathKeeping::Whole;
@@ -146,6 +139,13 @@ bool Settings::LoadFromSettingsFile() {
   if (KeepingOf(text.size()) != PathKeeping::Whole) return false;
   m_singleton->m_path = std::move(text);
   m_singleton->m_pathSet = true;
+  return true;
+}
+
+bool Settings::FindSettingsFile(std::wstring& name) {
+  wchar_t folder[MAX_PATH] = {};
+  if (FAILED(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder))) return false;
+  name = std::wstring(folder) + L"\\zorvel.ini";
   return true;
 }
 

@@ -48,6 +48,8 @@ class Settings {
   static bool SaveToSettingsFile();
   /// True when a path was taken from the file. Missing, unreadable, too short or too long, it changes nothing.
   static bool LoadFromSettingsFile();
+  /// The whole path of the settings file, which need not be there. False when the application-data folder is unknown.
+  static bool FindSettingsFile(std::wstring& name);
 
  private:
   Settings() = default;

@@ -13,6 +13,7 @@
 #include "apps/cli/RulesCommand.h"
 #include "apps/cli/SampleCommand.h"
 #include "apps/cli/author/AddCommand.h"
+#include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
 
 namespace cli {
@@ -20,7 +21,7 @@ namespace cli {
 namespace {
 
 const char* const EXIT_TEXT =
-    "Exit status: 0 clean, 1 findings or nothing built, 2 wrong usage, 3 input unreadable, 4 internal error.";
+    "Exit status: 0 clean, 1 findings or nothing built or added, 2 wrong usage, 3 input unreadable, 4 internal error.";
 
 const std::map<std::string, int> UNITS = {{"inches", UNITS_INCHES},
                                           {"feet", UNITS_FEET},
@@ -150,6 +151,7 @@ Command addSample(CLI::App& app) {
   command
       ->add_option("--contact-sheets", options->contactSheets, "Folder for one picture of all outfits and poses each")
       ->option_text("FOLDER");
+  command->add_flag("--complete", options->complete, "Leave nothing out; otherwise some things are missing on purpose");
   command->add_flag("--force", options->force, "Write into a folder that is not empty");
   return {command, [options] { return runSample(*options); }};
 }
@@ -187,8 +189,23 @@ Command addAdd(CLI::App& app) {
   command->add_flag("--multiple", options->multiple, "category: several of its assets at once");
   command->add_flag("--required", options->required, "category: one of its assets is always chosen");
   command->add_flag("--no-style", options->noStyle, "clothing: without a first style");
-  command->add_flag("--no-rows", options->noRows, "pose, asset: without rows of the asset matrix");
+  command->add_flag(
+      "--no-rows", options->noRows,
+      "pose, asset: without rows of the asset matrix (a pose gets one for each asset that every other has one for)");
   return {command, [options] { return runAdd(*options); }};
+}
+
+Command addDoctor(CLI::App& app) {
+  struct Options {
+    std::filesystem::path repository;
+    bool json = false;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* command =
+      app.add_subcommand("doctor", "Say what of this machine is well and what is not, and what to do about it");
+  command->add_option("DIR", options->repository, "Look at this repository, too");
+  command->add_flag("--json", options->json, "Print JSON");
+  return {command, [options] { return runDoctor(options->repository, options->json); }};
 }
 
 int report(const CLI::App& app, const CLI::ParseError& error) {
@@ -198,12 +215,12 @@ int report(const CLI::App& app, const CLI::ParseError& error) {
 }  // namespace
 
 int run(int argc, const char* const* argv) try {
-  CLI::App app("zorvel: checks, lists, builds and previews character repositories");
+  CLI::App app("zorvel: makes, checks, lists, builds and previews character repositories");
   app.footer(EXIT_TEXT);
   app.set_version_flag("--version", "zorvel " ZORVEL_VERSION);
   app.require_subcommand(1);
-  const std::vector<Command> commands = {addSample(app), addInit(app), addAdd(app),   addCheck(app),
-                                         addRules(app),  addList(app), addCreate(app)};
+  const std::vector<Command> commands = {addSample(app), addInit(app), addAdd(app),    addCheck(app),
+                                         addRules(app),  addList(app), addCreate(app), addDoctor(app)};
   for (const Command& command : commands) command.app->footer(EXIT_TEXT);
   try {
     app.parse(argc, argv);

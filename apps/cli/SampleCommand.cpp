@@ -28,6 +28,7 @@ int runSample(const SampleCommandOptions& options) {
   samples::SampleOptions sample;
   sample.characters = options.characters;
   sample.seed = options.seed;
+  sample.isComplete = options.complete;
   sample.contactSheets = options.contactSheets;
   std::string error =
       samples::writeSampleRepository(options.folder, sample, [&progress](double done) { progress.report(done); });

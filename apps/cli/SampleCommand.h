@@ -9,6 +9,8 @@ struct SampleCommandOptions {
   std::filesystem::path folder;
   int characters = 6;
   std::uint64_t seed = 1;
+  /// Leaves nothing out.
+  bool complete = false;
   std::filesystem::path contactSheets;
   bool force = false;
 };

@@ -69,6 +69,7 @@ void FileRules::referToNamedPictures() {
       survey_.files.Look(ZORVEL::RepositoryPaths::ClothPreview(folder, record));
     };
     refer(character);
+    survey_.files.Look(AssetPicture(ZORVEL::RepositoryPaths::Previews(folder)));
     for (const ZORVEL::CONTAINER container : {ZORVEL::SKINS, ZORVEL::CLOTH, ZORVEL::POSES, ZORVEL::ASSETS}) {
       for (const ZORVEL::DataContainer* record : apps::elementsOf(*character, container)) {
         refer(record);

@@ -10,9 +10,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-MaterialLibraryWriter& libraryFor(std::map<fs::path, MaterialLibraryWriter>& libraries, const fs::path& file,
-                                  const std::string& owner) {
-  return libraries.try_emplace(file, "D:\\textures").first->second;
+MaterialLibraryWriter& libraryFor(std::map<fs::path, MaterialLibraryWriter>& libraries, const fs::path& file) {
+  return libraries.try_emplace(file, PAINTERS_FOLDER).first->second;
 }
 
 }  // namespace
@@ -97,10 +96,10 @@ std::string CharacterMaker::writeLibraries() const {
     const fs::path file = style.library == Library::Own         ? own / element / "materials.mat"
                           : style.library == Library::Character ? own / "materials.mat"
                                                                 : own / "props.mat";
-    libraryFor(libraries, file, design_.key).add(style.material);
+    libraryFor(libraries, file).add(style.material);
   };
   for (const SkinDesign& skin : design_.skins) {
-    libraryFor(libraries, own / "skin" / "skin.mat", design_.key).add(skinMaterial(design_, skin));
+    libraryFor(libraries, own / "skin" / "skin.mat").add(skinMaterial(design_, skin));
   }
   for (const OutfitDesign& outfit : design_.outfits) {
     if (!outfit.hasFolder) continue;

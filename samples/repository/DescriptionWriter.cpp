@@ -65,8 +65,7 @@ void DescriptionWriter::addGlobalAssets(const std::vector<GlobalAssetDesign>& as
   open("globalAssets");
   for (const GlobalAssetDesign& asset : assets) {
     const std::string id = globalId(asset);
-    Attributes attributes = {
-        {"id", id}, {"name", asset.name}, {"folder", asset.key}, {"type", "global"}, {"url", shop(id)}};
+    Attributes attributes = {{"id", id}, {"name", asset.name}, {"folder", asset.key}, {"type", "global"}};
     addAssetWithStyles(std::move(attributes), asset.styles, asset.plain);
   }
   close("globalAssets");
@@ -94,15 +93,14 @@ void DescriptionWriter::addSkins(const CharacterDesign& character) {
     empty("skin", {{"id", id},
                    {"name", skin.name},
                    {"preview", previewName(id)},
-                   {"material", skinMaterialName(character, skin)},
-                   {"url", shop(id)}});
+                   {"material", skinMaterialName(character, skin)}});
   }
   close("skins");
 }
 
 void DescriptionWriter::addOutfit(const CharacterDesign& character, const OutfitDesign& outfit) {
   const std::string id = outfitId(character, outfit);
-  open("clothing", {{"id", id}, {"name", outfit.name}, {"folder", outfit.key}, {"url", shop(id)}});
+  open("clothing", {{"id", id}, {"name", outfit.name}, {"folder", outfit.key}});
   addStyles(id, outfit.styles);
   for (const std::string& excluded : outfit.excludes) empty("exclude", {{"id", assetId(character, excluded)}});
   for (const OutfitDesign::Selected& selected : outfit.selects) {
@@ -152,8 +150,7 @@ void DescriptionWriter::addAsset(const CharacterDesign& character, const AssetDe
     return;
   }
   const bool worn = asset.kind == AssetDesign::Kind::Worn;
-  attributes.insert(attributes.end(),
-                    {{"folder", asset.key}, {"type", worn ? "specific" : "common"}, {"url", shop(id)}});
+  attributes.insert(attributes.end(), {{"folder", asset.key}, {"type", worn ? "specific" : "common"}});
   addAssetWithStyles(std::move(attributes), asset.styles, asset.plain);
 }
 

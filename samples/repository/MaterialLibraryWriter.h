@@ -8,6 +8,9 @@
 
 namespace samples {
 
+/// Where the textures of the sample were painted, on a machine that nobody has.
+constexpr char PAINTERS_FOLDER[] = "D:\\textures";
+
 /// Collects materials and writes them as one library file. Bitmaps name the folder of the workstation they were painted
 /// on, as libraries in the wild do.
 class MaterialLibraryWriter {

@@ -27,6 +27,16 @@ std::string missing(const CharacterDesign& character) {
   return text;
 }
 
+std::string missing(const std::vector<CharacterDesign>& people, const std::vector<GlobalAssetDesign>& globals) {
+  std::string text;
+  for (const CharacterDesign& character : people) text += missing(character);
+  for (const GlobalAssetDesign& asset : globals) {
+    if (asset.hasFolder) continue;
+    text += "- the folder `global_assets\\" + asset.key + "`: the asset \"" + asset.name + "\" is not offered.\n";
+  }
+  return text;
+}
+
 }  // namespace
 
 std::string repositoryReadme(const std::vector<CharacterDesign>& people, const std::vector<GlobalAssetDesign>& globals,
@@ -35,16 +45,17 @@ std::string repositoryReadme(const std::vector<CharacterDesign>& people, const s
                      ", with poses, clothing, skins and assets, made by `zorvel sample` with the seed " +
                      std::to_string(seed) +
                      ".\nEverything here is computed; nothing was photographed, scanned or modelled by hand. Lengths "
-                     "are centimetres, Z is up,\nand the characters face -Y.\n\n"
-                     "## What is missing on purpose\n\n"
-                     "A repository that people really use is never complete. This one leaves out\n\n";
-  for (const CharacterDesign& character : people) text += missing(character);
-  for (const GlobalAssetDesign& asset : globals) {
-    if (!asset.hasFolder)
-      text += "- the folder `global_assets\\" + asset.key + "`: the asset \"" + asset.name + "\" is not offered.\n";
+                     "are centimetres, Z is up,\nand the characters face -Y.\n\n";
+  const std::string leftOut = missing(people, globals);
+  if (!leftOut.empty()) {
+    text +=
+        "## What is missing on purpose\n\n"
+        "A repository that people really use is never complete. This one leaves out\n\n" +
+        leftOut + "\n";
   }
   return text +
-         "\nWhat is missing has a web address in its `url` field; the addresses lead nowhere.\n\n"
+         "Every pose has a web address in its `url`, where what is missing could be had; the addresses lead "
+         "nowhere.\n\n"
          "## Where things are\n\n"
          "- `zorvel.xml` describes everything.\n"
          "- `<character>\\<pose>\\pose.vrmesh` is the body, `<character>\\skin\\skin.mat` its skins.\n"

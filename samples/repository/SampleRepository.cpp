@@ -1,5 +1,8 @@
 #include "samples/repository/SampleRepository.h"
 
+#include <algorithm>
+#include <set>
+
 #include "samples/people/People.h"
 #include "samples/repository/CharacterPictures.h"
 #include "samples/repository/MaterialLibraryWriter.h"
@@ -20,7 +23,9 @@ class Writer {
         options_(options),
         progress_(progress),
         globals_(globalAssetDesigns()),
-        people_(people(std::clamp(options.characters, 1, 1000))) {}
+        people_(people(std::clamp(options.characters, 1, 1000))) {
+    if (options.isComplete) complete();
+  }
 
   std::string run() {
     using Step = std::string (Writer::*)();
@@ -33,6 +38,28 @@ class Writer {
   }
 
  private:
+  /// What nobody has modelled goes; the rest gets the files that are left out otherwise.
+  void complete() {
+    std::set<std::string> gone;
+    for (const GlobalAssetDesign& asset : globals_) {
+      if (!asset.hasFolder) gone.insert(globalId(asset));
+    }
+    const auto isGone = [&gone](const std::string& id) { return gone.count(id) > 0; };
+    erase(globals_, [&](const GlobalAssetDesign& asset) { return isGone(globalId(asset)); });
+    for (CharacterDesign& character : people_) {
+      erase(character.assets, [&](const AssetDesign& asset) { return isGone(asset.global); });
+      for (OutfitDesign& outfit : character.outfits) {
+        outfit.hasFolder = true;
+        outfit.missingPose.clear();
+      }
+    }
+  }
+
+  template <class Element, class Predicate>
+  static void erase(std::vector<Element>& elements, Predicate isGone) {
+    elements.erase(std::remove_if(elements.begin(), elements.end(), isGone), elements.end());
+  }
+
   void tell(double share) const {
     if (progress_) progress_(share);
   }
@@ -119,9 +146,9 @@ class Writer {
   }
 
   std::string writeGlobalLibraries() const {
-    MaterialLibraryWriter shared("D:\\textures\\shared");
+    MaterialLibraryWriter shared(PAINTERS_FOLDER);
     for (const GlobalAssetDesign& asset : globals_) {
-      MaterialLibraryWriter own("D:\\textures\\shared");
+      MaterialLibraryWriter own(PAINTERS_FOLDER);
       std::vector<StyleDesign> styles = asset.styles;
       if (styles.empty()) styles.push_back(asset.plain);
       for (const StyleDesign& style : styles) (style.library == Library::Own ? own : shared).add(style.material);

@@ -12,6 +12,8 @@ struct SampleOptions {
   int characters = 6;
   /// Changes the texture of cloth, skin and wood, nothing that a description names.
   std::uint64_t seed = 1;
+  /// Leaves nothing out on purpose: every folder and mesh that the description names is there.
+  bool isComplete = false;
   /// 1 is the quality meant for people; 3 is rough and quick.
   double coarseness = 1;
   /// Samples for each pixel of a preview.

@@ -249,7 +249,7 @@ TEST(RulesDocument, HasEveryRuleOnceInEachForm) {
     EXPECT_THAT(markdown, HasSubstr("\n| " + std::string(rule.code) + " | `" + rule.name + "` | "));
     EXPECT_THAT(check::rulesText(), HasSubstr(rule.remedy));
   }
-  EXPECT_THAT(markdown, HasSubstr("Put everything into one &lt;zorvel&gt; element."));
+  EXPECT_THAT(markdown, HasSubstr("Put everything into one &lt;zorvel> element."));
 }
 
 }  // namespace

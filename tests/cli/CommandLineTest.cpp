@@ -1,5 +1,3 @@
-#include "apps/cli/CommandLine.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -1,25 +1,20 @@
 #include "apps/cli/author/NewEntry.h"
 
 #include <algorithm>
-#include <set>
 
+#include "apps/cli/author/Collisions.h"
 #include "apps/cli/author/NamesFromIds.h"
 #include "apps/cli/author/OptionsCheck.h"
 #include "apps/cli/author/RecordOf.h"
 #include "apps/support/NearestIds.h"
-#include "core/WindowsNames.h"
-#include "host/files/NameCase.h"
 #include "host/files/Paths.h"
 #include "model/RepositoryFormat.h"
-#include "model/RepositoryPaths.h"
 
 namespace cli {
 
 using namespace ZORVEL::RepositoryFormat;
 
 namespace {
-
-namespace paths = ZORVEL::RepositoryPaths;
 
 /// Where entries of a kind stand. `title` is what a new list calls itself; null for lists without a name.
 struct Place {
@@ -95,8 +90,6 @@ class Planner {
     entry_.refusal = text;
     return false;
   }
-
-  const char* word() const { return placeOf(entry_.kind).word; }
 
   /// True also for what belongs to no character.
   bool findCharacter() {
@@ -180,7 +173,7 @@ class Planner {
     addToList(std::move(pose));
     std::vector<Element> rows;
     for (const Element* asset : entries(EntryKind::Asset)) {
-      if (needsRows(*asset)) rows.push_back(matrixRow(id_, asset->text(FIELD_ID)));
+      if (needsRows(*asset) && isInEveryPose(*asset)) rows.push_back(matrixRow(id_, asset->text(FIELD_ID)));
     }
     addRows(std::move(rows));
   }
@@ -270,29 +263,19 @@ class Planner {
     return nullptr;
   }
 
+  /// False, with the refusal, when there is a reason.
+  bool holds(const std::string& whyNot, ExitStatus status = EXIT_FINDINGS) {
+    return whyNot.empty() || refuse(status, whyNot);
+  }
+
   bool isFree(const std::vector<const Element*>& others) {
-    for (const std::wstring& other : idsOf(others)) {
-      if (!ZORVEL::WindowsNames::AreAlike(other, id_)) continue;
-      const std::string there = std::string("There is already a ") + word() + " with the id " + shown(other);
-      return refuse(EXIT_FINDINGS,
-                    other == id_ ? there + "." : there + ", which Windows does not tell from " + shown(id_) + ".");
-    }
-    return true;
+    return holds(whyIdTaken(id_, placeOf(entry_.kind).word, others));
   }
 
   /// A folder that is given may be shared on purpose; one that is made from the id may not be so by chance.
   bool isFolderFree(const std::vector<const Element*>& others, const std::vector<std::wstring>& reserved) {
-    for (const std::wstring& name : reserved) {
-      if (!ZORVEL::WindowsNames::AreAlike(name, folder())) continue;
-      return refuse(EXIT_USAGE, "The folder " + shown(name) + " has another use in a repository; --folder names one.");
-    }
-    for (const Element* other : others) {
-      const bool alike = ZORVEL::WindowsNames::AreAlike(other->text(FIELD_FOLDER), folder());
-      if (options_.folder || !alike) continue;
-      return refuse(EXIT_FINDINGS, "The folder " + shown(folder()) + " is that of " + shown(other->text(FIELD_ID)) +
-                                       "; --folder names another.");
-    }
-    return true;
+    return holds(whyFolderReserved(folder(), reserved), EXIT_USAGE) &&
+           (options_.folder || holds(whyFolderTaken(folder(), others)));
   }
 
   bool isElementFolderFree() {
@@ -304,34 +287,8 @@ class Planner {
     return isFolderFree(others, {L"previews", L"skin", L"maps"});
   }
 
-  /// Ids are joined in the names of pictures, where those of different elements may come out as one.
   bool arePicturesFree(const Element& added) {
-    std::vector<const Element*> clothing = entries(EntryKind::Clothing);
-    std::vector<const Element*> poses = entries(EntryKind::Pose);
-    const std::multiset<std::wstring> before = pictures(clothing, poses);
-    (added.name == ELEMENT_POSE ? poses : clothing).push_back(&added);
-    std::multiset<std::wstring> fresh = pictures(clothing, poses);
-    for (const std::wstring& picture : before) fresh.erase(fresh.find(picture));
-    std::set<std::wstring> taken(before.begin(), before.end());
-    for (const std::wstring& picture : fresh) {
-      if (taken.insert(picture).second) continue;
-      return refuse(EXIT_FINDINGS, "With the id " + shown(id_) + " two pictures would have one name, " +
-                                       host::nativePath(picture).filename().string() + ".");
-    }
-    return true;
-  }
-
-  /// In capitals, as names are compared.
-  static std::multiset<std::wstring> pictures(const std::vector<const Element*>& clothing,
-                                              const std::vector<const Element*>& poses) {
-    std::multiset<std::wstring> names;
-    for (const Element* cloth : clothing) {
-      names.insert(host::inCapitals(paths::ClothPreview({}, RecordOf(*cloth).get())));
-      for (const Element* pose : poses) {
-        names.insert(host::inCapitals(paths::PosePicture({}, cloth->text(FIELD_ID), RecordOf(*pose).get())));
-      }
-    }
-    return names;
+    return holds(whyPictureTaken(added, entries(EntryKind::Clothing), entries(EntryKind::Pose)));
   }
 
   std::vector<const Element*> entries(EntryKind kind) const {
@@ -383,6 +340,19 @@ class Planner {
     const Place& place = placeOf(entry_.kind);
     entry_.element = element;
     addAll(character_ == nullptr ? description_ : *character_, emptyList(place), {std::move(element)});
+  }
+
+  /// An asset that some pose has no row for is meant for the others only.
+  bool isInEveryPose(const Element& asset) const {
+    const std::vector<const Element*> rows = entriesOf(*character_, ELEMENT_ASSET_MATRIX, ELEMENT_MATRIX);
+    const auto hasRow = [&](const Element* pose) {
+      return std::any_of(rows.begin(), rows.end(), [&](const Element* row) {
+        return row->text(FIELD_POSE_ID) == pose->text(FIELD_ID) &&
+               row->text(FIELD_MATRIX_ASSET_ID) == asset.text(FIELD_ID);
+      });
+    };
+    const std::vector<const Element*> poses = entries(EntryKind::Pose);
+    return std::all_of(poses.begin(), poses.end(), hasRow);
   }
 
   void addRowsOfAsset() {
