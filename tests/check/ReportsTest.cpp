@@ -245,7 +245,7 @@ TEST(Rules, StandInTheOrderOfTheirIdsAndOfTheirCodes) {
   ASSERT_GE(rules.size(), 60U);
   for (std::size_t i = 0; i < rules.size(); ++i) {
     EXPECT_EQ(&check::ruleOf(static_cast<check::RuleId>(i)), &rules[i]) << rules[i].code;
-    if (i > 0) EXPECT_LT(std::string(rules[i - 1].code), rules[i].code);
+    EXPECT_TRUE(i == 0 || std::string(rules[i - 1].code) < rules[i].code) << rules[i].code;
     EXPECT_NE(check::rulesText().find(rules[i].remedy), std::string::npos);
   }
   EXPECT_EQ(Json::parse(check::rulesJson()).size(), rules.size());
