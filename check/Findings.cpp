@@ -73,6 +73,18 @@ bool Findings::has(RuleId rule, const ZORVEL::DataContainer* record) const {
   return element != nullptr && told_.count({rule, element}) > 0;
 }
 
+bool Findings::hasAny(std::initializer_list<RuleId> rules) const {
+  return std::any_of(findings_.begin(), findings_.end(), [rules](const Finding& finding) {
+    return std::find(rules.begin(), rules.end(), finding.rule) != rules.end();
+  });
+}
+
+bool Findings::hasOtherThanHints() const {
+  return std::any_of(findings_.begin(), findings_.end(), [](const Finding& finding) {
+    return finding.severity != Severity::Hint || finding.rule == RuleId::LibraryNotChecked;
+  });
+}
+
 void Findings::insert(Finding finding, const std::vector<Value>& values) {
   const Rule& rule = ruleOf(finding.rule);
   finding.severity = rule.severity;

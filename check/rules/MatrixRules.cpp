@@ -55,7 +55,10 @@ void MatrixRules::lookAt(const CharacterData& character, const XmlElement& eleme
   const auto lookAtRow = [&](const XmlElement& row) {
     const wchar_t* poseId = row.FindAttribute(FIELD_POSE_ID);
     const wchar_t* assetId = row.FindAttribute(FIELD_MATRIX_ASSET_ID);
-    if (poseId == nullptr || assetId == nullptr) return;
+    if (poseId == nullptr || assetId == nullptr) {
+      survey_.missedPairs.emplace(&character, poseId != nullptr ? poseId : L"", assetId != nullptr ? assetId : L"");
+      return;
+    }
     Findings& findings = survey_.findings;
     const auto [first, isNew] = rows.emplace(std::make_pair(poseId, assetId), row.line);
     const DataContainer* asset = assets.find(assetId);
@@ -64,9 +67,13 @@ void MatrixRules::lookAt(const CharacterData& character, const XmlElement& eleme
     } else if (poses.find(poseId) == nullptr) {
       const auto known = apps::idsOf(apps::elementsOf(character, ZORVEL::POSES));
       findings.add(RuleId::MatrixRowUnknownPose, &row, {poseId, hintAt(poseId, known)});
+      const std::wstring nearest = nearestTo(poseId, known);
+      if (!nearest.empty()) survey_.missedPairs.emplace(&character, nearest, assetId);
     } else if (asset == nullptr) {
       const auto known = apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS));
       findings.add(RuleId::MatrixRowUnknownAsset, &row, {assetId, hintAt(assetId, known)});
+      const std::wstring nearest = nearestTo(assetId, known);
+      if (!nearest.empty()) survey_.missedPairs.emplace(&character, poseId, nearest);
     } else if (CharacterData::IsSpecific(asset)) {
       findings.add(RuleId::MatrixRowUnused, &row, {assetId});
     }

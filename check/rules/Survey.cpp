@@ -12,9 +12,13 @@ std::wstring idOf(const ZORVEL::DataContainer* record) {
   return ZORVEL::Fields::TextOrEmpty(record, ZORVEL::RepositoryFormat::FIELD_ID);
 }
 
+std::wstring nearestTo(const std::wstring& wanted, const std::vector<std::string>& known) {
+  return host::toWide(apps::nearestId(host::toUtf8(wanted), known));
+}
+
 std::string hintAt(const std::wstring& wanted, const std::vector<std::string>& known) {
-  const std::string nearest = apps::nearestId(host::toUtf8(wanted), known);
-  return nearest.empty() ? "" : "; did you mean \"" + nearest + "\"?";
+  const std::wstring nearest = nearestTo(wanted, known);
+  return nearest.empty() ? "" : "; did you mean \"" + host::toUtf8(nearest) + "\"?";
 }
 
 const char* wordFor(EntryKind kind) {

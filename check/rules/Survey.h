@@ -1,6 +1,8 @@
 #pragma once
 
+#include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "check/Findings.h"
@@ -43,6 +45,10 @@ struct Survey {
   std::vector<ShownPicture> pictures;
   std::vector<UsedMesh> meshes;
   std::vector<UsedMaterial> materials;
+  /// Assets that another type is meant for than they are read with.
+  std::set<const ZORVEL::XmlElement*> misread = {};
+  /// Pose and asset of a character that a row of the asset matrix seems to mean and misses; empty for any.
+  std::set<std::tuple<const ZORVEL::CharacterData*, std::wstring, std::wstring>> missedPairs = {};
 
   const ZORVEL::XmlElement* elementOf(const ZORVEL::DataContainer* record) const {
     return findings.description().elementOf(record);
@@ -53,6 +59,11 @@ struct Survey {
     return element != nullptr ? element->line : 0;
   }
   std::string shown(const std::wstring& path) const { return files.shown(path); }
+  /// What is told of the record explains whatever else is wrong with its files and its places.
+  bool isExplained(const ZORVEL::DataContainer* record) const {
+    return misread.count(elementOf(record)) > 0 || findings.has(RuleId::GlobalWithoutType, record) ||
+           findings.has(RuleId::FolderEmpty, record);
+  }
 };
 
 /// What a person calls an element in the middle of a sentence: "clothing", "shared asset".
@@ -61,7 +72,9 @@ const char* wordFor(EntryKind kind);
 /// Empty for a record without one.
 std::wstring idOf(const ZORVEL::DataContainer* record);
 
-/// "; did you mean "anna"?", or nothing when none of the known is near.
+/// Empty when none of the known is near.
+std::wstring nearestTo(const std::wstring& wanted, const std::vector<std::string>& known);
+/// "; did you mean "anna"?", or nothing.
 std::string hintAt(const std::wstring& wanted, const std::vector<std::string>& known);
 
 }  // namespace check
