@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <map>
 #include <set>
 #include <string>
 #include <tuple>
@@ -35,6 +36,10 @@ class Findings {
   /// the whole description.
   void add(RuleId rule, const ZORVEL::XmlElement* element, std::vector<Value> values);
   void add(RuleId rule, const ZORVEL::DataContainer* record, std::vector<Value> values);
+  /// Of an attribute that nobody reads, where another is meant. When the other is told to be missing, the two are one
+  /// finding; so misspellings come before what follows from them.
+  void addMisspelt(RuleId rule, const ZORVEL::XmlElement& element, const std::wstring& meant,
+                   std::vector<Value> values);
   /// At a place of the description that is no element.
   void addAt(RuleId rule, int line, int column, std::vector<Value> values);
   /// About a file below the root, or about the root itself when `file` is empty.
@@ -50,10 +55,21 @@ class Findings {
   std::vector<Finding> takeAll();
 
  private:
+  struct Misspelling {
+    std::string meant;
+    std::string attribute;
+    Finding finding;
+    bool isTold = false;
+  };
+
+  Finding at(RuleId rule, const ZORVEL::XmlElement* element) const;
+  static void fillIn(Finding& finding, const std::vector<Value>& values);
   void insert(Finding finding, const std::vector<Value>& values);
+  void takeMisspelling(Finding& finding, const ZORVEL::XmlElement* element);
 
   const Description& description_;
   std::vector<Finding> findings_;
+  std::map<const ZORVEL::XmlElement*, std::vector<Misspelling>> misspellings_;
   std::set<std::pair<RuleId, const ZORVEL::XmlElement*>> told_;
 };
 

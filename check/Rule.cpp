@@ -278,8 +278,9 @@ const std::vector<Rule> RULES = {
      "the shared asset that the clothing selects is dropped again when the category \"{category}\" chooses one",
      "Put shared assets into the last category, or make the later one's \"selection\" \"multiple\"."},
     {RuleId::ValueNotUnderstood, "ZV425", "value-not-understood", WARNING,
-     "\"{attribute}\" is \"{value}\", which is not understood: {meaning}",
-     "Write exactly \"{right}\" if that is meant."},
+     "\"{attribute}\" is \"{value}\", which is not understood: {meaning}; it takes \"{one}\" "
+     "and \"{other}\"",
+     "Write the text exactly as it is read; letter case counts."},
     {RuleId::RequiredCategoryEmpty, "ZV426", "required-category-empty", WARNING,
      "the category is required, and nothing of it is offered in the pose \"{pose}\"",
      "Add rows to the asset matrix, so that something is offered in each pose."},

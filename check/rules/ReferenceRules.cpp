@@ -98,7 +98,7 @@ void ReferenceRules::lookAtExcludes(const CharacterData& character, const DataCo
     const wchar_t* id = Fields::OptionalText(exclude, FIELD_ID);
     if (id == nullptr) {
       survey_.findings.add(RuleId::ExcludeWithoutId, exclude, {});
-    } else if (findAsset(character, id) == nullptr) {
+    } else if (findAsset(character, id) == nullptr && !survey_.isLost(character, EntryKind::Assets)) {
       survey_.findings.add(RuleId::ExcludeUnknown, exclude, {id, hintAt(id, assetIds(character))});
     }
   }
@@ -115,6 +115,7 @@ void ReferenceRules::lookAtSelect(const CharacterData& character, const DataCont
   const wchar_t* id = Fields::OptionalText(&select, FIELD_ASSET_ID);
   if (id == nullptr) return survey_.findings.add(RuleId::SelectWithoutAsset, &select, {});
   const DataContainer* asset = findAsset(character, id);
+  if (asset == nullptr && survey_.isLost(character, EntryKind::Assets)) return;
   if (asset == nullptr) {
     return survey_.findings.add(RuleId::SelectUnknownAsset, &select, {id, hintAt(id, assetIds(character))});
   }

@@ -137,7 +137,7 @@ class CheckedRepository {
 
   /// Every element became a record, or it or one around it is named.
   void expectElementsTold(const XmlElement& parent) const {
-    static const std::set<std::wstring> LISTS = {L"globalAssets", L"skins",      L"cloth",  L"poses",
+    static const std::set<std::wstring> LISTS = {L"globalAssets", L"skins",       L"cloth", L"poses",
                                                  L"categories",   L"AssetMatrix", L"assets"};
     for (const XmlElement* child = parent.firstChild; child != nullptr; child = child->nextSibling) {
       const std::string path = check::printable(description_.pathOf(*child));
@@ -263,8 +263,7 @@ class CheckedRepository {
   void expectPictureTold(const PageOffer& page, const OfferedElement& element) const {
     const ZORVEL::PictureSize box = ZORVEL::PictureSize::OfBox(page.kind);
     QString problem;
-    const QImage image =
-        ZORVEL::PictureReader::Read(element.picturePath, QSize(box.width, box.height), problem);
+    const QImage image = ZORVEL::PictureReader::Read(element.picturePath, QSize(box.width, box.height), problem);
     const DataContainer* shown = element.style != nullptr ? element.style : element.record;
     if (image.isNull()) expectTold("without a picture", {shown});
   }
@@ -296,7 +295,7 @@ class CheckedRepository {
     alone.pieces = {piece};
     for (const ZORVEL::BuildFinding& finding : ZORVEL::BuildFindings::Describe(alone)) {
       const auto isUnread = [this](const ZORVEL::LibrarySearch& search) {
-        return hasFinding(RuleId::LibraryUnreadable, shown(search.file));
+        return hasFinding(RuleId::LibraryUnreadable, shown(search.file)) || hasFinding(RuleId::LibraryNotChecked);
       };
       const auto& searches = piece.material.searches;
       if (std::any_of(searches.begin(), searches.end(), isUnread)) continue;
