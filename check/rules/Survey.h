@@ -33,6 +33,15 @@ struct UsedMaterial {
   const ZORVEL::DataContainer* record;
 };
 
+/// A pose on the page that the window shows for one clothing.
+struct PoseOffer {
+  const ZORVEL::DataContainer* clothing;
+  const ZORVEL::DataContainer* pose;
+  /// Grey when it is shown and refused.
+  bool isShown;
+  ZORVEL::Refusal refusal;
+};
+
 /// What the rules work with: the repository in the plug-in's store, what lies on disk, and where findings go. Files
 /// that have to be looked into are noted on the way and read at the end, all at once.
 struct Survey {
@@ -43,6 +52,8 @@ struct Survey {
   std::vector<ShownPicture> pictures;
   std::vector<UsedMesh> meshes;
   std::vector<UsedMaterial> materials;
+  /// All poses, for each clothing that has an id of its own.
+  std::vector<PoseOffer> poseOffers;
 
   const ZORVEL::XmlElement* elementOf(const ZORVEL::DataContainer* record) const {
     return findings.description().elementOf(record);
@@ -53,6 +64,10 @@ struct Survey {
     return element != nullptr ? element->line : 0;
   }
   std::string shown(const std::wstring& path) const { return files.shown(path); }
+  /// As in a finding; empty for a record that no element was read into.
+  std::string pathOf(const ZORVEL::DataContainer* record) const;
+  /// For the middle of a sentence: "there is no mesh anna/dress/a_b.vrmesh".
+  std::string reasonOf(const ZORVEL::Refusal& refusal) const;
 };
 
 /// What a person calls an element in the middle of a sentence: "clothing", "shared asset".
