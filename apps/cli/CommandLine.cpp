@@ -79,6 +79,9 @@ Command addCheck(CLI::App& app) {
       ->check(CLI::IsMember({"text", "json", "sarif", "junit", "csv"}))
       ->option_text("FORMAT");
   command->add_option("--output", options->output, "Write the report into this file")->option_text("FILE");
+  command->add_flag(
+      "--matrix", options->showsMatrix,
+      "Show which clothing builds in which pose, and why not, in place of the findings (text, json, csv)");
   command->add_flag("--all", options->showsAll, "Text: show all findings of a rule, however many there are");
   addJudgement(*command, *options);
   command->add_option("--color", options->color, "Text: always, never, or auto for on a terminal")
