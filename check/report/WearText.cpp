@@ -1,5 +1,7 @@
 #include <algorithm>
-#include <functional>
+#include <map>
+#include <set>
+#include <utility>
 
 #include "check/PrintableText.h"
 #include "check/report/FindingCounts.h"
@@ -104,53 +106,63 @@ class TableWriter {
     }
   }
 
+  /// Cells with the same reason, as indexes of row and pose.
+  struct Group {
+    std::vector<std::pair<std::size_t, std::size_t>> cells;
+    std::set<std::size_t> rows;
+    std::set<std::size_t> poses;
+  };
+
   void addReasons() {
-    std::vector<bool> isTold(table_.poses.size());
-    for (std::size_t pose = 0; pose < table_.poses.size(); ++pose) isTold[pose] = addColumn(pose);
-    for (const WearRow& row : table_.rows) {
-      if (addRow(row, isTold)) continue;
-      for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        if (!isTold[i]) addReason(row.cells[i], shownId(row.clothing) + " in " + shownId(table_.poses[i]));
+    std::map<std::string, Group> groups;
+    std::vector<std::string> order;
+    for (std::size_t row = 0; row < table_.rows.size(); ++row) {
+      for (std::size_t pose = 0; pose < table_.poses.size(); ++pose) {
+        if (builds(cellAt(row, pose))) continue;
+        const std::string key = keyOf(row, pose);
+        Group& group = groups[key];
+        if (group.cells.empty()) order.push_back(key);
+        group.cells.emplace_back(row, pose);
+        group.rows.insert(row);
+        group.poses.insert(pose);
       }
     }
+    for (const std::string& key : order) addGroup(groups[key]);
   }
 
-  /// False when something builds, or the clothes have different reasons.
-  bool addColumn(std::size_t pose) {
-    if (showsAll_ || table_.rows.size() < 2) return false;
-    const WearCell& first = table_.rows.front().cells[pose];
-    if (builds(first)) return false;
-    const bool isSame = std::all_of(table_.rows.begin(), table_.rows.end(), [&](const WearRow& row) {
-      return row.cells[pose].state == first.state && row.cells[pose].reason == first.reason;
+  /// Where nothing goes with a clothing or a pose, it is one group although the files differ.
+  std::string keyOf(std::size_t row, std::size_t pose) const {
+    const WearCell& cell = cellAt(row, pose);
+    std::string what = cell.reason;
+    if (showsAll_) what = std::to_string(row) + ' ' + std::to_string(pose);
+    if (!showsAll_ && cell.code == ruleOf(RuleId::ClothingNeverWorn).code) what = "row " + std::to_string(row);
+    if (!showsAll_ && cell.code == ruleOf(RuleId::PoseNeverWorn).code) what = "pose " + std::to_string(pose);
+    return signOf(cell.state) + what;
+  }
+
+  void addGroup(const Group& group) {
+    const WearCell& first = cellAt(group.cells.front().first, group.cells.front().second);
+    const bool isOneReason = std::all_of(group.cells.begin(), group.cells.end(), [&](const auto& cell) {
+      return cellAt(cell.first, cell.second).reason == first.reason;
     });
-    if (isSame) addReason(first, "all clothes in " + shownId(table_.poses[pose]));
-    return isSame;
+    text_ += std::string("  ") + signOf(first.state) + ' ' + clothesOf(group) + " in " + posesOf(group) + ": " +
+             first.reason + (isOneReason ? "" : ", and " + std::to_string(group.cells.size() - 1) + " more") + " [" +
+             first.code + "]\n";
   }
 
-  /// False when the poses have different reasons.
-  bool addRow(const WearRow& row, const std::vector<bool>& isTold) {
-    std::vector<const WearCell*> cells;
-    for (std::size_t i = 0; i < row.cells.size(); ++i) {
-      if (!isTold[i]) cells.push_back(&row.cells[i]);
-    }
-    const auto isLikeFirst = [&](const WearCell* cell) {
-      return cell->state == cells.front()->state && cell->code == cells.front()->code &&
-             cell->file.empty() == cells.front()->file.empty();
-    };
-    if (showsAll_ || cells.size() < 2 || !std::all_of(cells.begin(), cells.end(), isLikeFirst)) return false;
-    const bool isOne = std::all_of(cells.begin(), cells.end(),
-                                   [&](const WearCell* cell) { return cell->reason == cells.front()->reason; });
-    const std::string more = isOne ? "" : ", and " + std::to_string(cells.size() - 1) + " more";
-    addReason(*cells.front(),
-              shownId(row.clothing) + (cells.size() == isTold.size() ? " in all poses" : " in all other poses"), more);
-    return true;
+  std::string clothesOf(const Group& group) const {
+    const std::size_t count = group.rows.size();
+    if (count == 1) return shownId(table_.rows[*group.rows.begin()].clothing);
+    return (count == table_.rows.size() ? "all" : std::to_string(count)) + " clothes";
   }
 
-  void addReason(const WearCell& cell, const std::string& where, const std::string& more = "") {
-    if (builds(cell)) return;
-    text_ +=
-        std::string("  ") + signOf(cell.state) + ' ' + where + ": " + cell.reason + more + " [" + cell.code + "]\n";
+  std::string posesOf(const Group& group) const {
+    const std::size_t count = group.poses.size();
+    if (count == 1) return shownId(table_.poses[*group.poses.begin()]);
+    return (count == table_.poses.size() ? "all" : std::to_string(count)) + " poses";
   }
+
+  const WearCell& cellAt(std::size_t row, std::size_t pose) const { return table_.rows[row].cells[pose]; }
 
   const WearTable& table_;
   const bool showsAll_;
