@@ -94,7 +94,9 @@ std::string AssetOffers::whyNotShown(const DataContainer& asset, const DataConta
   ZORVEL::PageOffers(character_, stamps_).VisitExceptPoses([&](const PageOffer& page) {
     if (page.kind != PageKind::Assets || page.category != category) return;
     for (const OfferedElement& element : page.hidden) {
-      if (isMeant(element)) whyNot = survey_.reasonOf(element.refusal);
+      if (!isMeant(element)) continue;
+      const bool isRow = element.refusal.why == WhyNot::NoMatrixRow;
+      whyNot = isRow ? "the asset matrix has no row for it" : survey_.reasonOf(element.refusal);
     }
     for (const OfferedElement& element : page.shown) {
       if (isMeant(element)) whyNot.clear();

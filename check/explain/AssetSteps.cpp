@@ -48,20 +48,19 @@ std::string listOf(const std::vector<std::string>& texts) {
 Outcome AssetSteps::addAsset(const CharacterData& character, const DataContainer& asset,
                              const DataContainer* material) {
   addType(asset);
-  addCategoryOf(character, asset);
+  const bool isAskedFor = addAskingPoses(character, asset);
+  const bool hasPage = addCategoryOf(character, asset, isAskedFor);
   addClothes(character, asset);
-  const std::size_t asking = addAskingPoses(character, asset);
   const Answers answers = AssetOffers(survey_, character).ofAsset(asset, material);
-  const std::size_t offered = addPoses(answers);
+  const std::size_t offered = hasPage ? addPoses(answers) : 0;
   const DataContainer* record = builtFrom(asset);
   if (record == nullptr) return {false, "never offered"};
   const std::string whyNot = addMeshes(character, *record, answers);
   addMaterials(*record, material);
-  if (offered == 0 && asking == 0) return {false, "never offered"};
-  const std::string where = offered > 0 ? "offered in " + ofAll(offered, answers.size(), "poses")
-                                        : "built with " + std::to_string(asking) + " poses that ask for it";
-  if (!whyNot.empty()) return {false, where + " and never built: " + whyNot};
-  return {true, where + (offered > 0 ? " and built" : "")};
+  if (offered == 0 && !isAskedFor) return {false, "never offered"};
+  const std::string where =
+      offered > 0 ? "offered in " + ofAll(offered, answers.size(), "poses") : "asked for by poses";
+  return whyNot.empty() ? Outcome{true, where + " and built"} : Outcome{false, where + " and never built: " + whyNot};
 }
 
 Outcome AssetSteps::addShared(const DataContainer& shared, const DataContainer* material) {
@@ -84,8 +83,7 @@ Outcome AssetSteps::addShared(const DataContainer& shared, const DataContainer* 
   addMaterials(shared, material);
   if (offering == 0) return {false, "never offered"};
   const std::string where = "offered by " + ofAll(offering, characters.size(), "characters");
-  if (!whyNot.empty()) return {false, where + " and never built: " + whyNot};
-  return {true, where + " and built"};
+  return whyNot.empty() ? Outcome{true, where + " and built"} : Outcome{false, where + " and never built: " + whyNot};
 }
 
 Outcome AssetSteps::addCategory(const CharacterData& character, const DataContainer& category) {
@@ -113,15 +111,21 @@ void AssetSteps::addType(const DataContainer& asset) {
   steps_.good("type", "global: stands for " + idField(shared) + " in line " + std::to_string(survey_.lineOf(shared)));
 }
 
-void AssetSteps::addCategoryOf(const CharacterData& character, const DataContainer& asset) {
+bool AssetSteps::addCategoryOf(const CharacterData& character, const DataContainer& asset, bool isAskedFor) {
   const DataContainer* category = character.GetCategory(&asset);
   if (category != nullptr) {
-    return steps_.good("category", idField(category) + ", tab \"" + apps::field(category, FIELD_NAME) + '"');
+    steps_.good("category", idField(category) + ", tab \"" + apps::field(category, FIELD_NAME) + '"');
+    return true;
   }
   ZORVEL::FileStamps stamps;
   for (const ZORVEL::OfferedElement& element : ZORVEL::PageOffers(character, stamps).GetAssetsWithoutPage()) {
-    if (element.record == &asset) steps_.bad("category", survey_.reasonOf(element.refusal));
+    if (element.record != &asset) continue;
+    // One that a pose asks for needs none.
+    const bool isMeant = isAskedFor && element.refusal.why == ZORVEL::WhyNot::CategoryUnnamed;
+    if (isMeant) steps_.note("category", "none: it is on no page");
+    if (!isMeant) steps_.bad("category", survey_.reasonOf(element.refusal));
   }
+  return false;
 }
 
 void AssetSteps::addClothes(const CharacterData& character, const DataContainer& asset) {
@@ -142,7 +146,7 @@ void AssetSteps::addClothes(const CharacterData& character, const DataContainer&
   if (!selecting.empty()) steps_.note("selected", "by " + listOf(selecting));
 }
 
-std::size_t AssetSteps::addAskingPoses(const CharacterData& character, const DataContainer& asset) {
+bool AssetSteps::addAskingPoses(const CharacterData& character, const DataContainer& asset) {
   std::vector<std::string> asking;
   for (const DataContainer* pose : apps::elementsOf(character, ZORVEL::POSES)) {
     const std::wstring id = Fields::TextOrEmpty(&asset, FIELD_ID);
@@ -150,7 +154,7 @@ std::size_t AssetSteps::addAskingPoses(const CharacterData& character, const Dat
   }
   if (!asking.empty())
     steps_.note("asked for", "by the pose" + std::string(asking.size() > 1 ? "s " : " ") + listOf(asking));
-  return asking.size();
+  return !asking.empty();
 }
 
 std::size_t AssetSteps::addPoses(const Answers& answers) {

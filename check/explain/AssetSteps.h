@@ -26,10 +26,11 @@ class AssetSteps {
   using Answers = std::vector<AssetOffers::Answer>;
 
   void addType(const ZORVEL::DataContainer& asset);
-  void addCategoryOf(const ZORVEL::CharacterData& character, const ZORVEL::DataContainer& asset);
+  /// Answers whether there is a page that may list it.
+  bool addCategoryOf(const ZORVEL::CharacterData& character, const ZORVEL::DataContainer& asset, bool isAskedFor);
   void addClothes(const ZORVEL::CharacterData& character, const ZORVEL::DataContainer& asset);
-  /// Answers how many of the poses ask for it.
-  std::size_t addAskingPoses(const ZORVEL::CharacterData& character, const ZORVEL::DataContainer& asset);
+  /// Answers whether there are any.
+  bool addAskingPoses(const ZORVEL::CharacterData& character, const ZORVEL::DataContainer& asset);
   /// Answers how many of the poses offer it.
   std::size_t addPoses(const Answers& answers);
   /// Answers why nothing is built of it; empty when something is.

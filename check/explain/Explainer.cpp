@@ -7,6 +7,7 @@
 #include "check/explain/AssetSteps.h"
 #include "check/explain/WearerSteps.h"
 #include "host/files/Paths.h"
+#include "model/Data2.h"
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
 #include "model/RepositoryPaths.h"
@@ -144,10 +145,13 @@ std::vector<Finding> Explainer::concerning(const Element& element) const {
   const std::string named = '"' + printable(host::toUtf8(id != nullptr ? id : L"")) + '"';
   const std::string wearer = wearerOf(path);
   const bool isCharacter = path == wearer;
+  const bool standsIn = element.kind == EntryKind::Asset && ZORVEL::Data2::CheckAssetGlobal(element.record);
+  const std::string shared = standsIn ? survey_.pathOf(ZORVEL::Data2::GetGlobalAssetForAsset(element.record)) : "";
   std::vector<Finding> result;
   for (const Finding& finding : run_.result().findings) {
     if (finding.element.empty()) continue;
-    const bool isAt = finding.element == path ? finding.line == element.source->line : finding.element == around;
+    const bool isAt = finding.element == path ? finding.line == element.source->line
+                                              : finding.element == around || finding.element == shared;
     const bool isIn = !isCharacter && isBelow(finding.element, path);
     const bool isNear = !isCharacter && (wearer.empty() || wearerOf(finding.element) == wearer);
     if (isAt || isIn || (isNear && finding.message.find(named) != std::string::npos)) result.push_back(finding);

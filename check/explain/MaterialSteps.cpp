@@ -55,11 +55,16 @@ void MaterialSteps::add(const UsedMaterial& used, const std::string& owner) {
 void MaterialSteps::addTextures(const UsedMaterial& used, const std::wstring& library) {
   const ZORVEL::RedirectionOutlook outlook = ZORVEL::TextureRedirection::LookAhead(
       *libraries_.find(library, used.name), ZORVEL::RepositoryPaths::Maps(survey_.root));
+  std::string there;
   for (const ZORVEL::RedirectedTexture& texture : outlook.textures) {
     const std::string file = survey_.shown(texture.to);
-    const bool isThere = survey_.files.Look(texture.to) == DiskEntry::File;
-    steps_.unless(isThere ? "" : "there is no " + file, "texture", file);
+    if (survey_.files.Look(texture.to) == DiskEntry::File) {
+      there += (there.empty() ? "" : ", ") + file;
+    } else {
+      steps_.bad("textures", "there is no " + file);
+    }
   }
+  if (!there.empty()) steps_.good("textures", there);
 }
 
 std::string MaterialSteps::describe(const std::wstring& library) {

@@ -59,7 +59,8 @@ Outcome WearerSteps::addCharacter() {
     building += static_cast<std::size_t>(count);
     all += row.cells.size();
   }
-  return {building > 0, verdictOn(building, "in " + ofAll(building, all, "clothes in poses"))};
+  return {building > 0,
+          building > 0 ? "offered, and " + ofAll(building, all, "clothes in poses build") : "never built"};
 }
 
 Outcome WearerSteps::addClothing(const DataContainer& clothing) {
@@ -123,13 +124,13 @@ std::size_t WearerSteps::addCells(const Cells& cells, const char* topic, const c
   std::vector<std::string> reasons;
   for (const auto& [name, cell] : cells) {
     if (cell->state == WearState::Builds) continue;
-    const std::string reason = std::string(nameOf(cell->state)) + ": " + cell->reason;
+    const std::string reason = std::string(": ") + nameOf(cell->state) + ", " + cell->reason;
     if (places[reason].empty()) reasons.push_back(reason);
     places[reason].push_back(name);
   }
   for (const std::string& reason : reasons) {
     const std::vector<std::string>& in = places[reason];
-    steps_.bad(topic, (in.size() == 1 ? in.front() : std::to_string(in.size()) + ' ' + noun) + " " + reason);
+    steps_.bad(topic, (in.size() == 1 ? in.front() : std::to_string(in.size()) + ' ' + noun) + reason);
   }
   return building;
 }

@@ -8,7 +8,7 @@ namespace check {
 
 namespace {
 
-constexpr std::size_t TOPIC_WIDTH = 10;
+constexpr std::size_t TOPIC_WIDTH = 11;
 
 const char* signOf(ExplainedStep::State state) {
   const char* const signs[] = {"ok", "NO", " -"};
