@@ -1,6 +1,7 @@
 #include "check/CheckRun.h"
 
 #include "apps/support/ModelText.h"
+#include "check/Workload.h"
 #include "check/rules/BuildRules.h"
 #include "check/rules/FileRules.h"
 #include "check/rules/FolderRules.h"
@@ -11,6 +12,7 @@
 #include "check/rules/ReferenceRules.h"
 #include "core/Settings.h"
 #include "model/Data2.h"
+#include "model/RepositoryPaths.h"
 #include "repository/Parser2.h"
 
 namespace check {
@@ -24,22 +26,27 @@ void tell(const CheckerOptions& options, double from, double to, std::size_t don
   if (options.progress) options.progress(from + (to - from) * static_cast<double>(done) / static_cast<double>(known));
 }
 
+/// So that a root that cannot be named is none, instead of an exception.
+std::filesystem::path absoluteOrEmpty(const std::filesystem::path& path) {
+  std::error_code error;
+  return std::filesystem::absolute(path, error);
+}
+
 }  // namespace
 
 CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& options)
     : settings_(root),
-      prefix_(ZORVEL::Settings::GetPath()),
-      files_(std::filesystem::absolute(root), prefix_),
+      prefix_(settings_.isThere() ? ZORVEL::Settings::GetPath() : L""),
+      files_(absoluteOrEmpty(root), prefix_),
       findings_(description_),
       survey_{findings_, files_, prefix_, {}, {}, {}, {}},
       contents_(survey_),
       viewed_(files_),
       observed_(description_) {
-  files_.read([&options](std::size_t done, std::size_t known) { tell(options, 0.0, LISTINGS, done, known); });
   result_.root = root.string();
   ZORVEL::Data2::Clear();
-  result_.isReadable = ZORVEL::Parser2::ParseRepository(prefix_.c_str());
-  ReadingRules(survey_).run();
+  result_.isReadable = readDescription(options);
+  if (settings_.isThere()) ReadingRules(survey_).run();
   if (result_.isReadable) {
     ZORVEL::Data2::SetValidated(true);
     runRules(options);
@@ -48,6 +55,27 @@ CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& opti
   result_.characterCount = ZORVEL::Data2::GetCharacterCount();
   result_.elementCount = description_.elementCount();
   result_.fileCount = files_.fileCount();
+}
+
+bool CheckRun::readDescription(const CheckerOptions& options) {
+  if (!settings_.isThere()) {
+    findings_.addAt(RuleId::DescriptionUnreadable, 0, 0,
+                    {"no temporary folder can be made, and the settings need one"});
+    return false;
+  }
+  const std::wstring file = ZORVEL::RepositoryPaths::Description(prefix_);
+  // Without a description it may be any folder, of any size.
+  if (files_.Look(file) == ZORVEL::DiskEntry::File) {
+    files_.read([&options](std::size_t done, std::size_t known) { tell(options, 0.0, LISTINGS, done, known); });
+  }
+  if (!files_.isInside(file)) {
+    findings_.addAt(RuleId::DescriptionUnreadable, 0, 0, {"it is a link that leads out of the repository"});
+    return false;
+  }
+  if (!ZORVEL::Parser2::ParseRepository(prefix_.c_str())) return false;
+  const std::string tooLarge = whyTooLarge();
+  if (!tooLarge.empty()) findings_.addAt(RuleId::DescriptionBeyondLimits, 0, 0, {tooLarge});
+  return tooLarge.empty();
 }
 
 CheckRun::Store::~Store() { ZORVEL::Data2::Clear(); }

@@ -33,6 +33,8 @@ class CheckRun {
     Store& operator=(const Store&) = delete;
   };
 
+  /// Whether it could be read, as a whole and within bounds; findings say why not.
+  bool readDescription(const CheckerOptions& options);
   void runRules(const CheckerOptions& options);
 
   apps::SettledRoot settings_;

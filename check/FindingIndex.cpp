@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "check/Findings.h"
 #include "check/PrintableText.h"
 
 namespace check {
@@ -19,7 +20,8 @@ const Finding* FindingIndex::find(const ZORVEL::XmlElement* element, RuleId rule
 }
 
 const Finding* FindingIndex::find(const ZORVEL::XmlElement* element, RuleId rule, const std::string& subject) const {
-  const std::string wanted = printable(subject);
+  // As it was cut when it was taken in.
+  const std::string wanted = printable(Value(subject).text());
   const std::vector<const Finding*>& here = at(element);
   const auto found = std::find_if(here.begin(), here.end(),
                                   [&](const Finding* one) { return one->rule == rule && one->subject == wanted; });

@@ -1,6 +1,7 @@
 #include "check/explain/Explainer.h"
 
-#include <algorithm>
+#include <set>
+#include <utility>
 
 #include "apps/support/ModelText.h"
 #include "check/PrintableText.h"
@@ -135,28 +136,35 @@ Outcome Explainer::addRest(const Element& element) {
 
 /// Those about it, in it (but not all of a character), right around it, and those in the same character that name it.
 std::vector<Finding> Explainer::concerning(const Element& element) const {
-  const Description& description = survey_.findings.description();
-  const std::string path = printable(description.pathOf(*element.source));
-  const XmlElement* parent = description.parentOf(*element.source);
-  const std::string around = element.owner != nullptr ? survey_.pathOf(element.owner)
-                             : parent != nullptr      ? printable(description.pathOf(*parent))
-                                                      : "";
+  const std::string path = printable(survey_.findings.description().pathOf(*element.source));
   const wchar_t* id = element.source->FindAttribute(FIELD_ID);
   const std::string named = '"' + printable(host::toUtf8(id != nullptr ? id : L"")) + '"';
   const std::string wearer = wearerOf(path);
-  const bool isCharacter = path == wearer;
-  const bool standsIn = element.kind == EntryKind::Asset && ZORVEL::Data2::CheckAssetGlobal(element.record);
-  const std::string shared = standsIn ? survey_.pathOf(ZORVEL::Data2::GetGlobalAssetForAsset(element.record)) : "";
+  const std::set<const XmlElement*> near = {element.source, aroundOf(element), sharedOf(element)};
+  std::set<std::pair<int, int>> places;
+  for (const XmlElement* one : near) {
+    if (one != nullptr) places.emplace(one->line, one->column);
+  }
   std::vector<Finding> result;
   for (const Finding& finding : run_.result().findings) {
     if (finding.element.empty()) continue;
-    const bool isAt = finding.element == path ? finding.line == element.source->line
-                                              : finding.element == around || finding.element == shared;
-    const bool isIn = !isCharacter && isBelow(finding.element, path);
-    const bool isNear = !isCharacter && (wearer.empty() || wearerOf(finding.element) == wearer);
-    if (isAt || isIn || (isNear && finding.message.find(named) != std::string::npos)) result.push_back(finding);
+    const bool isAt = places.count({finding.line, finding.column}) > 0;
+    const bool isIn = path != wearer && isBelow(finding.element, path);
+    const bool isInSame = path != wearer && (wearer.empty() || wearerOf(finding.element) == wearer);
+    if (isAt || isIn || (isInSame && finding.message.find(named) != std::string::npos)) result.push_back(finding);
   }
   return result;
+}
+
+const XmlElement* Explainer::aroundOf(const Element& element) const {
+  if (element.owner != nullptr) return survey_.elementOf(element.owner);
+  return survey_.findings.description().parentOf(*element.source);
+}
+
+/// Null for what stands for no shared asset.
+const XmlElement* Explainer::sharedOf(const Element& element) const {
+  const bool standsIn = element.kind == EntryKind::Asset && ZORVEL::Data2::CheckAssetGlobal(element.record);
+  return standsIn ? survey_.elementOf(ZORVEL::Data2::GetGlobalAssetForAsset(element.record)) : nullptr;
 }
 
 }  // namespace check

@@ -25,6 +25,8 @@ class Explainer {
   Outcome addRest(const Element& element);
   std::string whyNotRead(const ZORVEL::XmlElement& element) const;
   std::vector<Finding> concerning(const Element& element) const;
+  const ZORVEL::XmlElement* aroundOf(const Element& element) const;
+  const ZORVEL::XmlElement* sharedOf(const Element& element) const;
 
   CheckRun& run_;
   const Survey& survey_;

@@ -146,8 +146,8 @@ class TableWriter {
       return cellAt(cell.first, cell.second).reason == first.reason;
     });
     text_ += std::string("  ") + signOf(first.state) + ' ' + clothesOf(group) + " in " + posesOf(group) + ": " +
-             first.reason + (isOneReason ? "" : ", and " + std::to_string(group.cells.size() - 1) + " more") + " [" +
-             first.code + "]\n";
+             first.reason + (isOneReason ? "" : ", and " + std::to_string(group.cells.size() - 1) + " more") +
+             (first.code.empty() ? "" : " [" + first.code + ']') + '\n';
   }
 
   std::string clothesOf(const Group& group) const {

@@ -21,8 +21,6 @@ using namespace ZORVEL::RepositoryFormat;
 
 namespace {
 
-std::wstring idOf(const DataContainer* record) { return Fields::TextOrEmpty(record, FIELD_ID); }
-
 /// Only what has a folder: without, that is told, and everything that would be in it is missing for that reason.
 bool isMarked(const DataContainer& record) { return record.GetFastFlag(ZORVEL::FLAG_VALID); }
 
@@ -66,8 +64,8 @@ void BuildRules::lookAtMandatory(const DataContainer& pose, const DataContainer&
   if (plan.canBeBuilt) return lookAtMandatoryAsset(pose, entry, plan);
   switch (plan.omission.reason) {
     case OmissionReason::UnknownId: {
-      const auto known = apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS));
-      return survey_.findings.add(RuleId::MandatoryUnknown, &entry, {id, hintAt(id, known)});
+      const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
+      return survey_.findings.add(RuleId::MandatoryUnknown, &entry, {id, survey_.hintAt(id, known)});
     }
     case OmissionReason::NoSharedRecord:
       return survey_.findings.add(RuleId::MandatoryGlobalUnknown, &entry, {id});

@@ -27,8 +27,6 @@ using namespace ZORVEL::RepositoryFormat;
 
 namespace {
 
-std::wstring idOf(const DataContainer* record) { return Fields::TextOrEmpty(record, FIELD_ID); }
-
 /// Those that can be chosen: with an id, and the first that has it.
 std::vector<const DataContainer*> choosable(const std::vector<DataContainer*>& records) {
   std::set<std::wstring> known;
@@ -82,11 +80,12 @@ void OfferRules::lookAtLists() {
                         });
     if (!isTold) survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
   }
+  std::set<const DataContainer*> used;
+  for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
+    used.insert(character_.GetCategory(asset));
+  }
   for (const DataContainer* category : apps::elementsOf(character_, ZORVEL::CATEGORIES)) {
-    const auto assets = apps::elementsOf(character_, ZORVEL::ASSETS);
-    const bool isUsed = std::any_of(assets.begin(), assets.end(), [&](const DataContainer* asset) {
-      return character_.GetCategory(asset) == category;
-    });
+    const bool isUsed = used.count(category) > 0;
     if (!isUsed && !idOf(category).empty()) survey_.findings.add(RuleId::CategoryEmpty, category, {});
   }
 }
@@ -284,14 +283,14 @@ bool OfferRules::isAskedForByAPose(const std::wstring& id) const {
 }
 
 void OfferRules::tellAssetsWithoutPage() {
-  const auto known = apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES));
+  const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES)); };
   for (const OfferedElement& element : offers_.GetAssetsWithoutPage()) {
     const std::wstring& id = element.refusal.concerned;
     if (element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(idOf(element.record))) continue;
     if (element.refusal.why == WhyNot::CategoryUnnamed) {
       survey_.findings.add(RuleId::AssetCategoryUnnamed, element.record, {});
     } else {
-      survey_.findings.add(RuleId::AssetCategoryUnknown, element.record, {id, hintAt(id, known)});
+      survey_.findings.add(RuleId::AssetCategoryUnknown, element.record, {id, survey_.hintAt(id, known)});
     }
   }
 }

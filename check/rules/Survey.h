@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -68,12 +69,18 @@ struct Survey {
   std::string pathOf(const ZORVEL::DataContainer* record) const;
   /// For the middle of a sentence: "there is no mesh anna/dress/a_b.vrmesh".
   std::string reasonOf(const ZORVEL::Refusal& refusal) const;
+  /// "; did you mean "anna"?", or nothing when none of the known is near. Who gets thousands of names wrong gets hints
+  /// for the first of them only: each is compared with all that are known.
+  std::string hintAt(const std::wstring& wanted, const std::function<std::vector<std::string>()>& known);
+
+  /// How many pairs of letters may still be compared for hints.
+  double hintWork = 2e8;
 };
 
 /// What a person calls an element in the middle of a sentence: "clothing", "shared asset".
 const char* wordFor(EntryKind kind);
 
-/// "; did you mean "anna"?", or nothing when none of the known is near.
-std::string hintAt(const std::wstring& wanted, const std::vector<std::string>& known);
+/// Empty for a record without one.
+std::wstring idOf(const ZORVEL::DataContainer* record);
 
 }  // namespace check
