@@ -7,6 +7,7 @@
 #include "check/PrintableText.h"
 #include "host/files/Paths.h"
 #include "model/Fields.h"
+#include "model/MeshFiles.h"
 #include "model/PiecePlans.h"
 #include "model/RepositoryFormat.h"
 
@@ -33,7 +34,6 @@ constexpr std::initializer_list<RuleId> POSE_USELESS = {RuleId::ChoiceIdMissing,
 constexpr std::initializer_list<RuleId> CHOICE_USELESS = {RuleId::ChoiceIdMissing, RuleId::IdEmpty,
                                                           RuleId::SkinPictureMissing, RuleId::PreviewUnnamed};
 constexpr std::initializer_list<RuleId> POSE_FOLDER = {RuleId::PoseFolderMissing, RuleId::FolderUnnamed};
-constexpr std::initializer_list<RuleId> UNREADABLE = {RuleId::MeshUnreadable, RuleId::FileUnreadable};
 
 bool isLeftOut(Kind kind) {
   return kind == Kind::CharacterWithoutAttributes || kind == Kind::CharacterWithoutFolder ||
@@ -180,34 +180,42 @@ WearCell WearTables::refused(const PoseOffer& offer) const {
   if (finding == nullptr) finding = findings_.find(pose, RuleId::PosePictureMissing, file);
   if (finding == nullptr) finding = findings_.find(clothing, RuleId::ClothingNeverWorn);
   if (finding == nullptr) finding = findings_.find(pose, RuleId::PoseNeverWorn);
-  if (finding == nullptr) finding = findings_.find(clothing, RuleId::FolderEmpty);
   WearCell cell = {offer.isShown ? WearState::Grey : WearState::Hidden, printable(survey_.reasonOf(offer.refusal)),
                    printable(file), ""};
-  if (finding != nullptr) cell.code = ruleOf(finding->rule).code;
+  cell.code = finding != nullptr ? ruleOf(finding->rule).code : codeAt(clothing);
+  if (cell.code.empty()) cell.code = codeAt(pose);
   return cell;
 }
 
 WearCell WearTables::whyIncomplete(const CharacterData& character, const DataContainer& clothing,
                                    const DataContainer& pose) const {
   const ZORVEL::PiecePlans plans(character, survey_.root);
-  const auto whyNotBuilt = [this](const DataContainer& record, const std::wstring& mesh, RuleId nameless,
-                                  RuleId meshless) {
-    const XmlElement* element = survey_.elementOf(&record);
-    const std::string file = survey_.shown(mesh);
-    const Finding* finding = findings_.find(element, nameless);
-    if (finding == nullptr) finding = findings_.find(element, meshless, file);
-    for (const RuleId rule : UNREADABLE) {
-      if (finding == nullptr) finding = findings_.find(element, rule, file);
-    }
-    return finding;
-  };
-  const Finding* finding =
-      whyNotBuilt(pose, plans.Body(pose, nullptr).meshFile, RuleId::PoseWithoutName, RuleId::BodyMeshMissing);
-  if (finding == nullptr) {
-    finding = whyNotBuilt(clothing, plans.Clothing(clothing, nullptr, pose).meshFile, RuleId::ClothingWithoutName,
-                          RuleId::ClothingMeshMissing);
+  const WearCell cell = whyNotBuilt(plans.Body(pose, nullptr), pose, RuleId::BodyMeshMissing);
+  if (cell.state != WearState::Builds) return cell;
+  return whyNotBuilt(plans.Clothing(clothing, nullptr, pose), clothing, RuleId::ClothingMeshMissing);
+}
+
+WearCell WearTables::whyNotBuilt(const ZORVEL::PiecePlan& plan, const DataContainer& record, RuleId meshless) const {
+  const XmlElement* element = survey_.elementOf(&record);
+  const std::string file = survey_.shown(plan.meshFile);
+  const Finding* finding = findings_.findAny(element, {RuleId::PoseWithoutName, RuleId::ClothingWithoutName});
+  if (finding == nullptr) finding = findings_.find(element, meshless, file);
+  for (const RuleId rule : {RuleId::MeshUnreadable, RuleId::FileUnreadable}) {
+    if (finding == nullptr) finding = findings_.find(element, rule, file);
   }
-  return cellFrom(WearState::Incomplete, finding);
+  const bool isBuilt = plan.canBeBuilt && ZORVEL::MeshFiles::Look(plan.meshFile) == ZORVEL::MeshState::Found;
+  if (finding != nullptr || isBuilt) return cellFrom(WearState::Incomplete, finding);
+  // What is told of the element explains it.
+  const std::string why =
+      plan.canBeBuilt ? "there is no mesh " + file : "it has no " + host::toUtf8(plan.omission.subject);
+  return {WearState::Incomplete, printable(why), plan.canBeBuilt ? printable(file) : "", codeAt(element)};
+}
+
+std::string WearTables::codeAt(const XmlElement* element) const {
+  for (const Finding* finding : findings_.at(element)) {
+    if (finding->severity != Severity::Hint) return ruleOf(finding->rule).code;
+  }
+  return "";
 }
 
 }  // namespace check

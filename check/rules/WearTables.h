@@ -5,6 +5,7 @@
 
 #include "check/FindingIndex.h"
 #include "check/rules/Survey.h"
+#include "model/PiecePlan.h"
 
 namespace check {
 
@@ -31,6 +32,10 @@ class WearTables {
   const Finding* whyNone(const std::vector<ZORVEL::DataContainer*>& choices) const;
   WearCell whyNotOffered(const Record& clothing, const Record& pose) const;
   WearCell whyIncomplete(const ZORVEL::CharacterData& character, const Record& clothing, const Record& pose) const;
+  /// `meshless` is the rule about its mesh.
+  WearCell whyNotBuilt(const ZORVEL::PiecePlan& plan, const Record& record, RuleId meshless) const;
+  /// Of the first finding about the element that is no hint; empty when there is none.
+  std::string codeAt(const ZORVEL::XmlElement* element) const;
   /// The refusal with the code of the finding about it.
   WearCell refused(const PoseOffer& offer) const;
 

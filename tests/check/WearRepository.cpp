@@ -26,6 +26,7 @@ WearRepository::WearRepository() {
   addPose(R"(id="noname" folder="noname")");
   addPose(R"(id="p1" name="x" folder="standing")");
   addPose(R"(name="x" folder="standing")");
+  addPose(R"(id="folderempty" name="x" folder="")");
   addPose(R"(id="damaged" name="x" folder="damaged")");
   folder().makeFolder("anna/nobody");
   folder().write("anna/noname/pose.vrmesh", boxObj(40, 20, 170));
