@@ -140,7 +140,10 @@ std::vector<Finding> Explainer::concerning(const Element& element) const {
   const wchar_t* id = element.source->FindAttribute(FIELD_ID);
   const std::string named = '"' + printable(host::toUtf8(id != nullptr ? id : L"")) + '"';
   const std::string wearer = wearerOf(path);
-  const std::set<const XmlElement*> near = {element.source, aroundOf(element), sharedOf(element)};
+  std::set<const XmlElement*> near = {element.source, aroundOf(element), sharedOf(element)};
+  // Whatever is around what was not read may be what was refused.
+  const XmlElement* around = element.record == nullptr ? element.source : nullptr;
+  for (; around != nullptr; around = survey_.findings.description().parentOf(*around)) near.insert(around);
   std::set<std::pair<int, int>> places;
   for (const XmlElement* one : near) {
     if (one != nullptr) places.emplace(one->line, one->column);

@@ -1,4 +1,4 @@
-#include <set>
+#include <map>
 
 #include "check/PrintableText.h"
 #include "check/report/ExplainReport.h"
@@ -9,6 +9,7 @@ namespace check {
 namespace {
 
 constexpr std::size_t TOPIC_WIDTH = 11;
+constexpr std::size_t SHOWN_OF_A_RULE = 3;
 
 const char* signOf(ExplainedStep::State state) {
   const char* const signs[] = {"ok", "NO", " -"};
@@ -21,13 +22,20 @@ std::string stepLine(const ExplainedStep& step) {
 }
 
 std::string findingLines(const CheckResult& repository, const std::vector<Finding>& findings) {
+  std::map<RuleId, std::size_t> counts;
+  for (const Finding& finding : findings) ++counts[finding.rule];
+  std::map<RuleId, std::size_t> told;
   std::string text;
-  std::set<RuleId> explained;
   for (const Finding& finding : findings) {
     const Rule& rule = ruleOf(finding.rule);
+    const std::size_t before = told[finding.rule]++;
+    if (before >= SHOWN_OF_A_RULE) continue;
     text += "  " + placeOf(repository, finding) + ": " + nameOf(finding.severity) + ": " + finding.message + " [" +
             rule.code + "]\n";
-    if (explained.insert(finding.rule).second) text += std::string("      Remedy: ") + rule.remedy + '\n';
+    const std::size_t more = counts[finding.rule] - SHOWN_OF_A_RULE;
+    const bool isLastShown = before + 1 == SHOWN_OF_A_RULE && counts[finding.rule] > SHOWN_OF_A_RULE;
+    if (isLastShown) text += "      \u2026 and " + std::to_string(more) + " more like these\n";
+    if (before == 0) text += std::string("      Remedy: ") + rule.remedy + '\n';
   }
   return text;
 }

@@ -122,9 +122,9 @@ void writeMeshes(const TemporaryFolder& folder) {
                            "anna/coat/coat_sitting", "anna/dress/dress_standing", "anna/dress/dress_sitting"}) {
     folder.write(std::string(body) + ".vrmesh", boxObj(40, 20, 170));
   }
-  for (const char* thing :
-       {"anna/bag/asset", "anna/hat/asset", "anna/chair/asset", "anna/scarf/standing", "anna/scarf/sitting",
-        "anna/cap/standing", "anna/cap/sitting", "global_assets/bench/asset"}) {
+  for (const char* thing : {"anna/bag/asset", "anna/hat/asset", "anna/chair/asset", "anna/scarf/standing",
+                            "anna/scarf/sitting", "anna/cap/standing", "anna/cap/sitting",
+                            "global_assets/bench/asset"}) {
     folder.write(std::string(thing) + ".vrmesh", boxObj(30, 20, 40));
   }
 }
@@ -155,7 +155,9 @@ const TemporaryFolder& original() {
 
 }  // namespace
 
-CompleteRepository::CompleteRepository() { fs::copy(original().path(), folder_.path(), fs::copy_options::recursive); }
+CompleteRepository::CompleteRepository() {
+  fs::copy(original().path(), folder_.path(), fs::copy_options::recursive);
+}
 
 void CompleteRepository::edit(const std::string& from, const std::string& to) const {
   std::string text = folder_.read("zorvel.xml");

@@ -8,8 +8,8 @@
 
 namespace support {
 
-/// A repository in which nothing is missing and nothing is left over: Anna with two skins, clothes and poses, and
-/// assets of every type. See the source for what is where. Made once and copied.
+/// A repository in which nothing is missing and nothing is left over: Anna with two skins, clothes and poses, and assets
+/// of every type. See the source for what is where. Made once and copied.
 class CompleteRepository {
  public:
   CompleteRepository();

@@ -94,6 +94,19 @@ TEST(WearTables, NameACharacterOfWhichNothingIsBuilt) {
   EXPECT_THAT(result.wear.back().whyNone, testing::StartsWith("there is no folder gone/previews"));
 }
 
+TEST(WearTables, BuildNothingWithoutASkinThatCanBeChosen) {
+  const support::SmallRepository repository;
+  repository.mend();
+  repository.writePictures();
+  repository.edit(R"(<skin id="s1")", "<skin");
+  const std::filesystem::path& root = repository.folder().path();
+  forEachCell(resultOf(root).wear.front(), [&](const WearRow& row, const std::string& pose, const WearCell& cell) {
+    EXPECT_EQ(cell.state, WearState::Unchoosable);
+    EXPECT_EQ(cell.code, "ZV202");
+    EXPECT_FALSE(isBuilt(root, row, pose));
+  });
+}
+
 TEST(WearTables, FitIntoALineAndFoldWhatHasOneReason) {
   WearTable table;
   table.character = "anna";
