@@ -39,7 +39,7 @@ CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& opti
       prefix_(settings_.isThere() ? ZORVEL::Settings::GetPath() : L""),
       files_(absoluteOrEmpty(root), prefix_),
       findings_(description_),
-      survey_{findings_, files_, prefix_, {}, {}, {}, {}},
+      survey_{findings_, files_, prefix_, {}, {}, {}},
       contents_(survey_),
       viewed_(files_),
       observed_(description_) {

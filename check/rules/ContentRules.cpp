@@ -54,6 +54,7 @@ void ContentRules::run(const std::function<void(std::size_t, std::size_t)>& prog
   for (const UsedMesh& mesh : survey_.meshes) lookAtMesh(mesh);
   lookAtLibraries();
   for (const UsedMaterial& material : survey_.materials) lookAtMaterial(material);
+  referToTextures();
   countClosed();
 }
 
@@ -122,6 +123,16 @@ void ContentRules::lookAtLibraries() {
   }
 }
 
+/// Of all materials in the libraries, whether something is built with them or not.
+void ContentRules::referToTextures() {
+  const std::wstring maps = ZORVEL::RepositoryPaths::Maps(survey_.root);
+  libraries_.forEachMaterial([&](Mtl& material) {
+    for (const ZORVEL::RedirectedTexture& texture : ZORVEL::TextureRedirection::LookAhead(material, maps).textures) {
+      survey_.files.Look(texture.to);
+    }
+  });
+}
+
 void ContentRules::countClosed() {
   const auto isClosed = [](const auto& entry) { return entry.second.form == Form::Closed; };
   const auto& meshes = contents_.meshes();
@@ -137,9 +148,11 @@ void ContentRules::lookAtMaterial(const UsedMaterial& used) {
       used.name.c_str(), used.libraries,
       [this](const std::wstring& file, const wchar_t* name) { return libraries_.look(file, name); });
   if (result.state == MaterialState::FromLibrary) return lookIntoMaterial(used, result.searches.back().file);
-  // It may be in the one that cannot be read here.
-  const auto isClosed = [this](const LibrarySearch& search) { return libraries_.isClosed(search.file); };
-  if (std::any_of(result.searches.begin(), result.searches.end(), isClosed)) return;
+  // It may be in the one that cannot be read.
+  const auto isUnknown = [this](const LibrarySearch& search) {
+    return libraries_.isClosed(search.file) || !libraries_.problemOf(search.file).empty();
+  };
+  if (std::any_of(result.searches.begin(), result.searches.end(), isUnknown)) return;
   const RuleId rule = result.state == MaterialState::NameOfMap ? RuleId::MaterialIsMap : RuleId::MaterialNotFound;
   survey_.findings.add(rule, used.record, {used.name, describe(result.searches)});
 }
@@ -165,6 +178,7 @@ void ContentRules::lookIntoMaterial(const UsedMaterial& used, const std::wstring
 void ContentRules::compareWithOthers(const UsedMaterial& used, const std::wstring& library) {
   const auto [first, isNew] = firstLibrary_.emplace(used.name, library);
   if (isNew || first->second == library) return;
+  if (!comparedMaterials_.emplace(used.name, library).second) return;
   if (contentOf(*libraries_.find(library, used.name)) == contentOf(*libraries_.find(first->second, used.name))) return;
   survey_.findings.add(RuleId::MaterialContentsDiffer, used.record,
                        {used.name, survey_.shown(library), survey_.shown(first->second)});

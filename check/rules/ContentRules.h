@@ -22,6 +22,7 @@ class ContentRules {
   void lookAtPicture(const ShownPicture& picture);
   void lookAtMesh(const UsedMesh& mesh);
   void lookAtLibraries();
+  void referToTextures();
   void countClosed();
   void lookAtMaterial(const UsedMaterial& material);
   void lookIntoMaterial(const UsedMaterial& used, const std::wstring& library);
@@ -37,6 +38,8 @@ class ContentRules {
   /// Where each file of the folder of textures comes from.
   std::map<std::wstring, std::wstring> textureSources_;
   std::set<std::wstring> metTextures_;
+  /// Name and library, each compared once with the first.
+  std::set<std::pair<std::wstring, std::wstring>> comparedMaterials_;
 };
 
 }  // namespace check

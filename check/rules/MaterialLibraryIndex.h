@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -22,7 +23,9 @@ class MaterialLibraryIndex {
   ZORVEL::LibraryState look(const std::wstring& file, const wchar_t* name);
   /// Null when the library does not hold it.
   Mtl* find(const std::wstring& file, const std::wstring& name);
-  /// Whether it is there and in a form that only 3ds Max reads.
+  /// In all libraries that were asked so far.
+  void forEachMaterial(const std::function<void(Mtl&)>& visit) const;
+  /// Whether it is there and not read here: outside the repository, or in a form that only 3ds Max reads.
   bool isClosed(const std::wstring& file);
   /// Empty for a library that was read or is not there.
   std::string problemOf(const std::wstring& file);

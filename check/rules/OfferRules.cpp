@@ -56,7 +56,7 @@ void OfferRules::run() {
   choosePoses();
   tellWorn();
   tellAssetsWithoutPage();
-  tellAssetsWithoutRow();
+  tellNeverOffered();
   tellAddresses();
   Selection2::Reset();
 }
@@ -70,24 +70,27 @@ void OfferRules::lookAtLists() {
                           List{ZORVEL::POSES, EntryKind::Pose}}) {
     if (character_.GetCount(list.container) > 0) continue;
     // A clothing that was dropped while reading is told of already.
-    const auto& notes = survey_.findings.description().notes();
-    const bool isTold = list.container == ZORVEL::CLOTH &&
-                        std::any_of(notes.begin(), notes.end(), [this](const ZORVEL::ParseNote& note) {
-                          const Description& description = survey_.findings.description();
-                          if (note.kind != ZORVEL::ParseNoteKind::ClothingWithoutPreview) return false;
-                          const ZORVEL::XmlElement* parent = description.parentOf(*note.source);
-                          return parent != nullptr && description.parentOf(*parent) == survey_.elementOf(&character_);
-                        });
-    if (!isTold) survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
+    if (list.container != ZORVEL::CLOTH || !hasDroppedClothes())
+      survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
   }
   std::set<const DataContainer*> used;
   for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
     used.insert(character_.GetCategory(asset));
   }
-  for (const DataContainer* category : apps::elementsOf(character_, ZORVEL::CATEGORIES)) {
-    const bool isUsed = used.count(category) > 0;
-    if (!isUsed && !idOf(category).empty()) survey_.findings.add(RuleId::CategoryEmpty, category, {});
+  // Of several with one id the first has all the assets.
+  for (const DataContainer* category : choosable(apps::elementsOf(character_, ZORVEL::CATEGORIES))) {
+    if (used.count(category) == 0) survey_.findings.add(RuleId::CategoryEmpty, category, {});
   }
+}
+
+bool OfferRules::hasDroppedClothes() const {
+  const Description& description = survey_.findings.description();
+  const ZORVEL::XmlElement* own = survey_.elementOf(&character_);
+  return std::any_of(description.notes().begin(), description.notes().end(), [&](const ZORVEL::ParseNote& note) {
+    if (note.kind != ZORVEL::ParseNoteKind::ClothingWithoutPreview) return false;
+    const ZORVEL::XmlElement* list = description.parentOf(*note.source);
+    return list != nullptr && description.parentOf(*list) == own;
+  });
 }
 
 void OfferRules::lookAtStrip() {
@@ -209,11 +212,12 @@ void OfferRules::takeAssets(const PageOffer& page) {
   for (const OfferedElement& element : page.hidden) {
     const WhyNot why = element.refusal.why;
     const bool isMaterial = element.style != nullptr;
-    if (why == WhyNot::NoMatrixRow) withoutRow_[element.record].push_back(pose_);
-    if (why == WhyNot::Excluded) excludedBy_[element.record].insert(clothing_);
-    if (why != WhyNot::PictureMissing) continue;
+    if (why != WhyNot::PictureMissing || survey_.isExplained(element.record)) continue;
     tellPictureMissing(isMaterial ? RuleId::MaterialPictureMissing : RuleId::AssetPictureMissing, element,
                        isMaterial ? EntryKind::AssetMaterial : EntryKind::Asset);
+  }
+  for (const ZORVEL::ListedAsset& listed : character_.ListAssetsForCategory(page.category)) {
+    if (listed.whyNot == WhyNot::NoMatrixRow) withoutRow_[listed.asset].insert(pose_);
   }
   const bool isEmpty = page.shown.empty() && CharacterData::IsRequired(page.category);
   const bool hasReason = std::any_of(page.hidden.begin(), page.hidden.end(), [](const OfferedElement& element) {
@@ -274,10 +278,16 @@ void OfferRules::tellPair(const WornPose& pair) {
   }
 }
 
-/// Such an asset needs no page.
+/// Such an asset needs no page. An entry that names none may mean it.
 bool OfferRules::isAskedForByAPose(const std::wstring& id) const {
+  const auto all = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
   for (const DataContainer* pose : apps::elementsOf(character_, ZORVEL::POSES)) {
-    if (CharacterData::FindElementById(pose, id.c_str()) != nullptr) return true;
+    for (const DataContainer* entry : apps::childrenOf(*pose)) {
+      const std::wstring asked = idOf(entry);
+      const bool isLost =
+          asked.empty() || (character_.GetAsset(asked.c_str()) == nullptr && survey_.nearestTo(asked, all) == id);
+      if (isLost || asked == id) return true;
+    }
   }
   return false;
 }
@@ -295,24 +305,32 @@ void OfferRules::tellAssetsWithoutPage() {
   }
 }
 
-void OfferRules::tellAssetsWithoutRow() {
-  const auto own = [this](const DataContainer* record) {
-    const DataContainer* standIn = character_.FindLocalAssetForGlobal(record);
-    return standIn != nullptr && Data2::CheckAssetGlobal(record) ? standIn : record;
-  };
-  for (const auto& [record, poses] : withoutRow_) {
-    const std::set<const DataContainer*> different(poses.begin(), poses.end());
-    if (different.size() == visitedPoses_.size()) {
-      survey_.findings.add(RuleId::AssetInNoPose, own(record), {});
-      continue;
-    }
-    for (const DataContainer* pose : different) {
-      survey_.findings.add(RuleId::AssetNotInPose, own(record), {idOf(pose)});
-    }
+void OfferRules::tellNeverOffered() {
+  const auto clothes = apps::elementsOf(character_, ZORVEL::CLOTH);
+  for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
+    const bool isSecond = survey_.findings.has(RuleId::AssetIdDuplicate, asset) ||
+                          survey_.findings.has(RuleId::GlobalReferencedTwice, asset);
+    if (isSecond || survey_.isExplained(asset)) continue;
+    tellWithoutRow(*asset);
+    const bool isExcluded = std::all_of(clothes.begin(), clothes.end(), [&](const DataContainer* clothing) {
+      return character_.IsAssetExcludedByCloth(clothing, asset);
+    });
+    const bool hasAll = !clothes.empty() && !hasDroppedClothes();
+    if (isExcluded && hasAll) survey_.findings.add(RuleId::AssetAlwaysExcluded, asset, {});
   }
-  for (const auto& [record, clothes] : excludedBy_) {
-    const std::size_t count = clothes_.size();
-    if (clothes.size() == count) survey_.findings.add(RuleId::AssetAlwaysExcluded, own(record), {});
+}
+
+void OfferRules::tellWithoutRow(const DataContainer& asset) {
+  const std::set<const DataContainer*>& poses = withoutRow_[&asset];
+  if (poses.empty()) return;
+  if (poses.size() == visitedPoses_.size()) return survey_.findings.add(RuleId::AssetInNoPose, &asset, {});
+  const auto& missed = survey_.missedPairs;
+  for (const DataContainer* pose : poses) {
+    const std::wstring id = idOf(pose);
+    const bool isTold = missed.count({&character_, id, idOf(&asset)}) + missed.count({&character_, id, L""}) +
+                            missed.count({&character_, L"", idOf(&asset)}) >
+                        0;
+    if (!isTold) survey_.findings.add(RuleId::AssetNotInPose, &asset, {id});
   }
 }
 

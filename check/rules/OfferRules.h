@@ -40,6 +40,7 @@ class OfferRules {
   using Records = std::vector<const ZORVEL::DataContainer*>;
 
   void lookAtLists();
+  bool hasDroppedClothes() const;
   void lookAtStrip();
   void chooseClothes();
   void choose(const ZORVEL::DataContainer& clothing);
@@ -57,7 +58,8 @@ class OfferRules {
   void tellPair(const WornPose& pair);
   bool isAskedForByAPose(const std::wstring& id) const;
   void tellAssetsWithoutPage();
-  void tellAssetsWithoutRow();
+  void tellNeverOffered();
+  void tellWithoutRow(const ZORVEL::DataContainer& asset);
   void tellAddresses();
 
   Survey& survey_;
@@ -74,8 +76,7 @@ class OfferRules {
   bool skinsAreTold_ = false;
   std::set<std::pair<const ZORVEL::DataContainer*, const ZORVEL::DataContainer*>> offered_;
   /// The poses in which there is no row for an asset.
-  std::map<const ZORVEL::DataContainer*, Records> withoutRow_;
-  std::map<const ZORVEL::DataContainer*, std::set<const ZORVEL::DataContainer*>> excludedBy_;
+  std::map<const ZORVEL::DataContainer*, std::set<const ZORVEL::DataContainer*>> withoutRow_;
   const ZORVEL::DataContainer* clothing_ = nullptr;
 };
 
