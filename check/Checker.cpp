@@ -1,83 +1,14 @@
 #include "check/Checker.h"
 
-#include "apps/support/ModelText.h"
-#include "apps/support/SettledRoot.h"
-#include "check/Description.h"
-#include "check/Findings.h"
-#include "check/FolderIndex.h"
-#include "check/rules/BuildRules.h"
-#include "check/rules/ContentRules.h"
-#include "check/rules/FileRules.h"
-#include "check/rules/FolderRules.h"
-#include "check/rules/IdRules.h"
-#include "check/rules/MatrixRules.h"
-#include "check/rules/OfferRules.h"
-#include "check/rules/ReadingRules.h"
-#include "check/rules/ReferenceRules.h"
-#include "core/Settings.h"
-#include "model/Data2.h"
-#include "repository/Parser2.h"
+#include "check/CheckRun.h"
+#include "check/rules/WearTables.h"
 
 namespace check {
 
-namespace fs = std::filesystem;
-
-namespace {
-
-/// Of the whole, how much of the time the listings take, roughly; the rest is reading files.
-constexpr double LISTINGS = 0.3;
-
-/// Empties the store at the end.
-struct EmptyStore {
-  ~EmptyStore() { ZORVEL::Data2::Clear(); }
-};
-
-void tell(const CheckerOptions& options, double from, double to, std::size_t done, std::size_t known) {
-  if (options.progress) options.progress(from + (to - from) * static_cast<double>(done) / static_cast<double>(known));
-}
-
-void runRules(Survey& survey, const CheckerOptions& options) {
-  IdRules(survey).run();
-  FolderRules(survey).run();
-  MatrixRules(survey).run();
-  ReferenceRules(survey).run();
-  for (const ZORVEL::CharacterData* character : apps::characters()) {
-    OfferRules offers(survey, *character);
-    offers.run();
-    BuildRules(survey, *character, offers).run();
-  }
-  ContentRules(survey).run(
-      [&options](std::size_t done, std::size_t known) { tell(options, LISTINGS, 1.0, done, known); });
-  FileRules(survey).run(options.targetRoot);
-}
-
-}  // namespace
-
-CheckResult checkRepository(const fs::path& root, const CheckerOptions& options) {
-  const apps::SettledRoot settings(root);
-  CheckResult result;
-  result.root = root.string();
-  const std::wstring prefix = ZORVEL::Settings::GetPath();
-  FolderIndex files(fs::absolute(root), prefix);
-  files.read([&options](std::size_t done, std::size_t known) { tell(options, 0.0, LISTINGS, done, known); });
-  Description description;
-  Findings findings(description);
-  const EmptyStore emptied;
-  const ZORVEL::ViewedDisk viewed(files);
-  const ZORVEL::ObservedParsing observed(description);
-  ZORVEL::Data2::Clear();
-  result.isReadable = ZORVEL::Parser2::ParseRepository(prefix.c_str());
-  Survey survey = {findings, files, prefix, {}, {}, {}};
-  ReadingRules(survey).run();
-  if (result.isReadable) {
-    ZORVEL::Data2::SetValidated(true);
-    runRules(survey, options);
-  }
-  result.findings = findings.takeAll();
-  result.characterCount = ZORVEL::Data2::GetCharacterCount();
-  result.elementCount = description.elementCount();
-  result.fileCount = files.fileCount();
-  return result;
+CheckResult checkRepository(const std::filesystem::path& root, const CheckerOptions& options) {
+  CheckRun run(root, options);
+  if (options.wantsWear) run.result().wear = WearTables(run.survey(), run.result().findings).make();
+  return std::move(run.result());
 }
 
 }  // namespace check

@@ -4,10 +4,12 @@
 #include <QImageReader>
 #include <QString>
 #include <algorithm>
-#include <fstream>
+#include <condition_variable>
+#include <mutex>
 #include <vector>
 
 #include "check/ParallelWork.h"
+#include "host/files/RegularFile.h"
 #include "host/meshes/GltfMeshReader.h"
 #include "host/meshes/MeshFile.h"
 #include "host/meshes/ObjMeshReader.h"
@@ -23,6 +25,11 @@ namespace {
 constexpr std::size_t LARGEST_FILE = std::size_t{64} << 20U;
 /// Enough to tell one form from another.
 constexpr std::size_t BEGINNING = 4096;
+/// What is read at a time, in bytes of files; what is made of them takes up to thirty times as much. A larger file is
+/// read alone.
+constexpr std::uintmax_t MOST_AT_A_TIME = std::uintmax_t{16} << 20U;
+/// In pixels, far more than the window shows. Small files can hold pictures that take gigabytes.
+constexpr int MOST_DECODED = 1024 * 1024;
 
 struct Bytes {
   bool isOpened = false;
@@ -31,25 +38,15 @@ struct Bytes {
 };
 
 /// Goes on behind the beginning only when that is what it takes.
-Bytes readFile(const fs::path& file, const std::function<bool(const std::string& beginning)>& wantsAll) {
+Bytes readFile(const fs::path& path, const std::function<bool(const std::string& beginning)>& wantsAll) {
   Bytes bytes;
-  std::error_code error;
-  if (!fs::is_regular_file(file, error)) return bytes;
-  std::ifstream stream;
-  stream.rdbuf()->pubsetbuf(nullptr, 0);
-  stream.open(file, std::ios::binary);
-  bytes.isOpened = stream.is_open();
-  std::size_t wanted = BEGINNING;
-  while (bytes.isOpened && stream && bytes.text.size() < wanted) {
-    const std::size_t before = bytes.text.size();
-    bytes.text.resize(wanted);
-    stream.read(bytes.text.data() + before, static_cast<std::streamsize>(wanted - before));
-    bytes.text.resize(before + static_cast<std::size_t>(stream.gcount()));
-    if (bytes.text.size() == BEGINNING && wantsAll(bytes.text)) {
-      wanted = std::max<std::size_t>(BEGINNING, std::min(fs::file_size(file, error), LARGEST_FILE) + 1);
-    }
+  host::RegularFile file(path);
+  bytes.isOpened = file.readUpTo(BEGINNING, bytes.text);
+  if (bytes.isOpened && !file.isAtEnd() && wantsAll(bytes.text)) {
+    bytes.text.reserve(static_cast<std::size_t>(std::min<std::uintmax_t>(file.size(), LARGEST_FILE)) + 1);
+    bytes.isOpened = file.size() > LARGEST_FILE || file.readUpTo(LARGEST_FILE + 1, bytes.text);
   }
-  bytes.isWhole = stream.eof();
+  bytes.isWhole = file.isAtEnd();
   return bytes;
 }
 
@@ -82,7 +79,8 @@ void look(const fs::path& file, PictureContent& picture) {
   QString problem;
   picture.size = ZORVEL::PictureReader::Measure(buffer, problem);
   buffer.seek(0);
-  if (problem.isEmpty() && isCutOff(bytes.text, QImageReader::imageFormat(&buffer))) {
+  const bool isSmall = picture.size.width() <= MOST_DECODED / std::max(1, picture.size.height());
+  if (problem.isEmpty() && isSmall && isCutOff(bytes.text, QImageReader::imageFormat(&buffer))) {
     problem = QStringLiteral("it is damaged or cut off");
   }
   picture.problem = problem.toStdString();
@@ -128,10 +126,45 @@ void look(const fs::path& file, LibraryContent& library) {
 
 using Job = std::function<void()>;
 
+/// Shared by those who look at files at the same time.
+struct Room {
+  std::mutex mutex;
+  std::condition_variable changed;
+  std::uintmax_t left = MOST_AT_A_TIME;
+};
+
+/// Room for one file, for as long as it lives.
+class Taken {
+ public:
+  /// Waits until the file fits.
+  Taken(Room& room, const fs::path& file) : room_(room) {
+    std::error_code unknown;
+    const std::uintmax_t size = fs::file_size(file, unknown);
+    if (!unknown) bytes_ = std::min(size, MOST_AT_A_TIME);
+    std::unique_lock<std::mutex> lock(room_.mutex);
+    room_.changed.wait(lock, [this] { return room_.left >= bytes_; });
+    room_.left -= bytes_;
+  }
+  ~Taken() {
+    const std::lock_guard<std::mutex> lock(room_.mutex);
+    room_.left += bytes_;
+    room_.changed.notify_all();
+  }
+  Taken(const Taken&) = delete;
+  Taken& operator=(const Taken&) = delete;
+
+ private:
+  Room& room_;
+  std::uintmax_t bytes_ = 0;
+};
+
 template <class Content>
-void addJobs(std::map<fs::path, Content>& contents, std::vector<Job>& jobs) {
+void addJobs(std::map<fs::path, Content>& contents, Room& room, std::vector<Job>& jobs) {
   for (auto& [file, content] : contents) {
-    jobs.push_back([&path = file, &result = content] { look(path, result); });
+    jobs.push_back([&path = file, &result = content, &room] {
+      const Taken taken(room, path);
+      look(path, result);
+    });
   }
 }
 
@@ -139,9 +172,10 @@ void addJobs(std::map<fs::path, Content>& contents, std::vector<Job>& jobs) {
 
 void Contents::read(const std::function<void(std::size_t, std::size_t)>& progress) {
   std::vector<Job> jobs;
-  addJobs(pictures_, jobs);
-  addJobs(meshes_, jobs);
-  addJobs(libraries_, jobs);
+  Room room;
+  addJobs(pictures_, room, jobs);
+  addJobs(meshes_, room, jobs);
+  addJobs(libraries_, room, jobs);
   ParallelWork<Job>([](const Job& job, std::vector<Job>&) { job(); }, progress).run(std::move(jobs));
 }
 

@@ -12,6 +12,19 @@ using ZORVEL::XmlElement;
 namespace {
 
 const char* const DESCRIPTION = "zorvel.xml";
+/// Bytes of what a finding quotes; names and paths are far shorter.
+constexpr std::size_t LONGEST_QUOTE = 1000;
+/// Nobody reads more findings of one rule; how many more there are is told.
+constexpr int MOST_OF_A_RULE = 10'000;
+
+bool goesOn(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; }
+
+std::string shortened(std::string text) {
+  if (text.size() <= LONGEST_QUOTE) return text;
+  std::size_t end = LONGEST_QUOTE;
+  while (end > 0 && goesOn(text[end])) --end;
+  return text.erase(end) + "\u2026";
+}
 
 /// One value for each {placeholder}, in their order.
 std::string filledIn(const std::string& sentence, const std::vector<Value>& values) {
@@ -68,13 +81,17 @@ std::string missingAttribute(const Finding& finding) {
   }
 }
 
-auto sortKey(const Finding& finding) {
-  return std::tie(finding.file, finding.line, finding.column, finding.rule, finding.message);
-}
-
 }  // namespace
 
-Value::Value(const std::wstring& text) : text_(host::toUtf8(text)) {}
+Value::Value(std::string text) : text_(shortened(std::move(text))) {}
+Value::Value(const std::wstring& text) : Value(host::toUtf8(text)) {}
+
+bool Findings::InOrder::operator()(const Finding& left, const Finding& right) const {
+  const auto key = [](const Finding& one) {
+    return std::tie(one.file, one.line, one.column, one.rule, one.message, one.element);
+  };
+  return key(left) < key(right);
+}
 
 Finding Findings::at(RuleId rule, const XmlElement* element) const {
   Finding finding;
@@ -88,15 +105,13 @@ Finding Findings::at(RuleId rule, const XmlElement* element) const {
 }
 
 void Findings::add(RuleId rule, const XmlElement* element, std::vector<Value> values) {
-  Finding finding = at(rule, element);
-  fillIn(finding, values);
   if (element != nullptr) told_.emplace(rule, element);
-  takeMisspelling(finding, element);
-  findings_.push_back(std::move(finding));
+  insert(at(rule, element), values, element);
 }
 
 void Findings::addMisspelt(RuleId rule, const XmlElement& element, const std::wstring& meant,
                            std::vector<Value> values) {
+  if (++counts_[rule].misspellings > MOST_OF_A_RULE) return insert(at(rule, &element), values);
   Misspelling misspelling = {host::toUtf8(meant), values.front().text(), at(rule, &element)};
   fillIn(misspelling.finding, values);
   misspellings_[&element].push_back(std::move(misspelling));
@@ -139,48 +154,62 @@ bool Findings::has(RuleId rule, const ZORVEL::DataContainer* record) const {
 }
 
 bool Findings::hasAny(std::initializer_list<RuleId> rules) const {
-  return std::any_of(findings_.begin(), findings_.end(), [rules](const Finding& finding) {
-    return std::find(rules.begin(), rules.end(), finding.rule) != rules.end();
-  });
+  return std::any_of(rules.begin(), rules.end(), [this](RuleId rule) { return counts_.count(rule) > 0; });
 }
 
 bool Findings::hasOtherThanHints() const {
-  return std::any_of(findings_.begin(), findings_.end(),
-                     [](const Finding& finding) {
-                       return finding.severity != Severity::Hint || finding.rule == RuleId::LibraryNotChecked;
-                     }) ||
-         !misspellings_.empty();
+  return std::any_of(counts_.begin(), counts_.end(), [](const auto& entry) {
+    return ruleOf(entry.first).severity != Severity::Hint || entry.first == RuleId::LibraryNotChecked;
+  });
 }
 
 void Findings::fillIn(Finding& finding, const std::vector<Value>& values) {
   const Rule& rule = ruleOf(finding.rule);
   finding.severity = rule.severity;
-  finding.file = printable(finding.file);
-  finding.element = printable(finding.element);
+  finding.file = printable(shortened(std::move(finding.file)));
+  finding.element = printable(shortened(std::move(finding.element)));
   if (!values.empty()) finding.subject = printable(values.front().text());
   finding.message = printable(filledIn(rule.sentence, values));
 }
 
-void Findings::insert(Finding finding, const std::vector<Value>& values) {
+void Findings::insert(Finding finding, const std::vector<Value>& values, const XmlElement* element) {
+  Counts& counts = counts_[finding.rule];
+  if (counts.taken == MOST_OF_A_RULE) {
+    ++counts.leftOut;
+    return;
+  }
   fillIn(finding, values);
-  findings_.push_back(std::move(finding));
+  takeMisspelling(finding, element);
+  keep(std::move(finding));
+}
+
+void Findings::keep(Finding finding) {
+  Counts& counts = counts_[finding.rule];
+  if (findings_.insert(std::move(finding)).second) ++counts.taken;
+}
+
+void Findings::tellLeftOut(RuleId rule, int count) {
+  if (count == 0) return;
+  Finding finding;
+  finding.rule = rule;
+  finding.severity = ruleOf(rule).severity;
+  finding.file = DESCRIPTION;
+  finding.subject = std::to_string(count);
+  finding.message = finding.subject + " more findings of this rule are left out";
+  findings_.insert(std::move(finding));
 }
 
 std::vector<Finding> Findings::takeAll() {
-  std::vector<Finding> all = std::move(findings_);
-  findings_.clear();
   for (auto& [element, misspellings] : misspellings_) {
     for (Misspelling& one : misspellings) {
-      if (!one.isTold) all.push_back(std::move(one.finding));
+      if (!one.isTold) keep(std::move(one.finding));
     }
   }
   misspellings_.clear();
-  std::stable_sort(all.begin(), all.end(),
-                   [](const Finding& left, const Finding& right) { return sortKey(left) < sortKey(right); });
-  const auto isSame = [](const Finding& left, const Finding& right) {
-    return sortKey(left) == sortKey(right) && left.element == right.element;
-  };
-  all.erase(std::unique(all.begin(), all.end(), isSame), all.end());
+  for (const auto& [rule, counts] : counts_) tellLeftOut(rule, counts.leftOut);
+  counts_.clear();
+  std::vector<Finding> all(findings_.begin(), findings_.end());
+  findings_.clear();
   return all;
 }
 

@@ -12,10 +12,10 @@
 
 namespace check {
 
-/// A text of the repository or of the checker, as UTF-8.
+/// A text of the repository or of the checker, as UTF-8; cut where it is longer than any name or path.
 class Value {
  public:
-  Value(std::string text) : text_(std::move(text)) {}        // NOLINT: every text is a value
+  Value(std::string text);                                   // NOLINT: every text is a value
   Value(const char* text) : text_(text) {}                   // NOLINT
   Value(const std::wstring& text);                           // NOLINT
   Value(const wchar_t* text) : Value(std::wstring(text)) {}  // NOLINT
@@ -27,7 +27,8 @@ class Value {
   std::string text_;
 };
 
-/// Takes in what is found. The same thing is taken in once.
+/// Takes in what is found. The same thing is taken in once, and of one rule at most ten thousand; how many more there
+/// are is told at the end.
 class Findings {
  public:
   explicit Findings(const Description& description) : description_(description) {}
@@ -61,14 +62,25 @@ class Findings {
     Finding finding;
     bool isTold = false;
   };
+  struct InOrder {
+    bool operator()(const Finding& left, const Finding& right) const;
+  };
+  struct Counts {
+    int taken = 0;
+    int leftOut = 0;
+    int misspellings = 0;
+  };
 
   Finding at(RuleId rule, const ZORVEL::XmlElement* element) const;
   static void fillIn(Finding& finding, const std::vector<Value>& values);
-  void insert(Finding finding, const std::vector<Value>& values);
+  void insert(Finding finding, const std::vector<Value>& values, const ZORVEL::XmlElement* element = nullptr);
+  void keep(Finding finding);
   void takeMisspelling(Finding& finding, const ZORVEL::XmlElement* element);
+  void tellLeftOut(RuleId rule, int count);
 
   const Description& description_;
-  std::vector<Finding> findings_;
+  std::set<Finding, InOrder> findings_;
+  std::map<RuleId, Counts> counts_;
   std::map<const ZORVEL::XmlElement*, std::vector<Misspelling>> misspellings_;
   std::set<std::pair<RuleId, const ZORVEL::XmlElement*>> told_;
 };

@@ -21,6 +21,11 @@ struct FolderIndex::Folder {
   std::string problem;
   std::unordered_map<std::wstring, File> files;
   std::unordered_map<std::wstring, std::unique_ptr<Folder>> folders;
+  std::set<std::wstring> linksOut;
+
+  bool has(const std::wstring& name) const {
+    return files.count(name) > 0 || folders.count(name) > 0 || linksOut.count(name) > 0;
+  }
   /// From folded names to those on disk, made when a name is first not there as written.
   std::unordered_map<std::wstring, std::wstring> folded;
 };
@@ -49,6 +54,14 @@ std::wstring_view nextName(std::wstring_view& rest) {
 
 }  // namespace
 
+bool leadsOut(const fs::path& path, const fs::path& folder) {
+  std::error_code error;
+  const fs::path target = fs::canonical(path, error);
+  if (error) return false;
+  const fs::path around = fs::canonical(folder, error);
+  return !error && std::mismatch(around.begin(), around.end(), target.begin(), target.end()).first != around.end();
+}
+
 FolderIndex::FolderIndex(fs::path root, std::wstring prefix)
     : root_(std::move(root)), prefix_(std::move(prefix)), top_(std::make_unique<Folder>()) {}
 
@@ -57,7 +70,7 @@ FolderIndex::~FolderIndex() = default;
 void FolderIndex::read(const std::function<void(std::size_t, std::size_t)>& progress) {
   ParallelWork<Folder*> work(
       [this](Folder* folder, std::vector<Folder*>& more) {
-        list(*folder);
+        ensureListed(*folder);
         for (const auto& [name, below] : folder->folders) {
           if (!below->isPassedOver) more.push_back(below.get());
         }
@@ -74,9 +87,17 @@ void FolderIndex::list(Folder& folder) const {
   if (error) folder.problem = error.message();
 }
 
-void FolderIndex::add(const fs::directory_entry& entry, Folder& folder) {
+void FolderIndex::add(const fs::directory_entry& entry, Folder& folder) const {
   const std::wstring name = host::toWide(entry.path().filename().string());
   std::error_code unknown;
+  if (entry.is_symlink(unknown)) {
+    // A link that leads nowhere is nothing.
+    if (!entry.exists(unknown)) return;
+    if (leadsOut(entry.path(), root_)) {
+      folder.linksOut.insert(name);
+      return;
+    }
+  }
   if (!entry.is_directory(unknown)) {
     folder.files[name].isRegular = entry.is_regular_file(unknown);
     return;
@@ -153,6 +174,11 @@ FolderIndex::Found FolderIndex::findIn(Folder& folder, const std::wstring& name)
     found.folder = &folder;
     return found;
   }
+  if (folder.linksOut.count(found.name) > 0) {
+    tellLinkOut(folder, found.name);
+    found.isOutside = true;
+    return found;
+  }
   const auto below = folder.folders.find(found.name);
   if (below != folder.folders.end()) found.folder = below->second.get();
   return found;
@@ -160,16 +186,23 @@ FolderIndex::Found FolderIndex::findIn(Folder& folder, const std::wstring& name)
 
 std::wstring FolderIndex::onDisk(Folder& folder, const std::wstring& name) {
   ensureListed(folder);
-  if (folder.files.count(name) > 0 || folder.folders.count(name) > 0) return name;
+  if (folder.has(name)) return name;
   if (folder.folded.empty()) {
     for (const auto& [file, entry] : folder.files) addFolded(folder.folded, file);
     for (const auto& [below, entry] : folder.folders) addFolded(folder.folded, below);
+    for (const std::wstring& link : folder.linksOut) addFolded(folder.folded, link);
   }
   const auto alike = folder.folded.find(host::inCapitals(name));
   if (alike == folder.folded.end()) return name;
   const std::string path = host::toUtf8(folder.path + L"/").erase(0, 1);
   caseDifferences_.insert({path + host::toUtf8(name), path + host::toUtf8(alike->second)});
   return alike->second;
+}
+
+void FolderIndex::tellLinkOut(const Folder& folder, const std::wstring& name) {
+  const std::string link = host::toUtf8(folder.path + L"/" + name).erase(0, 1);
+  std::error_code unknown;
+  linksOut_.emplace(link, fs::read_symlink(root_ / link, unknown).string());
 }
 
 void FolderIndex::ensureListed(Folder& folder) const {
@@ -193,6 +226,7 @@ FolderIndex::Place FolderIndex::walk(std::wstring_view below) {
       continue;
     }
     const Found next = findIn(*way.back(), std::wstring(name));
+    if (next.isOutside) return {nullptr, true};
     if (next.folder == nullptr || next.file != nullptr) return {nullptr, false};
     way.push_back(next.folder);
   }

@@ -65,8 +65,8 @@ void BuildRules::lookAtMandatory(const DataContainer& pose, const DataContainer&
   switch (plan.omission.reason) {
     case OmissionReason::UnknownId: {
       if (survey_.isLost(character_, EntryKind::Assets)) return;
-      const auto known = apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS));
-      return survey_.findings.add(RuleId::MandatoryUnknown, &entry, {id, hintAt(id, known)});
+      const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
+      return survey_.findings.add(RuleId::MandatoryUnknown, &entry, {id, survey_.hintAt(id, known)});
     }
     case OmissionReason::NoField:
       if (plan.record == &entry) return survey_.findings.add(RuleId::MandatoryWithoutId, &entry, {});

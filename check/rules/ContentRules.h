@@ -14,6 +14,8 @@ class ContentRules {
   explicit ContentRules(Survey& survey) : survey_(survey), libraries_(survey.files, contents_) {}
 
   void run(const std::function<void(std::size_t done, std::size_t known)>& progress);
+  /// Those of the materials that the survey knows.
+  MaterialLibraryIndex& libraries() { return libraries_; }
 
  private:
   void want();

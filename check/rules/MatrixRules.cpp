@@ -66,15 +66,15 @@ void MatrixRules::lookAt(const CharacterData& character, const XmlElement& eleme
       findings.add(RuleId::MatrixRowDuplicate, &row, {first->second});
     } else if (poses.find(poseId) == nullptr) {
       if (survey_.isLost(character, EntryKind::Poses)) return;
-      const auto known = apps::idsOf(apps::elementsOf(character, ZORVEL::POSES));
-      findings.add(RuleId::MatrixRowUnknownPose, &row, {poseId, hintAt(poseId, known)});
-      const std::wstring nearest = nearestTo(poseId, known);
+      const auto known = [&] { return apps::idsOf(apps::elementsOf(character, ZORVEL::POSES)); };
+      const std::wstring nearest = survey_.nearestTo(poseId, known);
+      findings.add(RuleId::MatrixRowUnknownPose, &row, {poseId, hintAt(nearest)});
       if (!nearest.empty()) survey_.missedPairs.emplace(&character, nearest, assetId);
     } else if (asset == nullptr) {
       if (survey_.isLost(character, EntryKind::Assets)) return;
-      const auto known = apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS));
-      findings.add(RuleId::MatrixRowUnknownAsset, &row, {assetId, hintAt(assetId, known)});
-      const std::wstring nearest = nearestTo(assetId, known);
+      const auto known = [&] { return apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS)); };
+      const std::wstring nearest = survey_.nearestTo(assetId, known);
+      findings.add(RuleId::MatrixRowUnknownAsset, &row, {assetId, hintAt(nearest)});
       if (!nearest.empty()) survey_.missedPairs.emplace(&character, poseId, nearest);
     } else if (CharacterData::IsSpecific(asset)) {
       findings.add(RuleId::MatrixRowUnused, &row, {assetId});

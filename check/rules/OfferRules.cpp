@@ -37,19 +37,9 @@ std::vector<const DataContainer*> choosable(const std::vector<DataContainer*>& r
   return result;
 }
 
-/// For the middle of a sentence.
-std::string reasonOf(const ZORVEL::Refusal& refusal, const FolderIndex& files) {
-  const std::string file = files.shown(refusal.concerned);
-  if (refusal.why == WhyNot::PictureMissing) return "there is no picture " + file;
-  if (refusal.why == WhyNot::MeshMissing) return "there is no mesh " + file;
-  std::string text = host::toUtf8(refusal.GetText());
-  if (!text.empty() && text.back() == '.') text.pop_back();
-  return text;
-}
-
 /// "(there is no mesh anna/dress/a_b.vrmesh, and 3 more)".
-std::string reasonsOf(const std::vector<const WornPose*>& pairs, const FolderIndex& files) {
-  std::string text = reasonOf(pairs.front()->refusal, files);
+std::string reasonsOf(const std::vector<const WornPose*>& pairs, const Survey& survey) {
+  std::string text = survey.reasonOf(pairs.front()->refusal);
   if (pairs.size() > 1) text += ", and " + std::to_string(pairs.size() - 1) + " more";
   return text;
 }
@@ -87,13 +77,13 @@ void OfferRules::lookAtLists() {
     if (!isTold) survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
   }
   if (survey_.isLost(character_, EntryKind::Assets)) return;
+  std::set<const DataContainer*> used;
+  for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
+    used.insert(character_.GetCategory(asset));
+  }
   // Of several with one id the first has all the assets.
   for (const DataContainer* category : choosable(apps::elementsOf(character_, ZORVEL::CATEGORIES))) {
-    const auto assets = apps::elementsOf(character_, ZORVEL::ASSETS);
-    const bool isUsed = std::any_of(assets.begin(), assets.end(), [&](const DataContainer* asset) {
-      return character_.GetCategory(asset) == category;
-    });
-    if (!isUsed) survey_.findings.add(RuleId::CategoryEmpty, category, {});
+    if (used.count(category) == 0) survey_.findings.add(RuleId::CategoryEmpty, category, {});
   }
 }
 
@@ -118,7 +108,7 @@ void OfferRules::chooseClothes() {
     const bool hasFolder = !Fields::TextOrEmpty(clothing, FIELD_FOLDER).empty();
     if (hasFolder && clothing->GetFastFlag(ZORVEL::FLAG_VALID)) {
       clothes_.push_back(clothing);
-    } else if (hasFolder) {
+    } else {
       unavailable_.push_back(clothing);
     }
     if (clothing->GetChildCount() > 0 && apps::clothChildren(*clothing, ZORVEL::MATERIAL).empty()) {
@@ -127,11 +117,12 @@ void OfferRules::chooseClothes() {
   }
   poses_ = choosable(apps::elementsOf(character_, ZORVEL::POSES));
   for (const DataContainer* clothing : clothes_) choose(*clothing);
-  // Its poses are shown, all of them grey.
+  // Its poses are shown, and not to be chosen.
   for (const DataContainer* clothing : unavailable_) {
     Selection2::SetCloth(idOf(clothing).c_str());
     Selection2::SetPose(nullptr);
-    offers_.VisitAll([this](const PageOffer& page) {
+    offers_.VisitAll([&](const PageOffer& page) {
+      if (page.kind == PageKind::Poses) notePoses(*clothing, page);
       for (const OfferedElement& element : page.shown) takePicture(page, element);
     });
   }
@@ -151,7 +142,17 @@ void OfferRules::choose(const DataContainer& clothing) {
   });
 }
 
+void OfferRules::notePoses(const DataContainer& clothing, const PageOffer& page) {
+  for (const OfferedElement& element : page.shown) {
+    survey_.poseOffers.push_back({&clothing, element.record, true, element.refusal});
+  }
+  for (const OfferedElement& element : page.hidden) {
+    survey_.poseOffers.push_back({&clothing, element.record, false, element.refusal});
+  }
+}
+
 void OfferRules::takePoses(const DataContainer& clothing, const PageOffer& page) {
+  notePoses(clothing, page);
   const auto take = [&](const OfferedElement& element, bool isShown) {
     const bool isChoosable = std::find(poses_.begin(), poses_.end(), element.record) != poses_.end();
     if (!isChoosable || !element.record->GetFastFlag(ZORVEL::FLAG_VALID)) return;
@@ -190,8 +191,7 @@ void OfferRules::takeSkins(const PageOffer& page) {
   skinsAreTold_ = true;
   for (const OfferedElement& element : page.shown) takePicture(page, element);
   if (page.shown.empty() && !page.hidden.empty()) {
-    return survey_.findings.add(RuleId::NoSkinShown, &character_,
-                                {reasonOf(page.hidden.front().refusal, survey_.files)});
+    return survey_.findings.add(RuleId::NoSkinShown, &character_, {survey_.reasonOf(page.hidden.front().refusal)});
   }
   for (const OfferedElement& element : page.hidden) {
     tellPictureMissing(RuleId::SkinPictureMissing, element, EntryKind::Skin);
@@ -259,7 +259,7 @@ void OfferRules::tellWorn() {
     const std::vector<const WornPose*>& missing = ofClothing[clothing];
     const bool isNeverWorn = useful.count(clothing) == 0 && !missing.empty();
     if (isNeverWorn) {
-      survey_.findings.add(RuleId::ClothingNeverWorn, clothing, {reasonsOf(missing, survey_.files)});
+      survey_.findings.add(RuleId::ClothingNeverWorn, clothing, {reasonsOf(missing, survey_)});
       continue;
     }
     for (const WornPose* pair : missing) ofPose[pair->pose].push_back(pair);
@@ -267,7 +267,7 @@ void OfferRules::tellWorn() {
   for (const DataContainer* pose : poses_) {
     const std::vector<const WornPose*>& missing = ofPose[pose];
     if (useful.count(pose) == 0 && !missing.empty()) {
-      survey_.findings.add(RuleId::PoseNeverWorn, pose, {reasonsOf(missing, survey_.files)});
+      survey_.findings.add(RuleId::PoseNeverWorn, pose, {reasonsOf(missing, survey_)});
       continue;
     }
     for (const WornPose* pair : missing) tellPair(*pair);
@@ -286,12 +286,12 @@ void OfferRules::tellPair(const WornPose& pair) {
 /// Such an asset needs no page. An entry that names none may mean it.
 bool OfferRules::isAskedForByAPose(const std::wstring& id) const {
   if (survey_.isLost(character_, EntryKind::Poses)) return true;
-  const auto all = apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS));
+  const auto all = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
   for (const DataContainer* pose : apps::elementsOf(character_, ZORVEL::POSES)) {
     for (const DataContainer* entry : apps::childrenOf(*pose)) {
       const std::wstring asked = idOf(entry);
       const bool isLost =
-          asked.empty() || (character_.GetAsset(asked.c_str()) == nullptr && nearestTo(asked, all) == id);
+          asked.empty() || (character_.GetAsset(asked.c_str()) == nullptr && survey_.nearestTo(asked, all) == id);
       if (isLost || asked == id) return true;
     }
   }
@@ -300,14 +300,14 @@ bool OfferRules::isAskedForByAPose(const std::wstring& id) const {
 
 void OfferRules::tellAssetsWithoutPage() {
   if (survey_.isLost(character_, EntryKind::Categories)) return;
-  const auto known = apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES));
+  const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES)); };
   for (const OfferedElement& element : offers_.GetAssetsWithoutPage()) {
     const std::wstring& id = element.refusal.concerned;
     if (element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(idOf(element.record))) continue;
     if (element.refusal.why == WhyNot::CategoryUnnamed) {
       survey_.findings.add(RuleId::AssetCategoryUnnamed, element.record, {});
     } else {
-      survey_.findings.add(RuleId::AssetCategoryUnknown, element.record, {id, hintAt(id, known)});
+      survey_.findings.add(RuleId::AssetCategoryUnknown, element.record, {id, survey_.hintAt(id, known)});
     }
   }
 }

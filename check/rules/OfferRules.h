@@ -45,6 +45,7 @@ class OfferRules {
   void chooseClothes();
   void choose(const ZORVEL::DataContainer& clothing);
   void choosePoses();
+  void notePoses(const ZORVEL::DataContainer& clothing, const ZORVEL::PageOffer& page);
   void takePoses(const ZORVEL::DataContainer& clothing, const ZORVEL::PageOffer& page);
   void takePage(const ZORVEL::PageOffer& page, bool isFirstOfClothing);
   void takeSkins(const ZORVEL::PageOffer& page);

@@ -163,8 +163,8 @@ void ReadingRules::lookAtValue(const XmlElement& element, const ElementEntry& en
   if (entry.kind == EntryKind::Asset) {
     // It counts as what it says.
     if (ZORVEL::WindowsNames::AreAlike(value, VALUE_COMMON)) return;
-    survey_.findings.add(RuleId::TypeSpelling, &element, {value, hintAt(value, known)});
-    const std::wstring nearest = nearestTo(value, known);
+    const std::wstring nearest = survey_.nearestTo(value, [&known] { return known; });
+    survey_.findings.add(RuleId::TypeSpelling, &element, {value, hintAt(nearest)});
     if (nearest != VALUE_COMMON && !nearest.empty()) survey_.misread.insert(&element);
   } else {
     survey_.findings.add(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <set>
 #include <string>
 #include <tuple>
@@ -36,6 +37,15 @@ struct UsedMaterial {
   const ZORVEL::DataContainer* record;
 };
 
+/// A pose on the page that the window shows for one clothing.
+struct PoseOffer {
+  const ZORVEL::DataContainer* clothing;
+  const ZORVEL::DataContainer* pose;
+  /// Grey when it is shown and refused.
+  bool isShown;
+  ZORVEL::Refusal refusal;
+};
+
 /// What the rules work with: the repository in the plug-in's store, what lies on disk, and where findings go. Files
 /// that have to be looked into are noted on the way and read at the end, all at once.
 struct Survey {
@@ -52,6 +62,8 @@ struct Survey {
   std::set<const ZORVEL::XmlElement*> misread = {};
   /// Pose and asset of a character that a row of the asset matrix seems to mean and misses; empty for any.
   std::set<std::tuple<const ZORVEL::CharacterData*, std::wstring, std::wstring>> missedPairs = {};
+  /// All poses, for each clothing that has an id of its own.
+  std::vector<PoseOffer> poseOffers = {};
 
   const ZORVEL::XmlElement* elementOf(const ZORVEL::DataContainer* record) const {
     return findings.description().elementOf(record);
@@ -71,6 +83,18 @@ struct Survey {
     return misread.count(elementOf(record)) > 0 || findings.has(RuleId::GlobalWithoutType, record) ||
            findings.has(RuleId::FolderEmpty, record);
   }
+  /// As in a finding; empty for a record that no element was read into.
+  std::string pathOf(const ZORVEL::DataContainer* record) const;
+  /// For the middle of a sentence: "there is no mesh anna/dress/a_b.vrmesh".
+  std::string reasonOf(const ZORVEL::Refusal& refusal) const;
+  /// Empty when none of the known is near. Who gets thousands of names wrong gets hints for the first of them only:
+  /// each is compared with all that are known.
+  std::wstring nearestTo(const std::wstring& wanted, const std::function<std::vector<std::string>()>& known);
+  /// The same as a hint.
+  std::string hintAt(const std::wstring& wanted, const std::function<std::vector<std::string>()>& known);
+
+  /// How many pairs of letters may still be compared for hints.
+  double hintWork = 2e8;
 };
 
 /// What a person calls an element in the middle of a sentence: "clothing", "shared asset".
@@ -79,9 +103,7 @@ const char* wordFor(EntryKind kind);
 /// Empty for a record without one.
 std::wstring idOf(const ZORVEL::DataContainer* record);
 
-/// Empty when none of the known is near.
-std::wstring nearestTo(const std::wstring& wanted, const std::vector<std::string>& known);
-/// "; did you mean "anna"?", or nothing.
-std::string hintAt(const std::wstring& wanted, const std::vector<std::string>& known);
+/// "; did you mean "anna"?", or nothing for an empty name.
+std::string hintAt(const std::wstring& nearest);
 
 }  // namespace check
