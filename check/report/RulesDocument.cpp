@@ -32,13 +32,13 @@ into the repository's folder:
 in [Continuous integration](continuous-integration.md).
 )";
 
-struct Group {
+struct CodeRange {
   char hundred;
   const char* title;
   const char* introduction;
 };
 
-const Group GROUPS[] = {
+const CodeRange GROUPS[] = {
     {'1', "Reading the description",
      "What the reader of `zorvel.xml` refuses, skips or reads otherwise than it was meant. What is refused or skipped "
      "is "
@@ -74,7 +74,7 @@ std::string sectionOf(const Rule& rule) {
          "**: " + escaped(rule.sentence) + "\n\n" + escaped(rule.remedy) + '\n';
 }
 
-std::string partOf(const Group& group) {
+std::string partOf(const CodeRange& group) {
   std::string text = std::string("\n## ") + group.hundred + "xx: " + group.title + "\n\n" + group.introduction + '\n';
   for (const Rule& rule : allRules()) {
     if (rule.code[2] == group.hundred) text += sectionOf(rule);
@@ -86,7 +86,7 @@ std::string partOf(const Group& group) {
 
 std::string rulesDocument() {
   std::string text = BEGINNING;
-  for (const Group& group : GROUPS) text += partOf(group);
+  for (const CodeRange& group : GROUPS) text += partOf(group);
   return text;
 }
 
