@@ -36,10 +36,10 @@ struct ParseNote {
   std::wstring text;
   std::wstring path;
   // Of the element's start tag, counted from 1; 0 when there is no such place.
-  int line = 0;
-  int column = 0;
+  int line;
+  int column;
   // The element, as long as the document is kept; null for what concerns the whole file.
-  const XmlElement* source = nullptr;
+  const XmlElement* source;
 };
 
 /// Told of what the parser does with a description, in the order in which it happens. Nothing that it could do changes

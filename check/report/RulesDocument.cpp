@@ -32,13 +32,13 @@ into the repository's folder:
 in [Continuous integration](continuous-integration.md).
 )";
 
-struct CodeRange {
+struct Chapter {
   char hundred;
   const char* title;
   const char* introduction;
 };
 
-const CodeRange RANGES[] = {
+const Chapter CHAPTERS[] = {
     {'1', "Reading the description",
      "What the reader of `zorvel.xml` refuses, skips or reads otherwise than it was meant. What is refused or skipped "
      "is "
@@ -74,10 +74,10 @@ std::string sectionOf(const Rule& rule) {
          "**: " + escaped(rule.sentence) + "\n\n" + escaped(rule.remedy) + '\n';
 }
 
-std::string partOf(const CodeRange& range) {
-  std::string text = std::string("\n## ") + range.hundred + "xx: " + range.title + "\n\n" + range.introduction + '\n';
+std::string partOf(const Chapter& group) {
+  std::string text = std::string("\n## ") + group.hundred + "xx: " + group.title + "\n\n" + group.introduction + '\n';
   for (const Rule& rule : allRules()) {
-    if (rule.code[2] == range.hundred) text += sectionOf(rule);
+    if (rule.code[2] == group.hundred) text += sectionOf(rule);
   }
   return text;
 }
@@ -86,7 +86,7 @@ std::string partOf(const CodeRange& range) {
 
 std::string rulesDocument() {
   std::string text = BEGINNING;
-  for (const CodeRange& range : RANGES) text += partOf(range);
+  for (const Chapter& group : CHAPTERS) text += partOf(group);
   return text;
 }
 

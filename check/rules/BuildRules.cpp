@@ -21,8 +21,6 @@ using namespace ZORVEL::RepositoryFormat;
 
 namespace {
 
-std::wstring idOf(const DataContainer* record) { return Fields::TextOrEmpty(record, FIELD_ID); }
-
 /// Only what has a folder: without, that is told, and everything that would be in it is missing for that reason.
 bool isMarked(const DataContainer& record) { return record.GetFastFlag(ZORVEL::FLAG_VALID); }
 

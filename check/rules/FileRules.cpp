@@ -36,10 +36,11 @@ void FileRules::run(const std::string& targetRoot) {
   for (const auto& [folder, problem] : survey_.files.unreadableFolders()) {
     survey_.findings.addToFile(RuleId::FileUnreadable, folder, {folder.empty() ? "the folder" : folder, problem});
   }
-  // Only the artists' machine is of interest: here the path may be any.
-  if (targetRoot.empty()) return;
+  if (targetRoot.empty()) return lookAtKeeping(survey_.root);
+  // Where the artists have it; where it lies here does not matter then.
   const std::wstring root = host::toWide(targetRoot);
-  lookAtRoot(root);
+  lookAtKeeping(root);
+  if (!endsInSeparator(root)) survey_.findings.addToFile(RuleId::RootWithoutSeparator, "", {root});
   lookAtLengths(root);
 }
 
@@ -93,13 +94,12 @@ void FileRules::lookAtUnreferenced() {
   }
 }
 
-void FileRules::lookAtRoot(const std::wstring& root) {
+void FileRules::lookAtKeeping(const std::wstring& root) {
   const ZORVEL::KeptPath kept = ZORVEL::Settings::WhatIsKept(root);
   const char* const why[] = {"", "it has characters beyond Latin-1", "it is too short", "it is too long"};
   if (kept.keeping != PathKeeping::Whole) {
     survey_.findings.addToFile(RuleId::RootNotKept, "", {root, why[static_cast<int>(kept.keeping)]});
   }
-  if (!endsInSeparator(root)) survey_.findings.addToFile(RuleId::RootWithoutSeparator, "", {root});
 }
 
 void FileRules::lookAtLengths(const std::wstring& root) {

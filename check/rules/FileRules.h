@@ -19,7 +19,7 @@ class FileRules {
   void lookAtLetterCase();
   void referToNamedPictures();
   void lookAtUnreferenced();
-  void lookAtRoot(const std::wstring& root);
+  void lookAtKeeping(const std::wstring& root);
   void lookAtLengths(const std::wstring& root);
 
   Survey& survey_;

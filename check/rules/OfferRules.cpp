@@ -27,8 +27,6 @@ using namespace ZORVEL::RepositoryFormat;
 
 namespace {
 
-std::wstring idOf(const DataContainer* record) { return Fields::TextOrEmpty(record, FIELD_ID); }
-
 /// Those that can be chosen: with an id, and the first that has it.
 std::vector<const DataContainer*> choosable(const std::vector<DataContainer*>& records) {
   std::set<std::wstring> known;

@@ -3,8 +3,14 @@
 #include "apps/support/NearestIds.h"
 #include "check/Vocabulary.h"
 #include "host/files/Paths.h"
+#include "model/Fields.h"
+#include "model/RepositoryFormat.h"
 
 namespace check {
+
+std::wstring idOf(const ZORVEL::DataContainer* record) {
+  return ZORVEL::Fields::TextOrEmpty(record, ZORVEL::RepositoryFormat::FIELD_ID);
+}
 
 std::string hintAt(const std::wstring& wanted, const std::vector<std::string>& known) {
   const std::string nearest = apps::nearestId(host::toUtf8(wanted), known);

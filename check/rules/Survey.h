@@ -58,6 +58,9 @@ struct Survey {
 /// What a person calls an element in the middle of a sentence: "clothing", "shared asset".
 const char* wordFor(EntryKind kind);
 
+/// Empty for a record without one.
+std::wstring idOf(const ZORVEL::DataContainer* record);
+
 /// "; did you mean "anna"?", or nothing when none of the known is near.
 std::string hintAt(const std::wstring& wanted, const std::vector<std::string>& known);
 
