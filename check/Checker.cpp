@@ -24,8 +24,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Of the whole, how much of the time the listings take, roughly; the rest is reading files.
+/// Of the whole, when the listings and when the rules are done, roughly; the rest is reading files.
 constexpr double LISTINGS = 0.3;
+constexpr double RULES = 0.4;
 
 /// Empties the store at the end.
 struct EmptyStore {
@@ -41,13 +42,15 @@ void runRules(Survey& survey, const CheckerOptions& options) {
   FolderRules(survey).run();
   MatrixRules(survey).run();
   ReferenceRules(survey).run();
-  for (const ZORVEL::CharacterData* character : apps::characters()) {
-    OfferRules offers(survey, *character);
+  const std::vector<ZORVEL::CharacterData*> characters = apps::characters();
+  for (std::size_t i = 0; i < characters.size(); ++i) {
+    OfferRules offers(survey, *characters[i]);
     offers.run();
-    BuildRules(survey, *character, offers).run();
+    BuildRules(survey, *characters[i], offers).run();
+    tell(options, LISTINGS, RULES, i, characters.size());
   }
   ContentRules(survey).run(
-      [&options](std::size_t done, std::size_t known) { tell(options, LISTINGS, 1.0, done, known); });
+      [&options](std::size_t done, std::size_t known) { tell(options, RULES, 1.0, done, known); });
   FileRules(survey).run(options.targetRoot);
 }
 

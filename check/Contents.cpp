@@ -1,10 +1,14 @@
 #include "check/Contents.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QBuffer>
 #include <QImageReader>
 #include <QString>
 #include <algorithm>
-#include <fstream>
+#include <string_view>
 #include <vector>
 
 #include "check/ParallelWork.h"
@@ -23,6 +27,7 @@ namespace {
 constexpr std::size_t LARGEST_FILE = std::size_t{64} << 20U;
 /// Enough to tell one form from another.
 constexpr std::size_t BEGINNING = 4096;
+constexpr std::size_t AT_ONCE = std::size_t{64} << 10U;
 
 struct Bytes {
   bool isOpened = false;
@@ -30,30 +35,48 @@ struct Bytes {
   std::string text;
 };
 
-/// Goes on behind the beginning only when that is what it takes.
-Bytes readFile(const fs::path& file, const std::function<bool(const std::string& beginning)>& wantsAll) {
-  Bytes bytes;
-  std::error_code error;
-  if (!fs::is_regular_file(file, error)) return bytes;
-  std::ifstream stream;
-  stream.rdbuf()->pubsetbuf(nullptr, 0);
-  stream.open(file, std::ios::binary);
-  bytes.isOpened = stream.is_open();
-  std::size_t wanted = BEGINNING;
-  while (bytes.isOpened && stream && bytes.text.size() < wanted) {
-    const std::size_t before = bytes.text.size();
-    bytes.text.resize(wanted);
-    stream.read(bytes.text.data() + before, static_cast<std::streamsize>(wanted - before));
-    bytes.text.resize(before + static_cast<std::size_t>(stream.gcount()));
-    if (bytes.text.size() == BEGINNING && wantsAll(bytes.text)) {
-      wanted = std::max<std::size_t>(BEGINNING, std::min(fs::file_size(file, error), LARGEST_FILE) + 1);
-    }
+using Judge = std::function<bool(std::string_view beginning)>;
+
+/// Appends until the text has that many bytes. False when the file cannot be read or has no more.
+bool readUpTo(int file, std::size_t wanted, Bytes& bytes) {
+  std::size_t size = bytes.text.size();
+  bytes.text.resize(wanted);
+  ssize_t count = 1;
+  while (size < wanted && count > 0) {
+    count = ::read(file, bytes.text.data() + size, wanted - size);
+    if (count > 0) size += static_cast<std::size_t>(count);
   }
-  bytes.isWhole = stream.eof();
+  bytes.text.resize(size);
+  bytes.isWhole = count == 0;
+  return count > 0;
+}
+
+/// Of a share each reading is a way there and back: small files are read in one.
+void readContent(int file, std::size_t size, const Judge& wantsAll, Bytes& bytes) {
+  const std::size_t first = size == 0 ? BEGINNING : std::min(size, AT_ONCE);
+  if (!readUpTo(file, first, bytes)) return;
+  if (bytes.text.size() > BEGINNING && !wantsAll(std::string_view(bytes.text).substr(0, BEGINNING))) {
+    bytes.text.resize(BEGINNING);
+  } else if (size == 0 || size > first) {
+    readUpTo(file, std::min(size, LARGEST_FILE), bytes);
+  }
+  bytes.isWhole = bytes.isWhole || bytes.text.size() == size;
+}
+
+/// Goes on behind the beginning only when that is what it takes. No path is what nobody should open.
+Bytes readFile(const fs::path& place, const Judge& wantsAll) {
+  Bytes bytes;
+  // Another may have put a pipe there by now, which would keep its reader waiting.
+  const int file = place.empty() ? -1 : ::open(place.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (file < 0) return bytes;
+  struct stat status = {};
+  bytes.isOpened = ::fstat(file, &status) == 0 && S_ISREG(status.st_mode);
+  if (bytes.isOpened) readContent(file, static_cast<std::size_t>(status.st_size), wantsAll, bytes);
+  ::close(file);
   return bytes;
 }
 
-bool isText(const std::string& bytes) { return bytes.find('\0') == std::string::npos; }
+bool isText(std::string_view bytes) { return bytes.find('\0') == std::string_view::npos; }
 
 const char* const NOT_OPENED = "it cannot be opened";
 const char* const TOO_LARGE = "it has more than 64 MiB";
@@ -72,7 +95,7 @@ bool isCutOff(const std::string& bytes, const QByteArray& format) {
 }
 
 void look(const fs::path& file, PictureContent& picture) {
-  const Bytes bytes = readFile(file, [](const std::string&) { return true; });
+  const Bytes bytes = readFile(file, [](std::string_view) { return true; });
   picture.form = bytes.isOpened ? Form::Damaged : Form::Unreadable;
   picture.problem = bytes.isOpened ? TOO_LARGE : NOT_OPENED;
   if (!bytes.isWhole) return;
@@ -89,7 +112,7 @@ void look(const fs::path& file, PictureContent& picture) {
   if (problem.isEmpty()) picture.form = Form::Open;
 }
 
-bool isOpenMesh(const std::string& beginning) { return host::looksLikeGlb(beginning) || host::looksLikeObj(beginning); }
+bool isOpenMesh(std::string_view beginning) { return host::looksLikeGlb(beginning) || host::looksLikeObj(beginning); }
 
 void look(const fs::path& file, MeshContent& mesh) {
   const Bytes bytes = readFile(file, isOpenMesh);
@@ -128,14 +151,19 @@ void look(const fs::path& file, LibraryContent& library) {
 
 using Job = std::function<void()>;
 
-template <class Content>
-void addJobs(std::map<fs::path, Content>& contents, std::vector<Job>& jobs) {
-  for (auto& [file, content] : contents) {
-    jobs.push_back([&path = file, &result = content] { look(path, result); });
+template <class Wanted>
+void addJobs(Wanted& wanted, std::vector<Job>& jobs) {
+  for (auto& entry : wanted) {
+    jobs.push_back([&one = entry.second] { look(one.place, one.content); });
   }
 }
 
 }  // namespace
+
+const LibraryContent* Contents::library(const std::wstring& path) const {
+  const auto found = libraries_.find(files_.find(path));
+  return found != libraries_.end() ? &found->second.content : nullptr;
+}
 
 void Contents::read(const std::function<void(std::size_t, std::size_t)>& progress) {
   std::vector<Job> jobs;

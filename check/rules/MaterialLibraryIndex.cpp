@@ -29,7 +29,7 @@ Mtl* MaterialLibraryIndex::find(const std::wstring& file, const std::wstring& na
 
 bool MaterialLibraryIndex::isClosed(const std::wstring& file) { return open(file).isClosed; }
 
-std::string MaterialLibraryIndex::problemOf(const std::wstring& file) { return open(file).problem; }
+const std::string& MaterialLibraryIndex::problemOf(const std::wstring& file) { return open(file).problem; }
 
 MaterialLibraryIndex::Library& MaterialLibraryIndex::open(const std::wstring& file) {
   std::unique_ptr<Library>& library = libraries_[file];
@@ -39,12 +39,12 @@ MaterialLibraryIndex::Library& MaterialLibraryIndex::open(const std::wstring& fi
 
 std::unique_ptr<MaterialLibraryIndex::Library> MaterialLibraryIndex::load(const std::wstring& file) {
   auto library = std::make_unique<Library>();
-  if (files_.Look(file) != ZORVEL::DiskEntry::File || !files_.isInside(file)) return library;
-  const LibraryContent& content = contents_.library(files_.nativePath(file));
-  library->isClosed = content.form == Form::Closed;
-  library->problem = content.problem;
-  if (content.form != Form::Open) return library;
-  host::MaterialLibraryContent read = host::readMaterialLibraryText(content.text);
+  const LibraryContent* content = contents_.library(file);
+  if (content == nullptr) return library;
+  library->isClosed = content->form == Form::Closed;
+  library->problem = content->problem;
+  if (content->form != Form::Open) return library;
+  host::MaterialLibraryContent read = host::readMaterialLibraryText(content->text);
   library->problem = read.error;
   library->isLoaded = read.error.empty();
   for (const host::Ref<Mtl>& material : read.materials) library->materials.Add(material.get());

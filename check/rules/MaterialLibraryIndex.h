@@ -1,11 +1,10 @@
 #pragma once
 
-#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 #include "check/Contents.h"
-#include "check/FolderIndex.h"
 #include "host/formats/MaterialLibraryFile.h"
 #include "host/materials/MaterialLibrary.h"
 #include "model/MaterialResult.h"
@@ -15,8 +14,8 @@ namespace check {
 /// The material libraries of a repository by the names that they hold, each opened once, when it is first asked.
 class MaterialLibraryIndex {
  public:
-  /// Both must outlive this.
-  MaterialLibraryIndex(FolderIndex& files, const Contents& contents) : files_(files), contents_(contents) {}
+  /// Must outlive this.
+  explicit MaterialLibraryIndex(const Contents& contents) : contents_(contents) {}
 
   /// As loading it and looking a name up comes out. A library that cannot be read here counts as not loaded.
   ZORVEL::LibraryState look(const std::wstring& file, const wchar_t* name);
@@ -25,7 +24,7 @@ class MaterialLibraryIndex {
   /// Whether it is there and in a form that only 3ds Max reads.
   bool isClosed(const std::wstring& file);
   /// Empty for a library that was read or is not there.
-  std::string problemOf(const std::wstring& file);
+  const std::string& problemOf(const std::wstring& file);
 
  private:
   struct Library {
@@ -38,9 +37,8 @@ class MaterialLibraryIndex {
   Library& open(const std::wstring& file);
   std::unique_ptr<Library> load(const std::wstring& file);
 
-  FolderIndex& files_;
   const Contents& contents_;
-  std::map<std::wstring, std::unique_ptr<Library>> libraries_;
+  std::unordered_map<std::wstring, std::unique_ptr<Library>> libraries_;
 };
 
 }  // namespace check

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <algorithm>
+#include <unordered_set>
 
 #include "apps/support/ModelText.h"
 #include "host/files/Paths.h"
@@ -29,10 +30,11 @@ namespace {
 
 /// Those that can be chosen: with an id, and the first that has it.
 std::vector<const DataContainer*> choosable(const std::vector<DataContainer*>& records) {
-  std::set<std::wstring> known;
+  std::unordered_set<std::wstring> known;
   std::vector<const DataContainer*> result;
   for (const DataContainer* record : records) {
-    if (!idOf(record).empty() && known.insert(idOf(record)).second) result.push_back(record);
+    std::wstring id = idOf(record);
+    if (!id.empty() && known.insert(std::move(id)).second) result.push_back(record);
   }
   return result;
 }
@@ -90,11 +92,12 @@ void OfferRules::lookAtLists() {
                         });
     if (!isTold) survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
   }
+  std::set<const DataContainer*> used;
+  for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
+    used.insert(character_.GetCategory(asset));
+  }
   for (const DataContainer* category : apps::elementsOf(character_, ZORVEL::CATEGORIES)) {
-    const auto assets = apps::elementsOf(character_, ZORVEL::ASSETS);
-    const bool isUsed = std::any_of(assets.begin(), assets.end(), [&](const DataContainer* asset) {
-      return character_.GetCategory(asset) == category;
-    });
+    const bool isUsed = used.count(category) > 0;
     if (!isUsed && !idOf(category).empty()) survey_.findings.add(RuleId::CategoryEmpty, category, {});
   }
 }
@@ -118,6 +121,7 @@ void OfferRules::chooseClothes() {
     }
   }
   poses_ = choosable(apps::elementsOf(character_, ZORVEL::POSES));
+  choosablePoses_.insert(poses_.begin(), poses_.end());
   for (const DataContainer* clothing : clothes_) choose(*clothing);
   // Its poses are shown, all of them grey.
   for (const DataContainer* clothing : unavailable_) {
@@ -145,8 +149,7 @@ void OfferRules::choose(const DataContainer& clothing) {
 
 void OfferRules::takePoses(const DataContainer& clothing, const PageOffer& page) {
   const auto take = [&](const OfferedElement& element, bool isShown) {
-    const bool isChoosable = std::find(poses_.begin(), poses_.end(), element.record) != poses_.end();
-    if (!isChoosable || !element.record->GetFastFlag(ZORVEL::FLAG_VALID)) return;
+    if (choosablePoses_.count(element.record) == 0 || !element.record->GetFastFlag(ZORVEL::FLAG_VALID)) return;
     worn_.push_back({&clothing, element.record, isShown, element.refusal});
   };
   for (const OfferedElement& element : page.shown) {
@@ -223,6 +226,8 @@ void OfferRules::takeAssets(const PageOffer& page) {
 
 void OfferRules::takePicture(const PageOffer& page, const OfferedElement& element) {
   const DataContainer* record = element.style != nullptr ? element.style : element.record;
+  // A pose has one for each clothing.
+  if (page.kind != PageKind::Poses && !pictured_.insert(record).second) return;
   survey_.pictures.push_back({element.picturePath, page.kind, record});
 }
 
@@ -273,19 +278,23 @@ void OfferRules::tellPair(const WornPose& pair) {
   }
 }
 
-/// Such an asset needs no page.
-bool OfferRules::isAskedForByAPose(const std::wstring& id) const {
+/// The ids of assets that poses ask for; such an asset needs no page.
+std::set<std::wstring> OfferRules::askedForByPoses() const {
+  std::set<std::wstring> ids;
   for (const DataContainer* pose : apps::elementsOf(character_, ZORVEL::POSES)) {
-    if (CharacterData::FindElementById(pose, id.c_str()) != nullptr) return true;
+    for (const DataContainer* entry : apps::childrenOf(*pose)) {
+      if (const wchar_t* id = Fields::OptionalText(entry, FIELD_ID)) ids.insert(id);
+    }
   }
-  return false;
+  return ids;
 }
 
 void OfferRules::tellAssetsWithoutPage() {
   const auto known = apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES));
+  const std::set<std::wstring> asked = askedForByPoses();
   for (const OfferedElement& element : offers_.GetAssetsWithoutPage()) {
     const std::wstring& id = element.refusal.concerned;
-    if (element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(idOf(element.record))) continue;
+    if (element.refusal.why == WhyNot::CategoryUnnamed && asked.count(idOf(element.record)) > 0) continue;
     if (element.refusal.why == WhyNot::CategoryUnnamed) {
       survey_.findings.add(RuleId::AssetCategoryUnnamed, element.record, {});
     } else {

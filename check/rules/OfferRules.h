@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <unordered_set>
 
 #include "check/rules/Survey.h"
 #include "core/FileStamps.h"
@@ -54,7 +55,7 @@ class OfferRules {
 
   void tellWorn();
   void tellPair(const WornPose& pair);
-  bool isAskedForByAPose(const std::wstring& id) const;
+  std::set<std::wstring> askedForByPoses() const;
   void tellAssetsWithoutPage();
   void tellAssetsWithoutRow();
   void tellAddresses();
@@ -67,6 +68,9 @@ class OfferRules {
   Records clothes_;
   Records unavailable_;
   Records poses_;
+  std::unordered_set<const ZORVEL::DataContainer*> choosablePoses_;
+  /// Whose picture is noted already.
+  std::unordered_set<const ZORVEL::DataContainer*> pictured_;
   std::vector<WornPose> worn_;
   const ZORVEL::DataContainer* pose_ = nullptr;
   std::set<const ZORVEL::DataContainer*> visitedPoses_;
