@@ -5,6 +5,7 @@
 #include "check/Description.h"
 #include "check/Findings.h"
 #include "check/FolderIndex.h"
+#include "check/Workload.h"
 #include "check/rules/BuildRules.h"
 #include "check/rules/ContentRules.h"
 #include "check/rules/FileRules.h"
@@ -16,6 +17,7 @@
 #include "check/rules/ReferenceRules.h"
 #include "core/Settings.h"
 #include "model/Data2.h"
+#include "model/RepositoryPaths.h"
 #include "repository/Parser2.h"
 
 namespace check {
@@ -35,6 +37,18 @@ struct EmptyStore {
 
 void tell(const CheckerOptions& options, double from, double to, std::size_t done, std::size_t known) {
   if (options.progress) options.progress(from + (to - from) * static_cast<double>(done) / static_cast<double>(known));
+}
+
+/// Whether it could be read, as a whole and within bounds; findings say why not.
+bool readDescription(const std::wstring& root, FolderIndex& files, Findings& findings) {
+  if (!files.isInside(ZORVEL::RepositoryPaths::Description(root))) {
+    findings.addAt(RuleId::DescriptionUnreadable, 0, 0, {"it is a link that leads out of the repository"});
+    return false;
+  }
+  if (!ZORVEL::Parser2::ParseRepository(root.c_str())) return false;
+  const std::string tooLarge = whyTooLarge();
+  if (!tooLarge.empty()) findings.addAt(RuleId::DescriptionBeyondLimits, 0, 0, {tooLarge});
+  return tooLarge.empty();
 }
 
 void runRules(Survey& survey, const CheckerOptions& options) {
@@ -57,19 +71,28 @@ void runRules(Survey& survey, const CheckerOptions& options) {
 }  // namespace
 
 CheckResult checkRepository(const fs::path& root, const CheckerOptions& options) {
-  const apps::SettledRoot settings(root);
   CheckResult result;
   result.root = root.string();
-  const std::wstring prefix = ZORVEL::Settings::GetPath();
-  FolderIndex files(fs::absolute(root), prefix);
-  files.read([&options](std::size_t done, std::size_t known) { tell(options, 0.0, LISTINGS, done, known); });
   Description description;
   Findings findings(description);
+  const apps::SettledRoot settings(root);
+  if (!settings.isThere()) {
+    findings.addAt(RuleId::DescriptionUnreadable, 0, 0, {"no temporary folder can be made, and the settings need one"});
+    result.findings = findings.takeAll();
+    return result;
+  }
+  const std::wstring prefix = ZORVEL::Settings::GetPath();
+  std::error_code error;
+  FolderIndex files(fs::absolute(root, error), prefix);
   const EmptyStore emptied;
   const ZORVEL::ViewedDisk viewed(files);
   const ZORVEL::ObservedParsing observed(description);
   ZORVEL::Data2::Clear();
-  result.isReadable = ZORVEL::Parser2::ParseRepository(prefix.c_str());
+  // Without a description it may be any folder, of any size.
+  if (files.Look(ZORVEL::RepositoryPaths::Description(prefix)) == ZORVEL::DiskEntry::File) {
+    files.read([&options](std::size_t done, std::size_t known) { tell(options, 0.0, LISTINGS, done, known); });
+  }
+  result.isReadable = readDescription(prefix, files, findings);
   Survey survey = {findings, files, prefix, {}, {}, {}};
   ReadingRules(survey).run();
   if (result.isReadable) {

@@ -1,17 +1,17 @@
 #include "check/Contents.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <QBuffer>
 #include <QImageReader>
 #include <QString>
 #include <algorithm>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
 #include <string_view>
 #include <vector>
 
 #include "check/ParallelWork.h"
+#include "host/files/RegularFile.h"
 #include "host/meshes/GltfMeshReader.h"
 #include "host/meshes/MeshFile.h"
 #include "host/meshes/ObjMeshReader.h"
@@ -27,52 +27,74 @@ namespace {
 constexpr std::size_t LARGEST_FILE = std::size_t{64} << 20U;
 /// Enough to tell one form from another.
 constexpr std::size_t BEGINNING = 4096;
+/// What costs a share about as much as a single byte does.
 constexpr std::size_t AT_ONCE = std::size_t{64} << 10U;
+/// What is read at a time, in bytes of files larger than that; what is made of them takes up to thirty times as much. A
+/// larger file is read alone.
+constexpr std::uintmax_t MOST_AT_A_TIME = std::uintmax_t{16} << 20U;
+/// In pixels, far more than the window shows. Small files can hold pictures that take gigabytes.
+constexpr int MOST_DECODED = 1024 * 1024;
+
+/// Shared by those who look at files at the same time.
+struct Room {
+  std::mutex mutex;
+  std::condition_variable changed;
+  std::uintmax_t left = MOST_AT_A_TIME;
+};
+
+/// Room for one file, for as long as it lives.
+class Taken {
+ public:
+  /// Waits until the file fits.
+  Taken(Room& room, std::uintmax_t size) : room_(room), bytes_(std::min(size, MOST_AT_A_TIME)) {
+    std::unique_lock<std::mutex> lock(room_.mutex);
+    room_.changed.wait(lock, [this] { return room_.left >= bytes_; });
+    room_.left -= bytes_;
+  }
+  ~Taken() {
+    const std::lock_guard<std::mutex> lock(room_.mutex);
+    room_.left += bytes_;
+    room_.changed.notify_all();
+  }
+  Taken(const Taken&) = delete;
+  Taken& operator=(const Taken&) = delete;
+
+ private:
+  Room& room_;
+  std::uintmax_t bytes_;
+};
+
+/// A file that is looked at, and where there is to be room for it.
+struct Place {
+  const fs::path& path;
+  Room& room;
+};
 
 struct Bytes {
   bool isOpened = false;
   bool isWhole = false;
   std::string text;
+  std::unique_ptr<Taken> taken;
 };
 
 using Judge = std::function<bool(std::string_view beginning)>;
 
-/// Appends until the text has that many bytes. False when the file cannot be read or has no more.
-bool readUpTo(int file, std::size_t wanted, Bytes& bytes) {
-  std::size_t size = bytes.text.size();
-  bytes.text.resize(wanted);
-  ssize_t count = 1;
-  while (size < wanted && count > 0) {
-    count = ::read(file, bytes.text.data() + size, wanted - size);
-    if (count > 0) size += static_cast<std::size_t>(count);
-  }
-  bytes.text.resize(size);
-  bytes.isWhole = count == 0;
-  return count > 0;
-}
-
-/// Of a share each reading is a way there and back: small files are read in one.
-void readContent(int file, std::size_t size, const Judge& wantsAll, Bytes& bytes) {
-  const std::size_t first = size == 0 ? BEGINNING : std::min(size, AT_ONCE);
-  if (!readUpTo(file, first, bytes)) return;
+/// Goes on behind the beginning only when that is what it takes. No path is what nobody should open.
+Bytes readFile(const Place& place, const Judge& wantsAll) {
+  Bytes bytes;
+  if (place.path.empty()) return bytes;
+  host::RegularFile file(place.path, host::RegularFile::Seen::InListing);
+  bytes.isOpened = file.readUpTo(AT_ONCE, bytes.text);
   if (bytes.text.size() > BEGINNING && !wantsAll(std::string_view(bytes.text).substr(0, BEGINNING))) {
     bytes.text.resize(BEGINNING);
-  } else if (size == 0 || size > first) {
-    readUpTo(file, std::min(size, LARGEST_FILE), bytes);
+    return bytes;
   }
-  bytes.isWhole = bytes.isWhole || bytes.text.size() == size;
-}
-
-/// Goes on behind the beginning only when that is what it takes. No path is what nobody should open.
-Bytes readFile(const fs::path& place, const Judge& wantsAll) {
-  Bytes bytes;
-  // Another may have put a pipe there by now, which would keep its reader waiting.
-  const int file = place.empty() ? -1 : ::open(place.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (file < 0) return bytes;
-  struct stat status = {};
-  bytes.isOpened = ::fstat(file, &status) == 0 && S_ISREG(status.st_mode);
-  if (bytes.isOpened) readContent(file, static_cast<std::size_t>(status.st_size), wantsAll, bytes);
-  ::close(file);
+  if (bytes.isOpened && !file.isAtEnd() && file.size() <= LARGEST_FILE) {
+    bytes.taken = std::make_unique<Taken>(place.room, file.size());
+    bytes.text.reserve(static_cast<std::size_t>(file.size()) + 1);
+    bytes.isOpened = file.readUpTo(LARGEST_FILE + 1, bytes.text);
+  }
+  bytes.isWhole = file.isAtEnd();
   return bytes;
 }
 
@@ -94,7 +116,7 @@ bool isCutOff(const std::string& bytes, const QByteArray& format) {
   return bytes.find(end) == std::string::npos;
 }
 
-void look(const fs::path& file, PictureContent& picture) {
+void look(const Place& file, PictureContent& picture) {
   const Bytes bytes = readFile(file, [](std::string_view) { return true; });
   picture.form = bytes.isOpened ? Form::Damaged : Form::Unreadable;
   picture.problem = bytes.isOpened ? TOO_LARGE : NOT_OPENED;
@@ -105,7 +127,8 @@ void look(const fs::path& file, PictureContent& picture) {
   QString problem;
   picture.size = ZORVEL::PictureReader::Measure(buffer, problem);
   buffer.seek(0);
-  if (problem.isEmpty() && isCutOff(bytes.text, QImageReader::imageFormat(&buffer))) {
+  const bool isSmall = picture.size.width() <= MOST_DECODED / std::max(1, picture.size.height());
+  if (problem.isEmpty() && isSmall && isCutOff(bytes.text, QImageReader::imageFormat(&buffer))) {
     problem = QStringLiteral("it is damaged or cut off");
   }
   picture.problem = problem.toStdString();
@@ -114,7 +137,7 @@ void look(const fs::path& file, PictureContent& picture) {
 
 bool isOpenMesh(std::string_view beginning) { return host::looksLikeGlb(beginning) || host::looksLikeObj(beginning); }
 
-void look(const fs::path& file, MeshContent& mesh) {
+void look(const Place& file, MeshContent& mesh) {
   const Bytes bytes = readFile(file, isOpenMesh);
   mesh.form = bytes.isOpened ? Form::Damaged : Form::Unreadable;
   mesh.problem = bytes.isOpened ? "" : NOT_OPENED;
@@ -134,7 +157,7 @@ void look(const fs::path& file, MeshContent& mesh) {
   }
 }
 
-void look(const fs::path& file, LibraryContent& library) {
+void look(const Place& file, LibraryContent& library) {
   Bytes bytes = readFile(file, isText);
   library.form = bytes.isOpened ? Form::Damaged : Form::Unreadable;
   library.problem = bytes.isOpened ? "" : NOT_OPENED;
@@ -152,9 +175,9 @@ void look(const fs::path& file, LibraryContent& library) {
 using Job = std::function<void()>;
 
 template <class Wanted>
-void addJobs(Wanted& wanted, std::vector<Job>& jobs) {
+void addJobs(Wanted& wanted, Room& room, std::vector<Job>& jobs) {
   for (auto& entry : wanted) {
-    jobs.push_back([&one = entry.second] { look(one.place, one.content); });
+    jobs.push_back([&one = entry.second, &room] { look(Place{one.place, room}, one.content); });
   }
 }
 
@@ -167,9 +190,10 @@ const LibraryContent* Contents::library(const std::wstring& path) const {
 
 void Contents::read(const std::function<void(std::size_t, std::size_t)>& progress) {
   std::vector<Job> jobs;
-  addJobs(pictures_, jobs);
-  addJobs(meshes_, jobs);
-  addJobs(libraries_, jobs);
+  Room room;
+  addJobs(pictures_, room, jobs);
+  addJobs(meshes_, room, jobs);
+  addJobs(libraries_, room, jobs);
   ParallelWork<Job>([](const Job& job, std::vector<Job>&) { job(); }, progress).run(std::move(jobs));
 }
 

@@ -1,7 +1,5 @@
 #include "check/Findings.h"
 
-#include <algorithm>
-
 #include "check/PrintableText.h"
 #include "host/files/Paths.h"
 
@@ -12,6 +10,19 @@ using ZORVEL::XmlElement;
 namespace {
 
 const char* const DESCRIPTION = "zorvel.xml";
+/// Bytes of what a finding quotes; names and paths are far shorter.
+constexpr std::size_t LONGEST_QUOTE = 1000;
+/// Nobody reads more findings of one rule; how many more there are is told.
+constexpr int MOST_OF_A_RULE = 10'000;
+
+bool goesOn(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; }
+
+std::string shortened(std::string text) {
+  if (text.size() <= LONGEST_QUOTE) return text;
+  std::size_t end = LONGEST_QUOTE;
+  while (end > 0 && goesOn(text[end])) --end;
+  return text.erase(end) + "\u2026";
+}
 
 /// One value for each {placeholder}, in their order.
 std::string filledIn(const std::string& sentence, const std::vector<Value>& values) {
@@ -27,13 +38,17 @@ std::string filledIn(const std::string& sentence, const std::vector<Value>& valu
   return text;
 }
 
-auto sortKey(const Finding& finding) {
-  return std::tie(finding.file, finding.line, finding.column, finding.rule, finding.message);
-}
-
 }  // namespace
 
-Value::Value(const std::wstring& text) : text_(host::toUtf8(text)) {}
+Value::Value(std::string text) : text_(shortened(std::move(text))) {}
+Value::Value(const std::wstring& text) : Value(host::toUtf8(text)) {}
+
+bool Findings::InOrder::operator()(const Finding& left, const Finding& right) const {
+  const auto key = [](const Finding& one) {
+    return std::tie(one.file, one.line, one.column, one.rule, one.message, one.element);
+  };
+  return key(left) < key(right);
+}
 
 void Findings::add(RuleId rule, const XmlElement* element, std::vector<Value> values) {
   Finding finding;
@@ -74,24 +89,36 @@ bool Findings::has(RuleId rule, const ZORVEL::DataContainer* record) const {
 }
 
 void Findings::insert(Finding finding, const std::vector<Value>& values) {
+  Counts& counts = counts_[finding.rule];
+  if (counts.taken == MOST_OF_A_RULE) {
+    ++counts.leftOut;
+    return;
+  }
   const Rule& rule = ruleOf(finding.rule);
   finding.severity = rule.severity;
-  finding.file = printable(finding.file);
-  finding.element = printable(finding.element);
+  finding.file = printable(shortened(std::move(finding.file)));
+  finding.element = printable(shortened(std::move(finding.element)));
   if (!values.empty()) finding.subject = printable(values.front().text());
   finding.message = printable(filledIn(rule.sentence, values));
-  findings_.push_back(std::move(finding));
+  if (findings_.insert(std::move(finding)).second) ++counts.taken;
+}
+
+void Findings::tellLeftOut(RuleId rule, int count) {
+  if (count == 0) return;
+  Finding finding;
+  finding.rule = rule;
+  finding.severity = ruleOf(rule).severity;
+  finding.file = DESCRIPTION;
+  finding.subject = std::to_string(count);
+  finding.message = finding.subject + " more findings of this rule are left out";
+  findings_.insert(std::move(finding));
 }
 
 std::vector<Finding> Findings::takeAll() {
-  std::vector<Finding> all = std::move(findings_);
+  for (const auto& [rule, counts] : counts_) tellLeftOut(rule, counts.leftOut);
+  counts_.clear();
+  std::vector<Finding> all(findings_.begin(), findings_.end());
   findings_.clear();
-  std::stable_sort(all.begin(), all.end(),
-                   [](const Finding& left, const Finding& right) { return sortKey(left) < sortKey(right); });
-  const auto isSame = [](const Finding& left, const Finding& right) {
-    return sortKey(left) == sortKey(right) && left.element == right.element;
-  };
-  all.erase(std::unique(all.begin(), all.end(), isSame), all.end());
   return all;
 }
 

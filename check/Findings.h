@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 #include <tuple>
@@ -10,10 +11,10 @@
 
 namespace check {
 
-/// A text of the repository or of the checker, as UTF-8.
+/// A text of the repository or of the checker, as UTF-8; cut where it is longer than any name or path.
 class Value {
  public:
-  Value(std::string text) : text_(std::move(text)) {}        // NOLINT: every text is a value
+  Value(std::string text);                                   // NOLINT: every text is a value
   Value(const char* text) : text_(text) {}                   // NOLINT
   Value(const std::wstring& text);                           // NOLINT
   Value(const wchar_t* text) : Value(std::wstring(text)) {}  // NOLINT
@@ -25,7 +26,8 @@ class Value {
   std::string text_;
 };
 
-/// Takes in what is found. The same thing is taken in once.
+/// Takes in what is found. The same thing is taken in once, and of one rule at most ten thousand; how many more there
+/// are is told at the end.
 class Findings {
  public:
   explicit Findings(const Description& description) : description_(description) {}
@@ -45,10 +47,20 @@ class Findings {
   std::vector<Finding> takeAll();
 
  private:
+  struct InOrder {
+    bool operator()(const Finding& left, const Finding& right) const;
+  };
+  struct Counts {
+    int taken = 0;
+    int leftOut = 0;
+  };
+
   void insert(Finding finding, const std::vector<Value>& values);
+  void tellLeftOut(RuleId rule, int count);
 
   const Description& description_;
-  std::vector<Finding> findings_;
+  std::set<Finding, InOrder> findings_;
+  std::map<RuleId, Counts> counts_;
   std::set<std::pair<RuleId, const ZORVEL::XmlElement*>> told_;
 };
 

@@ -15,6 +15,8 @@ using ZORVEL::DiskEntry;
 /// A file, or a folder when it has one.
 struct FolderIndex::Entry {
   File file;
+  /// Leads out of the repository, and is neither.
+  bool isLinkOut = false;
   std::unique_ptr<Folder> folder;
 };
 
@@ -49,6 +51,14 @@ std::wstring_view nextName(std::wstring_view& rest) {
 
 }  // namespace
 
+bool leadsOut(const fs::path& path, const fs::path& folder) {
+  std::error_code error;
+  const fs::path target = fs::canonical(path, error);
+  if (error) return false;
+  const fs::path around = fs::canonical(folder, error);
+  return !error && std::mismatch(around.begin(), around.end(), target.begin(), target.end()).first != around.end();
+}
+
 FolderIndex::FolderIndex(fs::path root, std::wstring prefix)
     : root_(std::move(root)), prefix_(std::move(prefix)), top_(std::make_unique<Folder>()) {}
 
@@ -57,7 +67,7 @@ FolderIndex::~FolderIndex() = default;
 void FolderIndex::read(const std::function<void(std::size_t, std::size_t)>& progress) {
   ParallelWork<Folder*> work(
       [this](Folder* folder, std::vector<Folder*>& more) {
-        list(*folder);
+        ensureListed(*folder);
         for (const auto& [name, entry] : folder->entries) {
           if (entry.folder != nullptr && !entry.folder->isPassedOver) more.push_back(entry.folder.get());
         }
@@ -74,10 +84,15 @@ void FolderIndex::list(Folder& folder) const {
   if (error) folder.problem = error.message();
 }
 
-void FolderIndex::add(const fs::directory_entry& entry, Folder& folder) {
+void FolderIndex::add(const fs::directory_entry& entry, Folder& folder) const {
   const std::wstring name = host::toWide(entry.path().filename().string());
   std::error_code unknown;
+  const bool isLink = entry.is_symlink(unknown);
+  // A link that leads nowhere is nothing.
+  if (isLink && !entry.exists(unknown)) return;
   Entry& added = folder.entries[name];
+  added.isLinkOut = isLink && leadsOut(entry.path(), root_);
+  if (added.isLinkOut) return;
   if (!entry.is_directory(unknown)) {
     added.file.isRegular = entry.is_regular_file(unknown);
     return;
@@ -156,6 +171,11 @@ FolderIndex::Found FolderIndex::findIn(Folder& folder, const std::wstring& name)
   Named* const entry = onDisk(folder, name);
   if (entry == nullptr) return found;
   found.name = &entry->first;
+  found.isOutside = entry->second.isLinkOut;
+  if (found.isOutside) {
+    tellLinkOut(folder, entry->first);
+    return found;
+  }
   found.folder = entry->second.folder.get();
   if (found.folder != nullptr) return found;
   found.file = &entry->second.file;
@@ -183,6 +203,12 @@ void FolderIndex::addFolded(std::unordered_map<std::wstring, Named*>& folded, Na
   if (held == nullptr || entry.first < held->first) held = &entry;
 }
 
+void FolderIndex::tellLinkOut(const Folder& folder, const std::wstring& name) {
+  const std::string link = host::toUtf8(folder.path + L"/" + name).erase(0, 1);
+  std::error_code unknown;
+  linksOut_.emplace(link, fs::read_symlink(root_ / link, unknown).string());
+}
+
 void FolderIndex::ensureListed(Folder& folder) const {
   if (!folder.isListed) list(folder);
 }
@@ -204,6 +230,7 @@ FolderIndex::Place FolderIndex::walk(std::wstring_view below) {
       continue;
     }
     const Found next = findIn(*way.back(), std::wstring(name));
+    if (next.isOutside) return {nullptr, true};
     if (next.folder == nullptr || next.file != nullptr) return {nullptr, false};
     way.push_back(next.folder);
   }
@@ -245,7 +272,7 @@ std::vector<std::pair<std::string, std::string>> FolderIndex::unreadableFolders(
 int FolderIndex::fileCount() const {
   std::size_t count = 0;
   forEachFolder([&count](const Folder& folder) {
-    const auto isFile = [](const Named& entry) { return entry.second.folder == nullptr; };
+    const auto isFile = [](const Named& entry) { return entry.second.folder == nullptr && !entry.second.isLinkOut; };
     count += static_cast<std::size_t>(std::count_if(folder.entries.begin(), folder.entries.end(), isFile));
   });
   return static_cast<int>(count);
@@ -270,7 +297,7 @@ bool FolderIndex::addUnreferenced(const Folder& folder, std::vector<std::pair<st
       isUseless = addUnreferenced(*entry.folder, result) && isUseless;
     } else if (entry.file.isReferredTo) {
       isUseless = false;
-    } else if (name.front() != L'.') {
+    } else if (name.front() != L'.' && !entry.isLinkOut) {
       result.emplace_back(host::toUtf8(folder.path + L"/" + name).erase(0, 1), 1);
     }
   }

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -15,9 +16,13 @@
 
 namespace check {
 
+/// Whether what lies at the path is, once links are followed, not in the folder nor in one below it. False for what is
+/// not there.
+bool leadsOut(const std::filesystem::path& path, const std::filesystem::path& folder);
+
 /// What lies in a repository, from one listing for each folder, for whoever asks Disk while this is its view. Names are
-/// found without regard to case, as in Windows. What is asked for counts as referred to. Paths outside the repository
-/// are asked of the disk.
+/// found without regard to case, as in Windows. What is asked for counts as referred to. Paths outside the repository,
+/// by their names or because a link leads there, are asked of the disk.
 class FolderIndex : public ZORVEL::DiskView {
  public:
   struct File {
@@ -62,6 +67,8 @@ class FolderIndex : public ZORVEL::DiskView {
   std::vector<std::pair<std::string, int>> unreferenced() const;
   /// Files that were asked for and are there, below the root and as they were first asked for.
   const std::vector<std::wstring>& askedFor() const { return askedFor_; }
+  /// Links that were asked for and lead out of the repository, each with where it leads.
+  const std::map<std::string, std::string>& linksOut() const { return linksOut_; }
   /// Folders that could not be listed, with the reason.
   std::vector<std::pair<std::string, std::string>> unreadableFolders() const;
   int fileCount() const;
@@ -85,7 +92,7 @@ class FolderIndex : public ZORVEL::DiskView {
   };
 
   void list(Folder& folder) const;
-  static void add(const std::filesystem::directory_entry& entry, Folder& folder);
+  void add(const std::filesystem::directory_entry& entry, Folder& folder) const;
   void ensureListed(Folder& folder) const;
   Found findAny(const std::wstring& path);
   Found findIn(Folder& folder, const std::wstring& name);
@@ -93,6 +100,7 @@ class FolderIndex : public ZORVEL::DiskView {
   Named* onDisk(Folder& folder, const std::wstring& name);
   static void addFolded(std::unordered_map<std::wstring, Named*>& folded, Named& entry);
   void refer(File& file, const std::wstring& path);
+  void tellLinkOut(const Folder& folder, const std::wstring& name);
   Place folderAt(const std::wstring& below);
   Place walk(std::wstring_view below);
   ZORVEL::DiskEntry lookOutside(const std::wstring& path);
@@ -105,6 +113,7 @@ class FolderIndex : public ZORVEL::DiskView {
   std::unordered_map<std::wstring, Place> asWritten_;
   std::unordered_map<std::wstring, ZORVEL::DiskEntry> outside_;
   std::set<CaseDifference> caseDifferences_;
+  std::map<std::string, std::string> linksOut_;
   std::vector<std::wstring> askedFor_;
 };
 

@@ -1,13 +1,14 @@
 #include "check/JudgementFile.h"
 
 #include <algorithm>
-#include <fstream>
 #include <functional>
 #include <nlohmann/json.hpp>
 #include <string_view>
 
 #include "apps/support/NearestIds.h"
+#include "check/FolderIndex.h"
 #include "check/PrintableText.h"
+#include "host/files/RegularFile.h"
 
 namespace check {
 
@@ -92,14 +93,11 @@ std::string takeFile(const std::string& text, Judgement& judgement) {
   }
 }
 
-std::string read(const std::filesystem::path& file, std::string& text) {
-  std::error_code error;
-  // A pipe of that name would keep its reader waiting.
-  if (!std::filesystem::is_regular_file(file, error)) return "is no file";
-  if (std::filesystem::file_size(file, error) > MOST_JUDGEMENT_BYTES) return "is larger than a megabyte";
-  std::ifstream stream(file, std::ios::binary);
-  text.assign(std::istreambuf_iterator<char>(stream), {});
-  return stream ? "" : "cannot be read";
+std::string read(const std::filesystem::path& path, std::string& text) {
+  host::RegularFile file(path);
+  if (!file.isOpen()) return "is no file that can be opened";
+  if (file.size() > MOST_JUDGEMENT_BYTES) return "is larger than a megabyte";
+  return file.readUpTo(MOST_JUDGEMENT_BYTES, text) ? "" : "cannot be read";
 }
 
 }  // namespace
@@ -110,7 +108,7 @@ std::string readJudgement(const std::filesystem::path& repository, Judgement& ju
   const std::filesystem::file_type type = std::filesystem::symlink_status(file, none).type();
   if (type == std::filesystem::file_type::not_found) return {};
   std::string text;
-  std::string error = read(file, text);
+  std::string error = leadsOut(file, repository) ? "leads out of the repository" : read(file, text);
   if (error.empty()) error = takeFile(text, judgement);
   return error.empty() ? error : printable(file.string()) + ": " + error;
 }

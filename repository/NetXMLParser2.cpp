@@ -113,7 +113,8 @@ std::shared_ptr<const XmlDocument> LoadDescription(const wchar_t* path) {
     return nullptr;
   }
   XmlError error;
-  XmlOptions options;
+  // Who listens has the document and asks more of it than the store.
+  XmlOptions options = ObservedParsing::GetObserver() ? XmlOptions::Bounded() : XmlOptions();
   options.places = ObservedParsing::GetObserver() != nullptr;
   const std::shared_ptr<const XmlDocument> document = XmlDocument::Load(file.c_str(), error, options);
   if (!document) ParseNotes::TellUnreadable(file, error);

@@ -22,8 +22,8 @@ const std::size_t BLOCK_SIZE = std::size_t{64} << 10;
 // that is an entity or a default attribute that was repeated to do harm.
 const std::size_t LARGEST_GROWTH = 32;
 const std::size_t FREE_GROWTH = std::size_t{1} << 20;
-// Records look their fields up one by one, which only pays while they are few.
-const int MOST_ATTRIBUTES = 10000;
+// The library looks for each among all, and takes longer for each.
+const int MOST_DECLARATIONS = 1000;
 
 using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 using ParserContext = std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxtPtr)>;
@@ -155,8 +155,13 @@ class XmlTreeBuilder {
     };
     handler.entityDecl = [](void* data, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
                             xmlChar* content) {
-      xmlSAX2EntityDecl(Self(data).m_context, name, type, publicId, systemId, content);
+      XmlTreeBuilder& builder = Self(data);
+      if (++builder.m_declarationCount > MOST_DECLARATIONS) builder.RefuseSize(L"too many entities");
+      if (!builder.m_refused) xmlSAX2EntityDecl(builder.m_context, name, type, publicId, systemId, content);
     };
+    // Text means nothing here; that it comes says that the markup before it has ended.
+    handler.characters = [](void* data, const xmlChar*, int) { Self(data).m_markupBegin = Self(data).m_bytesRead; };
+    handler.ignorableWhitespace = handler.characters;
     handler.getEntity = [](void* data, const xmlChar* name) {
       return InternalOnly(xmlSAX2GetEntity(Self(data).m_context, name));
     };
@@ -181,6 +186,10 @@ class XmlTreeBuilder {
     builder.m_bytesRead += count;
     // The parser cannot be stopped while it waits for bytes; it stops by itself when there are no more.
     if (builder.m_bytesRead > builder.m_options.largestFile) builder.NoteFault(XmlFault::BeyondLimits, L"too large");
+    // Among its attributes the library looks for each, too, and that before it hands them over.
+    if (builder.m_bytesRead - builder.m_markupBegin > builder.m_options.longestMarkup) {
+      builder.NoteFault(XmlFault::BeyondLimits, L"a tag or comment is too long");
+    }
     if (std::ferror(builder.m_file)) builder.NoteFault(XmlFault::NotReadable, L"not readable");
     return builder.m_refused ? -1 : static_cast<int>(count);
   }
@@ -189,16 +198,18 @@ class XmlTreeBuilder {
                            int namespaceCount, const xmlChar** namespaces, int attributeCount, int /*defaulted*/,
                            const xmlChar** attributes) {
     XmlTreeBuilder& builder = Self(data);
+    builder.m_markupBegin = builder.m_bytesRead;
     if (builder.m_refused) return;
     try {
       builder.AddElement(builder.HoldName(prefix, name), namespaceCount, namespaces, attributeCount, attributes);
     } catch (const std::bad_alloc&) {
-      builder.Refuse(XmlFault::BeyondLimits, L"out of memory");
+      builder.RefuseSize(L"out of memory");
     }
   }
 
   static void EndElement(void* data, const xmlChar* /*name*/, const xmlChar* /*prefix*/, const xmlChar* /*uri*/) {
     XmlTreeBuilder& builder = Self(data);
+    builder.m_markupBegin = builder.m_bytesRead;
     if (!builder.m_refused) builder.m_open.pop_back();
   }
 
@@ -217,6 +228,8 @@ class XmlTreeBuilder {
     builder.m_error.line = error->line;
     builder.m_error.column = error->int2;
   }
+
+  void RefuseSize(const wchar_t* reason) { Refuse(XmlFault::BeyondLimits, reason); }
 
   bool Refuse(XmlFault fault, const wchar_t* reason) {
     NoteFault(fault, reason);
@@ -250,10 +263,8 @@ class XmlTreeBuilder {
                   const xmlChar** attributes) {
     XmlArena& arena = m_document.m_arena;
     const int count = namespaceCount + attributeCount;
-    if (count > MOST_ATTRIBUTES) {
-      Refuse(XmlFault::BeyondLimits, L"too many attributes");
-      return;
-    }
+    if (count > m_options.mostAttributes) return RefuseSize(L"too many attributes");
+    if (++m_elementCount > m_options.mostElements) return RefuseSize(L"too many elements");
     auto* const list = static_cast<FieldText*>(
         arena.Allocate(static_cast<std::size_t>(count) * sizeof(FieldText), alignof(FieldText)));
     FieldText* next = list;
@@ -261,13 +272,15 @@ class XmlTreeBuilder {
     // Five pointers each: name, prefix, namespace, begin and end of the value.
     for (int i = 0; i < attributeCount; ++i, attributes += 5) {
       const FieldName attribute = HoldName(attributes[1], attributes[0]);
+      if (static_cast<std::size_t>(attributes[4] - attributes[3]) > m_options.longestText) {
+        return RefuseSize(L"an attribute is too long");
+      }
       new (next++) FieldText{attribute, CopyWide(arena, attributes[3], attributes[4])};
     }
     void* const memory = arena.Allocate(sizeof(XmlElement), alignof(XmlElement));
     const Place place = m_options.places ? StartOfTag() : Place{0, 0};
     Append(new (memory) XmlElement{name.GetText(), list, count, place.line, place.column, 0, nullptr, nullptr});
-    if (arena.GetSize() > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead)
-      Refuse(XmlFault::BeyondLimits, L"entities grow beyond all bounds");
+    if (arena.GetSize() > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead) RefuseSize(L"entities grow beyond all bounds");
   }
 
   /// Of the tag whose attributes were just read: neither its name nor they can hold the character that it begins with.
@@ -320,11 +333,24 @@ class XmlTreeBuilder {
   XmlError& m_error;
   xmlParserCtxtPtr m_context = nullptr;
   std::size_t m_bytesRead = 0;
+  // Of what is being read, as far as is known.
+  std::size_t m_markupBegin = 0;
+  std::size_t m_elementCount = 0;
+  int m_declarationCount = 0;
   bool m_refused = false;
   std::vector<OpenElement> m_open;
   std::unordered_map<const xmlChar*, FieldName> m_names;
   const HeldName* m_recent[RECENT_COUNT] = {};
 };
+
+XmlOptions XmlOptions::Bounded() {
+  XmlOptions options;
+  options.mostElements = 500000;
+  options.mostAttributes = 1000;
+  options.longestText = 4096;
+  options.longestMarkup = std::size_t{1} << 20;
+  return options;
+}
 
 std::unique_ptr<XmlDocument> XmlDocument::Load(const wchar_t* path, XmlError& error, const XmlOptions& options) {
   error = XmlError();

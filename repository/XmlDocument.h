@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -39,6 +40,14 @@ struct XmlError {
 struct XmlOptions {
   std::size_t largestFile = std::size_t{256} << 20;  // bytes
   bool places = true;                                // loading takes a fifth longer with them
+  std::size_t mostElements = SIZE_MAX;
+  int mostAttributes = 10000;            // records look their fields up one by one
+  std::size_t longestText = SIZE_MAX;    // bytes of an attribute's value
+  std::size_t longestMarkup = SIZE_MAX;  // bytes of a start tag or a comment, roughly
+
+  /// For who wants an answer within seconds, whatever the file holds, and goes through all of it more than once: far
+  /// more than a repository has, and no more than half a gigabyte to keep it.
+  static XmlOptions Bounded();
 };
 
 /// Memory for things that live as long as the document and need no destructor.

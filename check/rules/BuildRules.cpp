@@ -64,8 +64,8 @@ void BuildRules::lookAtMandatory(const DataContainer& pose, const DataContainer&
   if (plan.canBeBuilt) return lookAtMandatoryAsset(pose, entry, plan);
   switch (plan.omission.reason) {
     case OmissionReason::UnknownId: {
-      const auto known = apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS));
-      return survey_.findings.add(RuleId::MandatoryUnknown, &entry, {id, hintAt(id, known)});
+      const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
+      return survey_.findings.add(RuleId::MandatoryUnknown, &entry, {id, survey_.hintAt(id, known)});
     }
     case OmissionReason::NoSharedRecord:
       return survey_.findings.add(RuleId::MandatoryGlobalUnknown, &entry, {id});

@@ -62,11 +62,11 @@ void MatrixRules::lookAt(const CharacterData& character, const XmlElement& eleme
     if (!isNew) {
       findings.add(RuleId::MatrixRowDuplicate, &row, {first->second});
     } else if (poses.find(poseId) == nullptr) {
-      const auto known = apps::idsOf(apps::elementsOf(character, ZORVEL::POSES));
-      findings.add(RuleId::MatrixRowUnknownPose, &row, {poseId, hintAt(poseId, known)});
+      const auto known = [&] { return apps::idsOf(apps::elementsOf(character, ZORVEL::POSES)); };
+      findings.add(RuleId::MatrixRowUnknownPose, &row, {poseId, survey_.hintAt(poseId, known)});
     } else if (asset == nullptr) {
-      const auto known = apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS));
-      findings.add(RuleId::MatrixRowUnknownAsset, &row, {assetId, hintAt(assetId, known)});
+      const auto known = [&] { return apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS)); };
+      findings.add(RuleId::MatrixRowUnknownAsset, &row, {assetId, survey_.hintAt(assetId, known)});
     } else if (CharacterData::IsSpecific(asset)) {
       findings.add(RuleId::MatrixRowUnused, &row, {assetId});
     }

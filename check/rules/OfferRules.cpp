@@ -290,7 +290,7 @@ std::set<std::wstring> OfferRules::askedForByPoses() const {
 }
 
 void OfferRules::tellAssetsWithoutPage() {
-  const auto known = apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES));
+  const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES)); };
   const std::set<std::wstring> asked = askedForByPoses();
   for (const OfferedElement& element : offers_.GetAssetsWithoutPage()) {
     const std::wstring& id = element.refusal.concerned;
@@ -298,7 +298,7 @@ void OfferRules::tellAssetsWithoutPage() {
     if (element.refusal.why == WhyNot::CategoryUnnamed) {
       survey_.findings.add(RuleId::AssetCategoryUnnamed, element.record, {});
     } else {
-      survey_.findings.add(RuleId::AssetCategoryUnknown, element.record, {id, hintAt(id, known)});
+      survey_.findings.add(RuleId::AssetCategoryUnknown, element.record, {id, survey_.hintAt(id, known)});
     }
   }
 }

@@ -155,7 +155,7 @@ void ReadingRules::lookAtValue(const XmlElement& element, const ElementEntry& en
     known.push_back(host::toUtf8(one.text));
   }
   if (entry.kind == EntryKind::Asset) {
-    survey_.findings.add(RuleId::TypeSpelling, &element, {value, hintAt(value, known)});
+    survey_.findings.add(RuleId::TypeSpelling, &element, {value, survey_.hintAt(value, [&known] { return known; })});
   } else {
     survey_.findings.add(RuleId::ValueNotUnderstood, &element,
                          {attribute.name, value, attribute.without, attribute.values.front().text});

@@ -65,7 +65,8 @@ void ReferenceRules::lookAtStandIns(const CharacterData& character) {
     if (id == nullptr) {
       survey_.findings.add(RuleId::GlobalUnnamed, asset, {});
     } else if (shared == nullptr) {
-      survey_.findings.add(RuleId::GlobalUnknown, asset, {id, hintAt(id, apps::idsOf(apps::globalAssets()))});
+      survey_.findings.add(RuleId::GlobalUnknown, asset,
+                           {id, survey_.hintAt(id, [] { return apps::idsOf(apps::globalAssets()); })});
     } else {
       const auto [other, isNew] = first.emplace(shared, asset);
       if (!isNew) survey_.findings.add(RuleId::GlobalReferencedTwice, asset, {survey_.lineOf(other->second)});
@@ -92,7 +93,8 @@ void ReferenceRules::lookAtExcludes(const CharacterData& character, const DataCo
     if (id == nullptr) {
       survey_.findings.add(RuleId::ExcludeWithoutId, exclude, {});
     } else if (character.GetAsset(id) == nullptr) {
-      survey_.findings.add(RuleId::ExcludeUnknown, exclude, {id, hintAt(id, assetIds(character))});
+      survey_.findings.add(RuleId::ExcludeUnknown, exclude,
+                           {id, survey_.hintAt(id, [&] { return assetIds(character); })});
     }
   }
 }
@@ -109,7 +111,8 @@ void ReferenceRules::lookAtSelect(const CharacterData& character, const DataCont
   if (id == nullptr) return survey_.findings.add(RuleId::SelectWithoutAsset, &select, {});
   const DataContainer* asset = character.GetAsset(id);
   if (asset == nullptr) {
-    return survey_.findings.add(RuleId::SelectUnknownAsset, &select, {id, hintAt(id, assetIds(character))});
+    return survey_.findings.add(RuleId::SelectUnknownAsset, &select,
+                                {id, survey_.hintAt(id, [&] { return assetIds(character); })});
   }
   if (character.IsAssetExcludedByCloth(&clothing, asset)) {
     return survey_.findings.add(RuleId::SelectExcluded, &select, {id});
@@ -128,7 +131,8 @@ void ReferenceRules::lookAtMaterial(const DataContainer& select, const DataConta
   for (const DataContainer* material : materials) {
     if (Fields::Equals(material, FIELD_ID, id)) return;
   }
-  survey_.findings.add(RuleId::SelectUnknownMaterial, &select, {id, hintAt(id, apps::idsOf(materials))});
+  survey_.findings.add(RuleId::SelectUnknownMaterial, &select,
+                       {id, survey_.hintAt(id, [&] { return apps::idsOf(materials); })});
 }
 
 /// What becomes of several selects when the categories take their choices one after the other.

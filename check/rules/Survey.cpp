@@ -12,8 +12,14 @@ std::wstring idOf(const ZORVEL::DataContainer* record) {
   return ZORVEL::Fields::TextOrEmpty(record, ZORVEL::RepositoryFormat::FIELD_ID);
 }
 
-std::string hintAt(const std::wstring& wanted, const std::vector<std::string>& known) {
-  const std::string nearest = apps::nearestId(host::toUtf8(wanted), known);
+std::string Survey::hintAt(const std::wstring& wanted, const std::function<std::vector<std::string>()>& known) {
+  if (hintWork <= 0) return "";
+  const std::vector<std::string> ids = known();
+  const std::string name = host::toUtf8(wanted);
+  std::size_t letters = 0;
+  for (const std::string& id : ids) letters += id.size() + 1;
+  hintWork -= static_cast<double>(letters) * static_cast<double>(name.size() + 1);
+  const std::string nearest = hintWork > 0 ? apps::nearestId(name, ids) : "";
   return nearest.empty() ? "" : "; did you mean \"" + nearest + "\"?";
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,12 @@ struct Survey {
     return element != nullptr ? element->line : 0;
   }
   std::string shown(const std::wstring& path) const { return files.shown(path); }
+  /// "; did you mean "anna"?", or nothing when none of the known is near. Who gets thousands of names wrong gets hints
+  /// for the first of them only: each is compared with all that are known.
+  std::string hintAt(const std::wstring& wanted, const std::function<std::vector<std::string>()>& known);
+
+  /// How many pairs of letters may still be compared for hints.
+  double hintWork = 2e8;
 };
 
 /// What a person calls an element in the middle of a sentence: "clothing", "shared asset".
@@ -60,8 +67,5 @@ const char* wordFor(EntryKind kind);
 
 /// Empty for a record without one.
 std::wstring idOf(const ZORVEL::DataContainer* record);
-
-/// "; did you mean "anna"?", or nothing when none of the known is near.
-std::string hintAt(const std::wstring& wanted, const std::vector<std::string>& known);
 
 }  // namespace check

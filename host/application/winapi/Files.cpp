@@ -7,6 +7,7 @@
 #include <string>
 
 #include "host/files/Paths.h"
+#include "host/files/RegularFile.h"
 
 namespace {
 
@@ -18,11 +19,6 @@ std::string openMode(const wchar_t* mode) {
     if (std::wstring_view(L"rwab+x").find(*mode) != std::wstring_view::npos) narrow += static_cast<char>(*mode);
   }
   return narrow;
-}
-
-bool isFolder(std::FILE* file) {
-  struct stat status {};
-  return ::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 /// As written first, which nearly always answers at once.
@@ -66,11 +62,11 @@ BOOL WINAPI GetFileAttributesExW(LPCWSTR path, GET_FILEEX_INFO_LEVELS level, LPV
 std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode) {
   const std::string narrow = openMode(mode);
   if (!path || narrow.empty()) return nullptr;
-  std::FILE* file = std::fopen(host::resolvePath(path).c_str(), (narrow + 'e').c_str());
-  // Linux opens a folder for reading and fails later; Windows does not open it.
-  if (file && isFolder(file)) {
-    std::fclose(file);
-    return nullptr;
-  }
-  return file;
+  const std::filesystem::path file = host::resolvePath(path);
+  if (narrow.front() != 'r') return std::fopen(file.c_str(), (narrow + 'e').c_str());
+  // Linux also opens folders for reading, and waits for the other end of a pipe; Windows has neither.
+  host::RegularFile regular(file);
+  if (!regular.isOpen()) return nullptr;
+  if (narrow.find('+') != std::string::npos) return std::fopen(file.c_str(), (narrow + 'e').c_str());
+  return ::fdopen(regular.release(), narrow.c_str());
 }
