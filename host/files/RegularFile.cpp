@@ -39,7 +39,7 @@ RegularFile::~RegularFile() {
 bool RegularFile::readUpTo(std::size_t count, std::string& bytes) {
   while (isOpen() && !isAtEnd_ && bytes.size() < count) {
     const std::size_t before = bytes.size();
-    bytes.resize(before + std::min(BLOCK, count - before));
+    bytes.resize(before + std::min({BLOCK, count - before, expected()}));
     const ssize_t read = ::read(descriptor_, bytes.data() + before, bytes.size() - before);
     bytes.resize(before + static_cast<std::size_t>(std::max<ssize_t>(read, 0)));
     if (read < 0 && errno != EINTR) return false;
@@ -48,6 +48,10 @@ bool RegularFile::readUpTo(std::size_t count, std::string& bytes) {
     isAtEnd_ = read == 0 || (position_ == size_ && size_ != 0);
   }
   return isOpen();
+}
+
+std::size_t RegularFile::expected() const {
+  return position_ < size_ ? static_cast<std::size_t>(size_ - position_) : BLOCK;
 }
 
 int RegularFile::release() { return std::exchange(descriptor_, -1); }

@@ -30,6 +30,9 @@ class RegularFile {
   int release();
 
  private:
+  /// How many bytes are still to come, as far as that is known.
+  std::size_t expected() const;
+
   int descriptor_ = -1;
   std::uintmax_t size_ = 0;
   std::uintmax_t position_ = 0;
