@@ -19,8 +19,6 @@
 
 namespace check {
 
-namespace fs = std::filesystem;
-
 namespace {
 
 /// More than this nobody sensible puts into one file; to read it would take long and say little.
@@ -66,7 +64,7 @@ class Taken {
 
 /// A file that is looked at, and where there is to be room for it.
 struct Place {
-  const fs::path& path;
+  const std::string& path;
   Room& room;
 };
 

@@ -4,7 +4,6 @@
 
 #include <QSize>
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 #include <string>
 #include <unordered_map>
@@ -65,7 +64,7 @@ class Contents {
   template <class Content>
   struct Wanted {
     /// Empty for what nobody should open.
-    std::filesystem::path place;
+    std::string place;
     Content content;
   };
   template <class Content>
@@ -88,7 +87,7 @@ const Content* Contents::want(WantedFiles<Content>& wanted, const std::wstring& 
   if (file == nullptr) return nullptr;
   if (!file->isReferredTo) files_.Look(path);
   const auto [entry, isNew] = wanted.try_emplace(file);
-  if (isNew && file->isRegular) entry->second.place = files_.nativePath(path);
+  if (isNew && file->isRegular) entry->second.place = files_.nativePath(path).string();
   return &entry->second.content;
 }
 

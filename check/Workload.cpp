@@ -8,7 +8,7 @@ namespace check {
 namespace {
 
 /// Of one character, each of which is kept until the character is done.
-constexpr double MOST_PAIRS = 250'000;
+constexpr double MOST_PAIRS = 400'000;
 /// Of all characters; a few million take a second.
 constexpr double MOST_STEPS = 20'000'000;
 
