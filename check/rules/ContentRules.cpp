@@ -58,6 +58,7 @@ void ContentRules::run(const std::function<void(std::size_t, std::size_t)>& prog
   }
   lookAtLibraries();
   for (const UsedMaterial& material : survey_.materials) lookAtMaterial(material);
+  referToTextures();
   countClosed();
 }
 
@@ -110,6 +111,16 @@ void ContentRules::lookAtLibraries() {
   }
 }
 
+/// Of all materials in the libraries, whether something is built with them or not.
+void ContentRules::referToTextures() {
+  const std::wstring maps = ZORVEL::RepositoryPaths::Maps(survey_.root);
+  libraries_.forEachMaterial([&](Mtl& material) {
+    for (const ZORVEL::RedirectedTexture& texture : ZORVEL::TextureRedirection::LookAhead(material, maps).textures) {
+      survey_.files.Look(texture.to);
+    }
+  });
+}
+
 void ContentRules::countClosed() {
   if (contents_.closedMeshes() > 0) {
     survey_.findings.addToFile(RuleId::MeshNotChecked, "", {contents_.closedMeshes()});
@@ -124,9 +135,11 @@ void ContentRules::lookAtMaterial(const UsedMaterial& used) {
       used.name.c_str(), used.libraries,
       [this](const std::wstring& file, const wchar_t* name) { return libraries_.look(file, name); });
   if (result.state == MaterialState::FromLibrary) return lookIntoMaterial(used, result.searches.back().file);
-  // It may be in the one that cannot be read here.
-  const auto isClosed = [this](const LibrarySearch& search) { return libraries_.isClosed(search.file); };
-  if (std::any_of(result.searches.begin(), result.searches.end(), isClosed)) return;
+  // It may be in the one that cannot be read.
+  const auto isUnknown = [this](const LibrarySearch& search) {
+    return libraries_.isClosed(search.file) || !libraries_.problemOf(search.file).empty();
+  };
+  if (std::any_of(result.searches.begin(), result.searches.end(), isUnknown)) return;
   const RuleId rule = result.state == MaterialState::NameOfMap ? RuleId::MaterialIsMap : RuleId::MaterialNotFound;
   survey_.findings.add(rule, used.record, {used.name, describe(result.searches)});
 }
@@ -153,14 +166,9 @@ void ContentRules::compareWithOthers(const UsedMaterial& used, const std::wstrin
   const auto [entry, isNew] = firsts_.try_emplace(used.name);
   First& first = entry->second;
   if (isNew) first.library = library;
-  if (first.library == library) return;
-  Mtl* const material = libraries_.find(library, used.name);
-  const auto [isSame, isNewHere] = sameAsFirst_.emplace(material, true);
-  if (isNewHere) {
-    if (first.content.empty()) first.content = contentOf(*libraries_.find(first.library, used.name));
-    isSame->second = contentOf(*material) == first.content;
-  }
-  if (isSame->second) return;
+  if (first.library == library || !comparedMaterials_.emplace(used.name, library).second) return;
+  if (first.content.empty()) first.content = contentOf(*libraries_.find(first.library, used.name));
+  if (contentOf(*libraries_.find(library, used.name)) == first.content) return;
   survey_.findings.add(RuleId::MaterialContentsDiffer, used.record,
                        {used.name, survey_.shown(library), survey_.shown(first.library)});
 }

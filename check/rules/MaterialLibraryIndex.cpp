@@ -27,6 +27,15 @@ Mtl* MaterialLibraryIndex::find(const std::wstring& file, const std::wstring& na
   return static_cast<Mtl*>(findByName(open(file).materials, name.c_str()));
 }
 
+void MaterialLibraryIndex::forEachMaterial(const std::function<void(Mtl&)>& visit) const {
+  for (const auto& [file, library] : libraries_) {
+    for (int i = 0; i < library->materials.Count(); ++i) {
+      MtlBase* material = library->materials[i];
+      if (material->SuperClassID() == MATERIAL_CLASS_ID) visit(*static_cast<Mtl*>(material));
+    }
+  }
+}
+
 bool MaterialLibraryIndex::isClosed(const std::wstring& file) { return open(file).isClosed; }
 
 const std::string& MaterialLibraryIndex::problemOf(const std::wstring& file) { return open(file).problem; }
@@ -40,7 +49,10 @@ MaterialLibraryIndex::Library& MaterialLibraryIndex::open(const std::wstring& fi
 std::unique_ptr<MaterialLibraryIndex::Library> MaterialLibraryIndex::load(const std::wstring& file) {
   auto library = std::make_unique<Library>();
   const LibraryContent* content = contents_.library(file);
-  if (content == nullptr) return library;
+  if (content == nullptr) {
+    library->isClosed = files_.Look(file) == ZORVEL::DiskEntry::File && !files_.isInside(file);
+    return library;
+  }
   library->isClosed = content->form == Form::Closed;
   library->problem = content->problem;
   if (content->form != Form::Open) return library;

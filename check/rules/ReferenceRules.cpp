@@ -179,10 +179,15 @@ void ReferenceRules::lookAtShared() {
       if (Data2::CheckAssetGlobal(asset)) used.insert(Data2::GetGlobalAssetForAsset(asset));
     }
   }
+  // What refers to one may be among what was left out or is misspelt.
+  const bool isKnown = !survey_.findings.hasAny(
+      {RuleId::CharacterWithoutAttributes, RuleId::CharacterFolderUnnamed, RuleId::CharacterPreviewsMissing,
+       RuleId::CharacterSkinFolderMissing, RuleId::ElementLetterCase, RuleId::MisplacedElement, RuleId::UnknownElement,
+       RuleId::AttributeLetterCase, RuleId::TypeSpelling, RuleId::GlobalUnnamed, RuleId::GlobalUnknown});
   for (const DataContainer* shared : apps::globalAssets()) {
     if (!Data2::CheckAssetGlobal(shared)) survey_.findings.add(RuleId::GlobalWithoutType, shared, {});
     const bool isFirst = Data2::FindGlobalAssetById(Fields::OptionalText(shared, FIELD_ID)) == shared;
-    if (isFirst && used.count(shared) == 0) survey_.findings.add(RuleId::GlobalUnreferenced, shared, {});
+    if (isKnown && isFirst && used.count(shared) == 0) survey_.findings.add(RuleId::GlobalUnreferenced, shared, {});
   }
 }
 

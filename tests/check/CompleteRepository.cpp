@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <QImage>
+#include <regex>
 #include <stdexcept>
 
 #include "host/files/PictureFile.h"
@@ -122,9 +123,9 @@ void writeMeshes(const TemporaryFolder& folder) {
                            "anna/coat/coat_sitting", "anna/dress/dress_standing", "anna/dress/dress_sitting"}) {
     folder.write(std::string(body) + ".vrmesh", boxObj(40, 20, 170));
   }
-  for (const char* thing : {"anna/bag/asset", "anna/hat/asset", "anna/chair/asset", "anna/scarf/standing",
-                            "anna/scarf/sitting", "anna/cap/standing", "anna/cap/sitting",
-                            "global_assets/bench/asset"}) {
+  for (const char* thing :
+       {"anna/bag/asset", "anna/hat/asset", "anna/chair/asset", "anna/scarf/standing", "anna/scarf/sitting",
+        "anna/cap/standing", "anna/cap/sitting", "global_assets/bench/asset"}) {
     folder.write(std::string(thing) + ".vrmesh", boxObj(30, 20, 40));
   }
 }
@@ -155,9 +156,7 @@ const TemporaryFolder& original() {
 
 }  // namespace
 
-CompleteRepository::CompleteRepository() {
-  fs::copy(original().path(), folder_.path(), fs::copy_options::recursive);
-}
+CompleteRepository::CompleteRepository() { fs::copy(original().path(), folder_.path(), fs::copy_options::recursive); }
 
 void CompleteRepository::edit(const std::string& from, const std::string& to) const {
   std::string text = folder_.read("zorvel.xml");
@@ -175,6 +174,17 @@ void CompleteRepository::remove(const std::string& file) const {
 
 void CompleteRepository::rename(const std::string& from, const std::string& to) const {
   fs::rename(folder_.path() / from, folder_.path() / to);
+}
+
+void CompleteRepository::renameAll(const std::string& from, const std::string& to) const {
+  const std::regex pattern(from);
+  folder_.write("zorvel.xml", std::regex_replace(folder_.read("zorvel.xml"), pattern, to));
+  std::vector<fs::path> files;
+  for (const auto& entry : fs::recursive_directory_iterator(folder_.path())) files.push_back(entry.path());
+  // Those inside a folder before it.
+  for (auto file = files.rbegin(); file != files.rend(); ++file) {
+    fs::rename(*file, file->parent_path() / std::regex_replace(file->filename().string(), pattern, to));
+  }
 }
 
 void CompleteRepository::replaceByPipe(const std::string& file) const {

@@ -8,8 +8,8 @@
 
 namespace support {
 
-/// A repository in which nothing is missing and nothing is left over: Anna with two skins, clothes and poses, and assets
-/// of every type. See the source for what is where. Made once and copied.
+/// A repository in which nothing is missing and nothing is left over: Anna with two skins, clothes and poses, and
+/// assets of every type. See the source for what is where. Made once and copied.
 class CompleteRepository {
  public:
   CompleteRepository();
@@ -21,6 +21,8 @@ class CompleteRepository {
   void writePicture(const std::string& file, int width, int height) const;
   void remove(const std::string& file) const;
   void rename(const std::string& from, const std::string& to) const;
+  /// In the description and in the names of files.
+  void renameAll(const std::string& from, const std::string& to) const;
   /// What nobody should open.
   void replaceByPipe(const std::string& file) const;
 
