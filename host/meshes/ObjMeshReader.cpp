@@ -83,9 +83,10 @@ class ObjReader {
     }
   }
 
-  static Point3 nextPoint(std::string_view& line) {
+  Point3 nextPoint(std::string_view& line) const {
     const float x = nextNumber(line);
     const float y = nextNumber(line);
+    if (line.empty()) fail("a position is not a usable number");
     return {x, y, nextNumber(line)};
   }
 
@@ -142,6 +143,7 @@ class ObjReader {
       if (other.texCoord == corner.texCoord && other.normal == corner.normal) return i;
     }
     const auto index = static_cast<std::uint32_t>(vertices_.size());
+    if (index == MOST_VERTICES) fail("the mesh is too large");
     vertices_.push_back({corner, first});
     first = index;
     appendVertex(corner);
