@@ -32,6 +32,14 @@ class Complaint : public ZORVEL::ParseObserver {
   std::string text_;
 };
 
+/// What is edited is held several times over, to be compared.
+ZORVEL::XmlOptions bounds() {
+  ZORVEL::XmlOptions options = ZORVEL::XmlOptions::Bounded();
+  options.mostElements = 150'000;
+  options.mostMemory = std::size_t{64} << 20U;
+  return options;
+}
+
 /// Of a file that was parsed, which bounds it.
 std::string bytesOf(const fs::path& path) {
   host::RegularFile file(path);
@@ -59,7 +67,7 @@ std::optional<Element> parsed(const std::string& text) {
   if (folder.path().empty() || !host::writeWholeFile(file, text).empty()) return std::nullopt;
   ZORVEL::XmlError error;
   const auto document =
-      ZORVEL::XmlDocument::Load(host::toWide(file.string()).c_str(), error, ZORVEL::XmlOptions::Bounded());
+      ZORVEL::XmlDocument::Load(host::toWide(file.string()).c_str(), error, bounds());
   return document ? std::optional(elementOf(document->GetRoot())) : std::nullopt;
 }
 
@@ -78,7 +86,7 @@ std::string DescriptionFile::read(const fs::path& repository) {
     return complaint.text();
   }
   ZORVEL::XmlError error;
-  const auto document = ZORVEL::XmlDocument::Load(path.c_str(), error, ZORVEL::XmlOptions::Bounded());
+  const auto document = ZORVEL::XmlDocument::Load(path.c_str(), error, bounds());
   if (!document) {
     ZORVEL::ParseNotes::TellUnreadable(path, error);
     return complaint.text();
