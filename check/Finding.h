@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "check/Rule.h"
+#include "check/WearTable.h"
 
 namespace check {
 
@@ -31,6 +32,8 @@ struct CheckResult {
   /// As the user named it.
   std::string root;
   std::vector<Finding> findings;
+  /// Of each character, when they were asked for.
+  std::vector<WearTable> wear;
   /// False when there is no description that could be read: the one finding says why.
   bool isReadable = true;
   int characterCount = 0;

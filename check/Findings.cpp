@@ -1,5 +1,7 @@
 #include "check/Findings.h"
 
+#include <algorithm>
+
 #include "check/PrintableText.h"
 #include "host/files/Paths.h"
 
@@ -86,6 +88,18 @@ void Findings::addToFile(RuleId rule, const std::string& file, std::vector<Value
 bool Findings::has(RuleId rule, const ZORVEL::DataContainer* record) const {
   const XmlElement* element = description_.elementOf(record);
   return element != nullptr && told_.count({rule, element}) > 0;
+}
+
+bool Findings::hasAny(std::initializer_list<RuleId> rules) const {
+  return std::any_of(findings_.begin(), findings_.end(), [rules](const Finding& finding) {
+    return std::find(rules.begin(), rules.end(), finding.rule) != rules.end();
+  });
+}
+
+bool Findings::hasOtherThanHints() const {
+  return std::any_of(findings_.begin(), findings_.end(), [](const Finding& finding) {
+    return finding.severity != Severity::Hint || finding.rule == RuleId::LibraryNotChecked;
+  });
 }
 
 void Findings::insert(Finding finding, const std::vector<Value>& values) {

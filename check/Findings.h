@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
@@ -42,6 +43,10 @@ class Findings {
   void addToFile(RuleId rule, const std::string& file, std::vector<Value> values);
 
   bool has(RuleId rule, const ZORVEL::DataContainer* record) const;
+  /// Of any element.
+  bool hasAny(std::initializer_list<RuleId> rules) const;
+  /// A library that could not be read counts as one.
+  bool hasOtherThanHints() const;
   const Description& description() const { return description_; }
   /// Sorted; leaves nothing behind.
   std::vector<Finding> takeAll();

@@ -232,8 +232,7 @@ const std::vector<Rule> RULES = {
     {RuleId::AssetInNoPose, "ZV409", "asset-in-no-pose", ERROR,
      "the asset matrix has no row for the asset in any pose: it is never offered",
      "Add a row for each pose in which the asset may be carried, or make its \"type\" \"specific\"."},
-    {RuleId::TypeSpelling, "ZV410", "type-spelling", WARNING,
-     "\"type\" is \"{value}\", which counts as \"common\"{hint}",
+    {RuleId::TypeSpelling, "ZV410", "type-spelling", ERROR, "\"type\" is \"{value}\", which counts as \"common\"{hint}",
      "Write \"common\", \"specific\" or \"global\", in small letters."},
     {RuleId::GlobalUnnamed, "ZV411", "global-unnamed", ERROR,
      "the asset is \"global\" and has no \"globalID\": it is never offered",
@@ -313,9 +312,6 @@ const std::vector<Rule> RULES = {
      "the pose asks for the asset \"{id}\", which the character does not have{hint}",
      "Correct \"id\", or describe the "
      "asset."},
-    {RuleId::MandatoryGlobalUnknown, "ZV506", "mandatory-global-unknown", WARNING,
-     "the pose asks for the asset \"{id}\", which stands for a shared asset that there is not",
-     "See the finding about that asset."},
     {RuleId::MandatoryNotPlaced, "ZV507", "mandatory-not-placed", ERROR,
      "the asset matrix has no row for the asset \"{id}\" in this pose, which asks for it: it stands at the origin, "
      "without material",

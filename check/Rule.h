@@ -120,7 +120,6 @@ enum class RuleId {
   AssetUnbuildable,
   MandatoryWithoutId,
   MandatoryUnknown,
-  MandatoryGlobalUnknown,
   MandatoryNotPlaced,
   MandatoryWithoutMaterial,
   MandatoryBuiltTwice,

@@ -18,6 +18,7 @@
 #include "check/report/JunitReport.h"
 #include "check/report/SarifReport.h"
 #include "check/report/TextReport.h"
+#include "check/report/WearReport.h"
 #include "host/files/WholeFile.h"
 
 namespace cli {
@@ -40,6 +41,9 @@ std::string takeSeverity(const std::string& text, Judgement& judgement) {
 
 /// Answers an empty text, or what is wrong with the options.
 std::string take(const CheckCommandOptions& options, Judgement& judgement) {
+  if (options.showsMatrix && (options.format == "sarif" || options.format == "junit")) {
+    return "--matrix: there is no " + options.format + " of it; use text, json or csv";
+  }
   const auto each = [](const char* name, const std::vector<std::string>& texts, const auto& takeOne) {
     for (const std::string& text : texts) {
       const std::string error = takeOne(text);
@@ -71,15 +75,23 @@ std::string takeFiles(const CheckCommandOptions& options, const Judgement& line,
   return {};
 }
 
-JudgedRepository checkOne(const std::filesystem::path& repository, const Judgement& judgement) {
+JudgedRepository checkOne(const std::filesystem::path& repository, const Judgement& judgement, bool wantsWear) {
   Progress progress("Checking " + check::printable(repository.string()));
   check::CheckerOptions options;
   options.targetRoot = judgement.targetRoot();
+  options.wantsWear = wantsWear;
   options.progress = [&progress](double done) { progress.report(done); };
   return judgement.judge(check::checkRepository(repository, options));
 }
 
+std::string matrixOf(const std::vector<JudgedRepository>& repositories, const CheckCommandOptions& options) {
+  if (options.format == "json") return check::wearJson(repositories);
+  if (options.format == "csv") return check::wearCsv(repositories);
+  return check::wearText(repositories, options.showsAll);
+}
+
 std::string reportOf(const std::vector<JudgedRepository>& repositories, const CheckCommandOptions& options) {
+  if (options.showsMatrix) return matrixOf(repositories, options);
   if (options.format == "json") return check::jsonReport(repositories);
   if (options.format == "sarif") return check::sarifReport(repositories);
   if (options.format == "junit") return check::junitReport(repositories);
@@ -107,7 +119,7 @@ int runCheck(const CheckCommandOptions& options) {
   if (!error.empty()) return fail(error, EXIT_UNREADABLE);
   std::vector<JudgedRepository> repositories;
   for (std::size_t i = 0; i < judgements.size(); ++i) {
-    repositories.push_back(checkOne(options.repositories[i], judgements[i]));
+    repositories.push_back(checkOne(options.repositories[i], judgements[i], options.showsMatrix));
   }
   const std::string report = reportOf(repositories, options);
   error = options.output.empty() ? writeStandardOutput(report) : host::writeWholeFile(options.output, report);

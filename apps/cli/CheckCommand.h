@@ -13,6 +13,8 @@ struct CheckCommandOptions {
   std::vector<std::filesystem::path> repositories;
   /// "text", "json", "sarif", "junit" or "csv".
   std::string format = "text";
+  /// Which clothing builds in which pose, in place of the findings; as "text", "json" or "csv".
+  bool showsMatrix = false;
   /// Empty for standard output.
   std::filesystem::path output;
   /// No finding of the text is folded away.

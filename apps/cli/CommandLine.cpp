@@ -9,6 +9,7 @@
 #include "apps/cli/CheckCommand.h"
 #include "apps/cli/CreateCommand.h"
 #include "apps/cli/ExitStatus.h"
+#include "apps/cli/ExplainCommand.h"
 #include "apps/cli/ListCommand.h"
 #include "apps/cli/RulesCommand.h"
 #include "apps/cli/SampleCommand.h"
@@ -79,12 +80,33 @@ Command addCheck(CLI::App& app) {
       ->check(CLI::IsMember({"text", "json", "sarif", "junit", "csv"}))
       ->option_text("FORMAT");
   command->add_option("--output", options->output, "Write the report into this file")->option_text("FILE");
+  command->add_flag(
+      "--matrix", options->showsMatrix,
+      "Show which clothing builds in which pose, and why not, in place of the findings (text, json, csv)");
   command->add_flag("--all", options->showsAll, "Text: show all findings of a rule, however many there are");
   addJudgement(*command, *options);
   command->add_option("--color", options->color, "Text: always, never, or auto for on a terminal")
       ->check(CLI::IsMember({"always", "never", "auto"}))
       ->option_text("WHEN");
   return {command, [options] { return runCheck(*options); }};
+}
+
+Command addExplain(CLI::App& app) {
+  struct Options {
+    std::filesystem::path repository;
+    std::string id;
+    bool json = false;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* command = app.add_subcommand(
+      "explain", "Say step by step why an element is offered and built, or why not; the status is 1 when it never is");
+  command->add_option("DIR", options->repository, "Repository folder, the one with zorvel.xml")->required();
+  command
+      ->add_option("ID", options->id,
+                   "Id of a character, clothing, style, pose, skin, category, asset, or material of an asset")
+      ->required();
+  command->add_flag("--json", options->json, "Print JSON");
+  return {command, [options] { return runExplain(options->repository, options->id, options->json); }};
 }
 
 Command addRules(CLI::App& app) {
@@ -219,7 +241,7 @@ int run(int argc, const char* const* argv) try {
   app.footer(EXIT_TEXT);
   app.set_version_flag("--version", "zorvel " ZORVEL_VERSION);
   app.require_subcommand(1);
-  const std::vector<Command> commands = {addSample(app), addInit(app), addAdd(app),    addCheck(app),
+  const std::vector<Command> commands = {addSample(app), addInit(app), addAdd(app),    addCheck(app), addExplain(app),
                                          addRules(app),  addList(app), addCreate(app), addDoctor(app)};
   for (const Command& command : commands) command.app->footer(EXIT_TEXT);
   try {

@@ -1,48 +1,23 @@
 #include "check/report/CsvReport.h"
 
-#include <algorithm>
-
-#include "check/PrintableText.h"
+#include "check/report/CsvText.h"
 
 namespace check {
 
 namespace {
 
-/// The last four are the wide forms, which some spreadsheets take for the same.
-bool beginsFormula(const std::string& text) {
-  static const std::vector<std::string> BEGINNINGS = {"=",  "+",      "-",      "@",      "\t",
-                                                      "\r", "\uFF1D", "\uFF0B", "\uFF0D", "\uFF20"};
-  return std::any_of(BEGINNINGS.begin(), BEGINNINGS.end(),
-                     [&text](const std::string& beginning) { return text.rfind(beginning, 0) == 0; });
-}
-
-std::string cell(const std::string& text) {
-  const std::string content = (beginsFormula(text) ? "'" : "") + printable(text);
-  if (content.find_first_of(",\"") == std::string::npos) return content;
-  std::string quoted = "\"";
-  for (const char c : content) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-  return quoted + '"';
-}
-
-std::string row(const std::vector<std::string>& texts) {
-  std::string line;
-  for (const std::string& text : texts) line += cell(text) + ',';
-  line.back() = '\r';
-  return line + '\n';
-}
-
 std::string number(int value) { return value > 0 ? std::to_string(value) : ""; }
 
 std::string row(const CheckResult& result, const Finding& finding) {
   const Rule& rule = ruleOf(finding.rule);
-  return row({result.root, finding.file, number(finding.line), number(finding.column), nameOf(finding.severity),
-              rule.code, rule.name, finding.element, finding.subject, finding.message, rule.remedy});
+  return csvRow({result.root, finding.file, number(finding.line), number(finding.column), nameOf(finding.severity),
+                 rule.code, rule.name, finding.element, finding.subject, finding.message, rule.remedy});
 }
 
 }  // namespace
 
 std::string csvReport(const std::vector<JudgedRepository>& repositories) {
-  std::string table = row(
+  std::string table = csvRow(
       {"repository", "file", "line", "column", "severity", "code", "rule", "element", "subject", "message", "remedy"});
   for (const JudgedRepository& repository : repositories) {
     for (const Finding& finding : repository.result.findings) table += row(repository.result, finding);

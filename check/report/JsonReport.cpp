@@ -1,10 +1,10 @@
 #include "check/report/JsonReport.h"
 
-#include <nlohmann/json.hpp>
 #include <set>
 
 #include "check/PrintableText.h"
 #include "check/report/FindingCounts.h"
+#include "check/report/FindingJson.h"
 
 namespace check {
 
@@ -14,27 +14,6 @@ using Json = nlohmann::ordered_json;
 
 /// As in the schema.
 constexpr int FORM_VERSION = 1;
-
-void addText(Json& json, const char* key, const std::string& text) {
-  if (!text.empty()) json[key] = printable(text);
-}
-
-void addNumber(Json& json, const char* key, int number) {
-  if (number > 0) json[key] = number;
-}
-
-Json describe(const Finding& finding) {
-  Json json;
-  json["code"] = ruleOf(finding.rule).code;
-  json["severity"] = nameOf(finding.severity);
-  addText(json, "file", finding.file);
-  addNumber(json, "line", finding.line);
-  addNumber(json, "column", finding.column);
-  addText(json, "element", finding.element);
-  addText(json, "subject", finding.subject);
-  json["message"] = printable(finding.message);
-  return json;
-}
 
 Json describe(const JudgedRepository& repository) {
   const CheckResult& result = repository.result;
@@ -51,7 +30,7 @@ Json describe(const JudgedRepository& repository) {
   json["hints"] = counts.hints;
   json["ignored"] = repository.ignoredCount;
   json["findings"] = Json::array();
-  for (const Finding& finding : result.findings) json["findings"].push_back(describe(finding));
+  for (const Finding& finding : result.findings) json["findings"].push_back(findingJson(finding));
   return json;
 }
 

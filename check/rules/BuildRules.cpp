@@ -53,7 +53,7 @@ void BuildRules::lookAtPoses() {
       continue;
     }
     if (!plan.canBeBuilt || !isMarked(*pose)) continue;
-    lookAtMesh(RuleId::BodyMeshMissing, plan, pose);
+    if (!survey_.isExplained(pose)) lookAtMesh(RuleId::BodyMeshMissing, plan, pose);
     for (const DataContainer* entry : apps::childrenOf(*pose)) lookAtMandatory(*pose, *entry);
   }
 }
@@ -67,8 +67,6 @@ void BuildRules::lookAtMandatory(const DataContainer& pose, const DataContainer&
       const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
       return survey_.findings.add(RuleId::MandatoryUnknown, &entry, {id, survey_.hintAt(id, known)});
     }
-    case OmissionReason::NoSharedRecord:
-      return survey_.findings.add(RuleId::MandatoryGlobalUnknown, &entry, {id});
     case OmissionReason::NoField:
       if (plan.record == &entry) return survey_.findings.add(RuleId::MandatoryWithoutId, &entry, {});
       if (plan.omission.subject != FIELD_FOLDER) {
@@ -76,7 +74,7 @@ void BuildRules::lookAtMandatory(const DataContainer& pose, const DataContainer&
       }
       return;
     default:
-      return;
+      return;  // told of the asset itself
   }
 }
 
@@ -123,7 +121,7 @@ void BuildRules::lookAtSkins() {
 void BuildRules::lookAtClothes() {
   for (const DataContainer* clothing : apps::elementsOf(character_, ZORVEL::CLOTH)) {
     if (!clothing->CheckDatafield(FIELD_NAME)) survey_.findings.add(RuleId::ClothingWithoutName, clothing, {});
-    if (poses_.empty() || !isMarked(*clothing)) continue;
+    if (poses_.empty() || !isMarked(*clothing) || survey_.isExplained(clothing)) continue;
     for (const DataContainer* style : apps::clothChildren(*clothing, ZORVEL::MATERIAL)) {
       const PiecePlan plan = plans_.Clothing(*clothing, style, *poses_.front());
       if (plan.canBeBuilt) lookAtMaterial(plan, EntryKind::Style);
@@ -149,7 +147,7 @@ void BuildRules::lookAtAssets() {
 }
 
 void BuildRules::lookAtAsset(const DataContainer& asset, ElementKind kind) {
-  if (!asset.CheckDatafield(FIELD_FOLDER)) return;
+  if (!asset.CheckDatafield(FIELD_FOLDER) || survey_.isExplained(&asset)) return;
   const PiecePlan plan = plans_.Asset(kind, asset, nullptr, L"");
   if (!plan.canBeBuilt) {
     if (plan.omission.reason == OmissionReason::NoField) {

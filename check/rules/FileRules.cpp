@@ -1,10 +1,10 @@
 #include "check/rules/FileRules.h"
 
-#include "apps/support/ModelText.h"
+#include <set>
+
+#include "check/rules/NamedFiles.h"
 #include "core/Settings.h"
 #include "host/files/Paths.h"
-#include "model/Fields.h"
-#include "model/RepositoryFormat.h"
 #include "model/RepositoryPaths.h"
 
 namespace check {
@@ -56,42 +56,23 @@ void FileRules::lookAtOverlays() {
 }
 
 void FileRules::lookAtLetterCase() {
+  if (survey_.files.caseDifferences().empty()) return;
+  std::set<std::string> exact;
+  for (const std::wstring& file : survey_.files.askedFor()) exact.insert(survey_.shown(survey_.root + file));
   for (const FolderIndex::CaseDifference& one : survey_.files.caseDifferences()) {
+    // Where another element names it exactly, two ids are alike.
+    if (exact.count(one.found) > 0) continue;
     survey_.findings.addToFile(RuleId::FileLetterCase, one.found, {one.wanted, one.found});
   }
 }
 
-/// Pictures under the names that the layout of a repository has for them, whether the window shows them or not.
-void FileRules::referToNamedPictures() {
-  using ZORVEL::RepositoryPaths::AssetPicture;
-  for (const ZORVEL::DataContainer* shared : apps::globalAssets()) {
-    survey_.files.Look(AssetPicture(ZORVEL::RepositoryPaths::GlobalAsset(survey_.root, shared)));
-  }
-  for (const ZORVEL::CharacterData* character : apps::characters()) {
-    const std::wstring folder = ZORVEL::Fields::TextOrEmpty(character, ZORVEL::RepositoryFormat::FIELD_FOLDER);
-    const auto refer = [&](const ZORVEL::DataContainer* record) {
-      survey_.files.Look(ZORVEL::RepositoryPaths::ClothPreview(folder, record));
-    };
-    refer(character);
-    survey_.files.Look(AssetPicture(ZORVEL::RepositoryPaths::Previews(folder)));
-    for (const ZORVEL::CONTAINER container : {ZORVEL::SKINS, ZORVEL::CLOTH, ZORVEL::POSES, ZORVEL::ASSETS}) {
-      for (const ZORVEL::DataContainer* record : apps::elementsOf(*character, container)) {
-        refer(record);
-        for (const ZORVEL::DataContainer* child : apps::childrenOf(*record)) {
-          refer(child);
-          for (const ZORVEL::DataContainer* style : apps::childrenOf(*child)) refer(style);
-        }
-      }
-    }
-    for (const ZORVEL::DataContainer* asset : apps::elementsOf(*character, ZORVEL::ASSETS)) {
-      survey_.files.Look(AssetPicture(ZORVEL::RepositoryPaths::Element(folder, asset)));
-    }
-  }
-}
-
 void FileRules::lookAtUnreferenced() {
-  referToNamedPictures();
+  if (survey_.files.unreferenced().empty()) return;
+  NamedFiles(survey_).refer();
+  const std::string maps = survey_.shown(ZORVEL::RepositoryPaths::Maps(survey_.root));
   for (const auto& [file, count] : survey_.files.unreferenced()) {
+    // Whatever cannot be built may need the texture.
+    if (file.compare(0, maps.size(), maps) == 0 && survey_.findings.hasOtherThanHints()) continue;
     const std::string text = file + (count > 1 ? " (" + std::to_string(count) + " files)" : "");
     survey_.findings.addToFile(RuleId::FileUnreferenced, file, {text});
   }

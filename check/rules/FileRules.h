@@ -17,7 +17,6 @@ class FileRules {
  private:
   void lookAtOverlays();
   void lookAtLetterCase();
-  void referToNamedPictures();
   void lookAtUnreferenced();
   void lookAtKeeping(const std::wstring& root);
   void lookAtLengths(const std::wstring& root);

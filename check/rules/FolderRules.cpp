@@ -19,6 +19,8 @@ using namespace ZORVEL::RepositoryFormat;
 
 namespace {
 
+const wchar_t* const GLOBAL = L"global_assets";
+
 /// As the description has it: for a character the record holds the whole path.
 std::wstring writtenAttribute(const XmlElement* element, const wchar_t* name) {
   const wchar_t* text = element != nullptr ? element->FindAttribute(name) : nullptr;
@@ -37,9 +39,10 @@ std::vector<std::wstring> namesIn(const std::wstring& path) {
   return names;
 }
 
-bool leadsOut(const std::wstring& path) {
+/// `around` is the folder below the root that the path is joined to.
+bool leadsOut(const std::wstring& around, const std::wstring& path) {
   int depth = 0;
-  for (const std::wstring& name : namesIn(path)) {
+  for (const std::wstring& name : namesIn(around + L'\\' + path)) {
     if (name == L"..") --depth;
     if (name != L".." && name != L"." && !name.empty()) ++depth;
     if (depth < 0) return true;
@@ -52,34 +55,35 @@ bool leadsOut(const std::wstring& path) {
 void FolderRules::run() {
   for (const DataContainer* shared : apps::globalAssets()) {
     lookAt(*shared, nullptr, RuleId::GlobalFolderMissing, EntryKind::SharedAsset);
-    lookAtName(*shared, FIELD_FOLDER);
-    for (const DataContainer* material : apps::childrenOf(*shared)) lookAtName(*material, FIELD_PREVIEW);
+    lookAtName(*shared, FIELD_FOLDER, GLOBAL);
+    lookAtPictures(*shared, apps::childrenOf(*shared), GLOBAL);
   }
   for (const CharacterData* character : apps::characters()) lookAt(*character);
 }
 
 void FolderRules::lookAt(const CharacterData& character) {
-  lookAtName(character, FIELD_FOLDER);
-  if (writtenAttribute(survey_.elementOf(&character), FIELD_FOLDER).empty()) {
+  const std::wstring folder = writtenAttribute(survey_.elementOf(&character), FIELD_FOLDER);
+  lookAtName(character, FIELD_FOLDER, L"");
+  if (folder.empty()) {
     survey_.findings.add(RuleId::FolderEmpty, &character, {wordFor(EntryKind::Character)});
   }
-  for (const DataContainer* skin : apps::elementsOf(character, ZORVEL::SKINS)) lookAtName(*skin, FIELD_PREVIEW);
+  for (const DataContainer* skin : apps::elementsOf(character, ZORVEL::SKINS))
+    lookAtName(*skin, FIELD_PREVIEW, folder + L"\\skin");
   for (const DataContainer* clothing : apps::elementsOf(character, ZORVEL::CLOTH)) {
     lookAt(*clothing, &character, RuleId::ClothingFolderMissing, EntryKind::Clothing);
-    lookAtName(*clothing, FIELD_FOLDER);
-    for (const DataContainer* style : apps::clothChildren(*clothing, ZORVEL::MATERIAL))
-      lookAtName(*style, FIELD_PREVIEW);
+    lookAtName(*clothing, FIELD_FOLDER, folder);
+    lookAtPictures(*clothing, apps::clothChildren(*clothing, ZORVEL::MATERIAL), folder);
   }
   for (const DataContainer* pose : apps::elementsOf(character, ZORVEL::POSES)) {
     lookAt(*pose, &character, RuleId::PoseFolderMissing, EntryKind::Pose);
-    lookAtName(*pose, FIELD_FOLDER);
+    lookAtName(*pose, FIELD_FOLDER, folder);
   }
   for (const DataContainer* asset : apps::elementsOf(character, ZORVEL::ASSETS)) {
     // What stands for a shared asset has no folder of its own.
-    if (ZORVEL::Data2::CheckAssetGlobal(asset)) continue;
+    if (ZORVEL::Data2::CheckAssetGlobal(asset) || survey_.isExplained(asset)) continue;
     lookAt(*asset, &character, RuleId::AssetFolderMissing, EntryKind::Asset);
-    lookAtName(*asset, FIELD_FOLDER);
-    for (const DataContainer* material : apps::childrenOf(*asset)) lookAtName(*material, FIELD_PREVIEW);
+    lookAtName(*asset, FIELD_FOLDER, folder);
+    lookAtPictures(*asset, apps::childrenOf(*asset), folder);
   }
 }
 
@@ -96,10 +100,17 @@ void FolderRules::lookAt(const DataContainer& record, const CharacterData* chara
   }
 }
 
-void FolderRules::lookAtName(const DataContainer& record, const wchar_t* attribute) {
+void FolderRules::lookAtPictures(const DataContainer& owner, const std::vector<DataContainer*>& materials,
+                                 const std::wstring& around) {
+  if (survey_.findings.has(RuleId::FolderOutside, &owner)) return;
+  const std::wstring folder = around + L'\\' + Fields::TextOrEmpty(&owner, FIELD_FOLDER);
+  for (const DataContainer* material : materials) lookAtName(*material, FIELD_PREVIEW, folder);
+}
+
+void FolderRules::lookAtName(const DataContainer& record, const wchar_t* attribute, const std::wstring& around) {
   const std::wstring path = writtenAttribute(survey_.elementOf(&record), attribute);
   if (path.empty()) return;
-  if (leadsOut(path)) return survey_.findings.add(RuleId::FolderOutside, &record, {attribute, path});
+  if (leadsOut(around, path)) return survey_.findings.add(RuleId::FolderOutside, &record, {attribute, path});
   for (const std::wstring& name : namesIn(path)) {
     if (name.empty() || name == L"." || name == L"..") continue;
     const ZORVEL::NameRefusal refusal = ZORVEL::WindowsNames::WhyRefused(name);

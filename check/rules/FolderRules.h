@@ -14,7 +14,9 @@ class FolderRules {
   void lookAt(const ZORVEL::CharacterData& character);
   void lookAt(const ZORVEL::DataContainer& record, const ZORVEL::CharacterData* character, RuleId missing,
               EntryKind kind);
-  void lookAtName(const ZORVEL::DataContainer& record, const wchar_t* attribute);
+  void lookAtPictures(const ZORVEL::DataContainer& owner, const std::vector<ZORVEL::DataContainer*>& materials,
+                      const std::wstring& around);
+  void lookAtName(const ZORVEL::DataContainer& record, const wchar_t* attribute, const std::wstring& around);
 
   Survey& survey_;
 };

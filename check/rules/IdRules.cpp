@@ -72,7 +72,7 @@ void IdRules::lookAt(const Records& records, EntryKind kind) {
                            duplicateRule(kind) == RuleId::IdDuplicate
                                ? std::vector<Value>{wordFor(kind), survey_.lineOf(first->second)}
                                : std::vector<Value>{survey_.lineOf(first->second)});
-    } else if (!isAlone) {
+    } else if (!isAlone && namesFiles(kind)) {
       const wchar_t* other = Fields::OptionalText(alike->second, FIELD_ID);
       survey_.findings.add(RuleId::IdsDifferInCase, record, {other, survey_.lineOf(alike->second)});
     }

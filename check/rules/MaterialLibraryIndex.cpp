@@ -27,9 +27,18 @@ Mtl* MaterialLibraryIndex::find(const std::wstring& file, const std::wstring& na
   return static_cast<Mtl*>(findByName(open(file).materials, name.c_str()));
 }
 
+void MaterialLibraryIndex::forEachMaterial(const std::function<void(Mtl&)>& visit) const {
+  for (const auto& [file, library] : libraries_) {
+    for (int i = 0; i < library->materials.Count(); ++i) {
+      MtlBase* material = library->materials[i];
+      if (material->SuperClassID() == MATERIAL_CLASS_ID) visit(*static_cast<Mtl*>(material));
+    }
+  }
+}
+
 bool MaterialLibraryIndex::isClosed(const std::wstring& file) { return open(file).isClosed; }
 
-std::string MaterialLibraryIndex::problemOf(const std::wstring& file) { return open(file).problem; }
+const std::string& MaterialLibraryIndex::problemOf(const std::wstring& file) { return open(file).problem; }
 
 MaterialLibraryIndex::Library& MaterialLibraryIndex::open(const std::wstring& file) {
   std::unique_ptr<Library>& library = libraries_[file];
@@ -39,12 +48,15 @@ MaterialLibraryIndex::Library& MaterialLibraryIndex::open(const std::wstring& fi
 
 std::unique_ptr<MaterialLibraryIndex::Library> MaterialLibraryIndex::load(const std::wstring& file) {
   auto library = std::make_unique<Library>();
-  if (files_.Look(file) != ZORVEL::DiskEntry::File || !files_.isInside(file)) return library;
-  const LibraryContent& content = contents_.library(files_.nativePath(file));
-  library->isClosed = content.form == Form::Closed;
-  library->problem = content.problem;
-  if (content.form != Form::Open) return library;
-  host::MaterialLibraryContent read = host::readMaterialLibraryText(content.text);
+  const LibraryContent* content = contents_.library(file);
+  if (content == nullptr) {
+    library->isClosed = files_.Look(file) == ZORVEL::DiskEntry::File && !files_.isInside(file);
+    return library;
+  }
+  library->isClosed = content->form == Form::Closed;
+  library->problem = content->problem;
+  if (content->form != Form::Open) return library;
+  host::MaterialLibraryContent read = host::readMaterialLibraryText(content->text);
   library->problem = read.error;
   library->isLoaded = read.error.empty();
   for (const host::Ref<Mtl>& material : read.materials) library->materials.Add(material.get());

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <map>
+#include <functional>
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 #include "check/Contents.h"
 #include "check/FolderIndex.h"
@@ -22,10 +23,12 @@ class MaterialLibraryIndex {
   ZORVEL::LibraryState look(const std::wstring& file, const wchar_t* name);
   /// Null when the library does not hold it.
   Mtl* find(const std::wstring& file, const std::wstring& name);
-  /// Whether it is there and in a form that only 3ds Max reads.
+  /// In all libraries that were asked so far.
+  void forEachMaterial(const std::function<void(Mtl&)>& visit) const;
+  /// Whether it is there and not read here: outside the repository, or in a form that only 3ds Max reads.
   bool isClosed(const std::wstring& file);
   /// Empty for a library that was read or is not there.
-  std::string problemOf(const std::wstring& file);
+  const std::string& problemOf(const std::wstring& file);
 
  private:
   struct Library {
@@ -40,7 +43,7 @@ class MaterialLibraryIndex {
 
   FolderIndex& files_;
   const Contents& contents_;
-  std::map<std::wstring, std::unique_ptr<Library>> libraries_;
+  std::unordered_map<std::wstring, std::unique_ptr<Library>> libraries_;
 };
 
 }  // namespace check

@@ -55,7 +55,10 @@ void MatrixRules::lookAt(const CharacterData& character, const XmlElement& eleme
   const auto lookAtRow = [&](const XmlElement& row) {
     const wchar_t* poseId = row.FindAttribute(FIELD_POSE_ID);
     const wchar_t* assetId = row.FindAttribute(FIELD_MATRIX_ASSET_ID);
-    if (poseId == nullptr || assetId == nullptr) return;
+    if (poseId == nullptr || assetId == nullptr) {
+      survey_.missedPairs.emplace(&character, poseId != nullptr ? poseId : L"", assetId != nullptr ? assetId : L"");
+      return;
+    }
     Findings& findings = survey_.findings;
     const auto [first, isNew] = rows.emplace(std::make_pair(poseId, assetId), row.line);
     const DataContainer* asset = assets.find(assetId);
@@ -63,10 +66,14 @@ void MatrixRules::lookAt(const CharacterData& character, const XmlElement& eleme
       findings.add(RuleId::MatrixRowDuplicate, &row, {first->second});
     } else if (poses.find(poseId) == nullptr) {
       const auto known = [&] { return apps::idsOf(apps::elementsOf(character, ZORVEL::POSES)); };
-      findings.add(RuleId::MatrixRowUnknownPose, &row, {poseId, survey_.hintAt(poseId, known)});
+      const std::wstring nearest = survey_.nearestTo(poseId, known);
+      findings.add(RuleId::MatrixRowUnknownPose, &row, {poseId, hintAt(nearest)});
+      if (!nearest.empty()) survey_.missedPairs.emplace(&character, nearest, assetId);
     } else if (asset == nullptr) {
       const auto known = [&] { return apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS)); };
-      findings.add(RuleId::MatrixRowUnknownAsset, &row, {assetId, survey_.hintAt(assetId, known)});
+      const std::wstring nearest = survey_.nearestTo(assetId, known);
+      findings.add(RuleId::MatrixRowUnknownAsset, &row, {assetId, hintAt(nearest)});
+      if (!nearest.empty()) survey_.missedPairs.emplace(&character, poseId, nearest);
     } else if (CharacterData::IsSpecific(asset)) {
       findings.add(RuleId::MatrixRowUnused, &row, {assetId});
     }

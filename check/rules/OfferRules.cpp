@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <algorithm>
+#include <unordered_set>
 
 #include "apps/support/ModelText.h"
 #include "host/files/Paths.h"
@@ -29,27 +30,18 @@ namespace {
 
 /// Those that can be chosen: with an id, and the first that has it.
 std::vector<const DataContainer*> choosable(const std::vector<DataContainer*>& records) {
-  std::set<std::wstring> known;
+  std::unordered_set<std::wstring> known;
   std::vector<const DataContainer*> result;
   for (const DataContainer* record : records) {
-    if (!idOf(record).empty() && known.insert(idOf(record)).second) result.push_back(record);
+    std::wstring id = idOf(record);
+    if (!id.empty() && known.insert(std::move(id)).second) result.push_back(record);
   }
   return result;
 }
 
-/// For the middle of a sentence.
-std::string reasonOf(const ZORVEL::Refusal& refusal, const FolderIndex& files) {
-  const std::string file = files.shown(refusal.concerned);
-  if (refusal.why == WhyNot::PictureMissing) return "there is no picture " + file;
-  if (refusal.why == WhyNot::MeshMissing) return "there is no mesh " + file;
-  std::string text = host::toUtf8(refusal.GetText());
-  if (!text.empty() && text.back() == '.') text.pop_back();
-  return text;
-}
-
 /// "(there is no mesh anna/dress/a_b.vrmesh, and 3 more)".
-std::string reasonsOf(const std::vector<const WornPose*>& pairs, const FolderIndex& files) {
-  std::string text = reasonOf(pairs.front()->refusal, files);
+std::string reasonsOf(const std::vector<const WornPose*>& pairs, const Survey& survey) {
+  std::string text = survey.reasonOf(pairs.front()->refusal);
   if (pairs.size() > 1) text += ", and " + std::to_string(pairs.size() - 1) + " more";
   return text;
 }
@@ -66,7 +58,7 @@ void OfferRules::run() {
   choosePoses();
   tellWorn();
   tellAssetsWithoutPage();
-  tellAssetsWithoutRow();
+  tellNeverOffered();
   tellAddresses();
   Selection2::Reset();
 }
@@ -80,24 +72,27 @@ void OfferRules::lookAtLists() {
                           List{ZORVEL::POSES, EntryKind::Pose}}) {
     if (character_.GetCount(list.container) > 0) continue;
     // A clothing that was dropped while reading is told of already.
-    const auto& notes = survey_.findings.description().notes();
-    const bool isTold = list.container == ZORVEL::CLOTH &&
-                        std::any_of(notes.begin(), notes.end(), [this](const ZORVEL::ParseNote& note) {
-                          const Description& description = survey_.findings.description();
-                          if (note.kind != ZORVEL::ParseNoteKind::ClothingWithoutPreview) return false;
-                          const ZORVEL::XmlElement* parent = description.parentOf(*note.source);
-                          return parent != nullptr && description.parentOf(*parent) == survey_.elementOf(&character_);
-                        });
-    if (!isTold) survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
+    if (list.container != ZORVEL::CLOTH || !hasDroppedClothes())
+      survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
   }
   std::set<const DataContainer*> used;
   for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
     used.insert(character_.GetCategory(asset));
   }
-  for (const DataContainer* category : apps::elementsOf(character_, ZORVEL::CATEGORIES)) {
-    const bool isUsed = used.count(category) > 0;
-    if (!isUsed && !idOf(category).empty()) survey_.findings.add(RuleId::CategoryEmpty, category, {});
+  // Of several with one id the first has all the assets.
+  for (const DataContainer* category : choosable(apps::elementsOf(character_, ZORVEL::CATEGORIES))) {
+    if (used.count(category) == 0) survey_.findings.add(RuleId::CategoryEmpty, category, {});
   }
+}
+
+bool OfferRules::hasDroppedClothes() const {
+  const Description& description = survey_.findings.description();
+  const ZORVEL::XmlElement* own = survey_.elementOf(&character_);
+  return std::any_of(description.notes().begin(), description.notes().end(), [&](const ZORVEL::ParseNote& note) {
+    if (note.kind != ZORVEL::ParseNoteKind::ClothingWithoutPreview) return false;
+    const ZORVEL::XmlElement* list = description.parentOf(*note.source);
+    return list != nullptr && description.parentOf(*list) == own;
+  });
 }
 
 void OfferRules::lookAtStrip() {
@@ -111,7 +106,7 @@ void OfferRules::chooseClothes() {
     const bool hasFolder = !Fields::TextOrEmpty(clothing, FIELD_FOLDER).empty();
     if (hasFolder && clothing->GetFastFlag(ZORVEL::FLAG_VALID)) {
       clothes_.push_back(clothing);
-    } else if (hasFolder) {
+    } else {
       unavailable_.push_back(clothing);
     }
     if (clothing->GetChildCount() > 0 && apps::clothChildren(*clothing, ZORVEL::MATERIAL).empty()) {
@@ -119,12 +114,14 @@ void OfferRules::chooseClothes() {
     }
   }
   poses_ = choosable(apps::elementsOf(character_, ZORVEL::POSES));
+  choosablePoses_.insert(poses_.begin(), poses_.end());
   for (const DataContainer* clothing : clothes_) choose(*clothing);
-  // Its poses are shown, all of them grey.
+  // Its poses are shown, and not to be chosen.
   for (const DataContainer* clothing : unavailable_) {
     Selection2::SetCloth(idOf(clothing).c_str());
     Selection2::SetPose(nullptr);
-    offers_.VisitAll([this](const PageOffer& page) {
+    offers_.VisitAll([&](const PageOffer& page) {
+      if (page.kind == PageKind::Poses) notePoses(*clothing, page);
       for (const OfferedElement& element : page.shown) takePicture(page, element);
     });
   }
@@ -144,10 +141,19 @@ void OfferRules::choose(const DataContainer& clothing) {
   });
 }
 
+void OfferRules::notePoses(const DataContainer& clothing, const PageOffer& page) {
+  for (const OfferedElement& element : page.shown) {
+    survey_.poseOffers.push_back({&clothing, element.record, true, element.refusal});
+  }
+  for (const OfferedElement& element : page.hidden) {
+    survey_.poseOffers.push_back({&clothing, element.record, false, element.refusal});
+  }
+}
+
 void OfferRules::takePoses(const DataContainer& clothing, const PageOffer& page) {
+  notePoses(clothing, page);
   const auto take = [&](const OfferedElement& element, bool isShown) {
-    const bool isChoosable = std::find(poses_.begin(), poses_.end(), element.record) != poses_.end();
-    if (!isChoosable || !element.record->GetFastFlag(ZORVEL::FLAG_VALID)) return;
+    if (choosablePoses_.count(element.record) == 0 || !element.record->GetFastFlag(ZORVEL::FLAG_VALID)) return;
     worn_.push_back({&clothing, element.record, isShown, element.refusal});
   };
   for (const OfferedElement& element : page.shown) {
@@ -183,8 +189,7 @@ void OfferRules::takeSkins(const PageOffer& page) {
   skinsAreTold_ = true;
   for (const OfferedElement& element : page.shown) takePicture(page, element);
   if (page.shown.empty() && !page.hidden.empty()) {
-    return survey_.findings.add(RuleId::NoSkinShown, &character_,
-                                {reasonOf(page.hidden.front().refusal, survey_.files)});
+    return survey_.findings.add(RuleId::NoSkinShown, &character_, {survey_.reasonOf(page.hidden.front().refusal)});
   }
   for (const OfferedElement& element : page.hidden) {
     tellPictureMissing(RuleId::SkinPictureMissing, element, EntryKind::Skin);
@@ -209,12 +214,11 @@ void OfferRules::takeAssets(const PageOffer& page) {
   for (const OfferedElement& element : page.hidden) {
     const WhyNot why = element.refusal.why;
     const bool isMaterial = element.style != nullptr;
-    if (why == WhyNot::NoMatrixRow) withoutRow_[element.record].push_back(pose_);
-    if (why == WhyNot::Excluded) excludedBy_[element.record].insert(clothing_);
-    if (why != WhyNot::PictureMissing) continue;
+    if (why != WhyNot::PictureMissing || survey_.isExplained(element.record)) continue;
     tellPictureMissing(isMaterial ? RuleId::MaterialPictureMissing : RuleId::AssetPictureMissing, element,
                        isMaterial ? EntryKind::AssetMaterial : EntryKind::Asset);
   }
+  if (!page.hidden.empty()) noteWithoutRow(*page.category);
   const bool isEmpty = page.shown.empty() && CharacterData::IsRequired(page.category);
   const bool hasReason = std::any_of(page.hidden.begin(), page.hidden.end(), [](const OfferedElement& element) {
     return element.refusal.why == WhyNot::NoMatrixRow;
@@ -222,8 +226,16 @@ void OfferRules::takeAssets(const PageOffer& page) {
   if (isEmpty && hasReason) survey_.findings.add(RuleId::RequiredCategoryEmpty, page.category, {idOf(pose_)});
 }
 
+void OfferRules::noteWithoutRow(const DataContainer& category) {
+  for (const ZORVEL::ListedAsset& listed : character_.ListAssetsForCategory(&category)) {
+    if (listed.whyNot == WhyNot::NoMatrixRow) withoutRow_[listed.asset].insert(pose_);
+  }
+}
+
 void OfferRules::takePicture(const PageOffer& page, const OfferedElement& element) {
   const DataContainer* record = element.style != nullptr ? element.style : element.record;
+  // A pose has one for each clothing.
+  if (page.kind != PageKind::Poses && !pictured_.insert(record).second) return;
   survey_.pictures.push_back({element.picturePath, page.kind, record});
 }
 
@@ -250,7 +262,7 @@ void OfferRules::tellWorn() {
     const std::vector<const WornPose*>& missing = ofClothing[clothing];
     const bool isNeverWorn = useful.count(clothing) == 0 && !missing.empty();
     if (isNeverWorn) {
-      survey_.findings.add(RuleId::ClothingNeverWorn, clothing, {reasonsOf(missing, survey_.files)});
+      survey_.findings.add(RuleId::ClothingNeverWorn, clothing, {reasonsOf(missing, survey_)});
       continue;
     }
     for (const WornPose* pair : missing) ofPose[pair->pose].push_back(pair);
@@ -258,7 +270,7 @@ void OfferRules::tellWorn() {
   for (const DataContainer* pose : poses_) {
     const std::vector<const WornPose*>& missing = ofPose[pose];
     if (useful.count(pose) == 0 && !missing.empty()) {
-      survey_.findings.add(RuleId::PoseNeverWorn, pose, {reasonsOf(missing, survey_.files)});
+      survey_.findings.add(RuleId::PoseNeverWorn, pose, {reasonsOf(missing, survey_)});
       continue;
     }
     for (const WornPose* pair : missing) tellPair(*pair);
@@ -274,12 +286,24 @@ void OfferRules::tellPair(const WornPose& pair) {
   }
 }
 
-/// Such an asset needs no page.
-bool OfferRules::isAskedForByAPose(const std::wstring& id) const {
+OfferRules::AskedFor OfferRules::askedForByPoses() const {
+  const auto all = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
+  AskedFor asked;
   for (const DataContainer* pose : apps::elementsOf(character_, ZORVEL::POSES)) {
-    if (CharacterData::FindElementById(pose, id.c_str()) != nullptr) return true;
+    for (const DataContainer* entry : apps::childrenOf(*pose)) {
+      const std::wstring id = idOf(entry);
+      if (id.empty()) asked.isAny = true;
+      if (!asked.ids.insert(id).second || character_.GetAsset(id.c_str()) != nullptr) continue;
+      asked.ids.insert(survey_.nearestTo(id, all));
+    }
   }
-  return false;
+  return asked;
+}
+
+/// Such an asset needs no page.
+bool OfferRules::isAskedForByAPose(const std::wstring& id) {
+  if (!askedFor_) askedFor_ = askedForByPoses();
+  return askedFor_->isAny || askedFor_->ids.count(id) > 0;
 }
 
 void OfferRules::tellAssetsWithoutPage() {
@@ -295,24 +319,33 @@ void OfferRules::tellAssetsWithoutPage() {
   }
 }
 
-void OfferRules::tellAssetsWithoutRow() {
-  const auto own = [this](const DataContainer* record) {
-    const DataContainer* standIn = character_.FindLocalAssetForGlobal(record);
-    return standIn != nullptr && Data2::CheckAssetGlobal(record) ? standIn : record;
-  };
-  for (const auto& [record, poses] : withoutRow_) {
-    const std::set<const DataContainer*> different(poses.begin(), poses.end());
-    if (different.size() == visitedPoses_.size()) {
-      survey_.findings.add(RuleId::AssetInNoPose, own(record), {});
-      continue;
-    }
-    for (const DataContainer* pose : different) {
-      survey_.findings.add(RuleId::AssetNotInPose, own(record), {idOf(pose)});
-    }
+void OfferRules::tellNeverOffered() {
+  const auto clothes = apps::elementsOf(character_, ZORVEL::CLOTH);
+  const bool hasAll = !clothes.empty() && !hasDroppedClothes();
+  for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
+    const bool isSecond = survey_.findings.has(RuleId::AssetIdDuplicate, asset) ||
+                          survey_.findings.has(RuleId::GlobalReferencedTwice, asset);
+    if (isSecond || survey_.isExplained(asset)) continue;
+    tellWithoutRow(*asset);
+    if (!hasAll) continue;
+    const bool isExcluded = std::all_of(clothes.begin(), clothes.end(), [&](const DataContainer* clothing) {
+      return character_.IsAssetExcludedByCloth(clothing, asset);
+    });
+    if (isExcluded) survey_.findings.add(RuleId::AssetAlwaysExcluded, asset, {});
   }
-  for (const auto& [record, clothes] : excludedBy_) {
-    const std::size_t count = clothes_.size();
-    if (clothes.size() == count) survey_.findings.add(RuleId::AssetAlwaysExcluded, own(record), {});
+}
+
+void OfferRules::tellWithoutRow(const DataContainer& asset) {
+  const std::set<const DataContainer*>& poses = withoutRow_[&asset];
+  if (poses.empty()) return;
+  if (poses.size() == visitedPoses_.size()) return survey_.findings.add(RuleId::AssetInNoPose, &asset, {});
+  const auto& missed = survey_.missedPairs;
+  for (const DataContainer* pose : poses) {
+    const std::wstring id = idOf(pose);
+    const bool isTold = missed.count({&character_, id, idOf(&asset)}) + missed.count({&character_, id, L""}) +
+                            missed.count({&character_, L"", idOf(&asset)}) >
+                        0;
+    if (!isTold) survey_.findings.add(RuleId::AssetNotInPose, &asset, {id});
   }
 }
 

@@ -2,7 +2,9 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
+#include <unordered_set>
 
 #include "check/rules/Survey.h"
 #include "core/FileStamps.h"
@@ -39,24 +41,35 @@ class OfferRules {
  private:
   using Records = std::vector<const ZORVEL::DataContainer*>;
 
+  /// Ids of assets that entries of poses name, or seem to mean. An entry that names none may mean any.
+  struct AskedFor {
+    bool isAny = false;
+    std::set<std::wstring> ids;
+  };
+
   void lookAtLists();
+  bool hasDroppedClothes() const;
   void lookAtStrip();
   void chooseClothes();
   void choose(const ZORVEL::DataContainer& clothing);
   void choosePoses();
+  void notePoses(const ZORVEL::DataContainer& clothing, const ZORVEL::PageOffer& page);
   void takePoses(const ZORVEL::DataContainer& clothing, const ZORVEL::PageOffer& page);
   void takePage(const ZORVEL::PageOffer& page, bool isFirstOfClothing);
   void takeSkins(const ZORVEL::PageOffer& page);
   void takeStyles(const ZORVEL::PageOffer& page);
   void takeAssets(const ZORVEL::PageOffer& page);
+  void noteWithoutRow(const ZORVEL::DataContainer& category);
   void takePicture(const ZORVEL::PageOffer& page, const ZORVEL::OfferedElement& element);
   void tellPictureMissing(RuleId rule, const ZORVEL::OfferedElement& element, EntryKind kind);
 
   void tellWorn();
   void tellPair(const WornPose& pair);
-  bool isAskedForByAPose(const std::wstring& id) const;
+  AskedFor askedForByPoses() const;
+  bool isAskedForByAPose(const std::wstring& id);
   void tellAssetsWithoutPage();
-  void tellAssetsWithoutRow();
+  void tellNeverOffered();
+  void tellWithoutRow(const ZORVEL::DataContainer& asset);
   void tellAddresses();
 
   Survey& survey_;
@@ -67,15 +80,18 @@ class OfferRules {
   Records clothes_;
   Records unavailable_;
   Records poses_;
+  std::unordered_set<const ZORVEL::DataContainer*> choosablePoses_;
+  /// Whose picture is noted already.
+  std::unordered_set<const ZORVEL::DataContainer*> pictured_;
   std::vector<WornPose> worn_;
   const ZORVEL::DataContainer* pose_ = nullptr;
   std::set<const ZORVEL::DataContainer*> visitedPoses_;
   bool skinsAreTold_ = false;
   std::set<std::pair<const ZORVEL::DataContainer*, const ZORVEL::DataContainer*>> offered_;
   /// The poses in which there is no row for an asset.
-  std::map<const ZORVEL::DataContainer*, Records> withoutRow_;
-  std::map<const ZORVEL::DataContainer*, std::set<const ZORVEL::DataContainer*>> excludedBy_;
+  std::map<const ZORVEL::DataContainer*, std::set<const ZORVEL::DataContainer*>> withoutRow_;
   const ZORVEL::DataContainer* clothing_ = nullptr;
+  std::optional<AskedFor> askedFor_;
 };
 
 }  // namespace check

@@ -2,6 +2,7 @@
 
 #include <cwchar>
 
+#include "core/WindowsNames.h"
 #include "host/files/Paths.h"
 #include "model/NumberText.h"
 #include "model/RepositoryFormat.h"
@@ -162,7 +163,11 @@ void ReadingRules::lookAtValue(const XmlElement& element, const ElementEntry& en
     known.push_back(host::toUtf8(one.text));
   }
   if (entry.kind == EntryKind::Asset) {
-    survey_.findings.add(RuleId::TypeSpelling, &element, {value, survey_.hintAt(value, [&known] { return known; })});
+    // It counts as what it says.
+    if (ZORVEL::WindowsNames::AreAlike(value, VALUE_COMMON)) return;
+    const std::wstring nearest = survey_.nearestTo(value, [&known] { return known; });
+    survey_.findings.add(RuleId::TypeSpelling, &element, {value, hintAt(nearest)});
+    if (nearest != VALUE_COMMON && !nearest.empty()) survey_.misread.insert(&element);
   } else {
     survey_.findings.add(RuleId::ValueNotUnderstood, &element,
                          {attribute.name, value, attribute.without, attribute.values.front().text});

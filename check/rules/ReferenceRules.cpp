@@ -23,13 +23,6 @@ std::vector<std::string> assetIds(const CharacterData& character) {
   return apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS));
 }
 
-const DataContainer* findAsset(const CharacterData& character, const std::wstring& id) {
-  for (const DataContainer* asset : apps::elementsOf(character, ZORVEL::ASSETS)) {
-    if (Fields::Equals(asset, FIELD_ID, id.c_str())) return asset;
-  }
-  return nullptr;
-}
-
 /// The record whose materials are offered.
 const DataContainer& offeredRecord(const DataContainer& asset) {
   const DataContainer* shared = Data2::CheckAssetGlobal(&asset) ? Data2::GetGlobalAssetForAsset(&asset) : nullptr;
@@ -99,7 +92,7 @@ void ReferenceRules::lookAtExcludes(const CharacterData& character, const DataCo
     const wchar_t* id = Fields::OptionalText(exclude, FIELD_ID);
     if (id == nullptr) {
       survey_.findings.add(RuleId::ExcludeWithoutId, exclude, {});
-    } else if (findAsset(character, id) == nullptr) {
+    } else if (character.GetAsset(id) == nullptr) {
       survey_.findings.add(RuleId::ExcludeUnknown, exclude,
                            {id, survey_.hintAt(id, [&] { return assetIds(character); })});
     }
@@ -116,7 +109,7 @@ void ReferenceRules::lookAtSelect(const CharacterData& character, const DataCont
                                   const DataContainer& select) {
   const wchar_t* id = Fields::OptionalText(&select, FIELD_ASSET_ID);
   if (id == nullptr) return survey_.findings.add(RuleId::SelectWithoutAsset, &select, {});
-  const DataContainer* asset = findAsset(character, id);
+  const DataContainer* asset = character.GetAsset(id);
   if (asset == nullptr) {
     return survey_.findings.add(RuleId::SelectUnknownAsset, &select,
                                 {id, survey_.hintAt(id, [&] { return assetIds(character); })});
@@ -148,7 +141,7 @@ void ReferenceRules::lookAtCategories(const CharacterData& character, const Data
   std::map<const DataContainer*, const DataContainer*> shared;
   for (const DataContainer* select : apps::clothChildren(clothing, ZORVEL::SELECT)) {
     const std::wstring id = Fields::TextOrEmpty(select, FIELD_ASSET_ID);
-    const DataContainer* asset = findAsset(character, id);
+    const DataContainer* asset = character.GetAsset(id.c_str());
     const DataContainer* category = character.GetCategory(asset);
     if (category == nullptr || character.IsAssetExcludedByCloth(&clothing, asset)) continue;
     selected[category].insert(id + L"/" + Fields::TextOrEmpty(select, FIELD_MATERIAL_ID));
@@ -186,10 +179,15 @@ void ReferenceRules::lookAtShared() {
       if (Data2::CheckAssetGlobal(asset)) used.insert(Data2::GetGlobalAssetForAsset(asset));
     }
   }
+  // What refers to one may be among what was left out or is misspelt.
+  const bool isKnown = !survey_.findings.hasAny(
+      {RuleId::CharacterWithoutAttributes, RuleId::CharacterFolderUnnamed, RuleId::CharacterPreviewsMissing,
+       RuleId::CharacterSkinFolderMissing, RuleId::ElementLetterCase, RuleId::MisplacedElement, RuleId::UnknownElement,
+       RuleId::AttributeLetterCase, RuleId::TypeSpelling, RuleId::GlobalUnnamed, RuleId::GlobalUnknown});
   for (const DataContainer* shared : apps::globalAssets()) {
     if (!Data2::CheckAssetGlobal(shared)) survey_.findings.add(RuleId::GlobalWithoutType, shared, {});
     const bool isFirst = Data2::FindGlobalAssetById(Fields::OptionalText(shared, FIELD_ID)) == shared;
-    if (isFirst && used.count(shared) == 0) survey_.findings.add(RuleId::GlobalUnreferenced, shared, {});
+    if (isKnown && isFirst && used.count(shared) == 0) survey_.findings.add(RuleId::GlobalUnreferenced, shared, {});
   }
 }
 

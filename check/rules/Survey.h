@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "check/Findings.h"
@@ -34,6 +36,15 @@ struct UsedMaterial {
   const ZORVEL::DataContainer* record;
 };
 
+/// A pose on the page that the window shows for one clothing.
+struct PoseOffer {
+  const ZORVEL::DataContainer* clothing;
+  const ZORVEL::DataContainer* pose;
+  /// Grey when it is shown and refused.
+  bool isShown;
+  ZORVEL::Refusal refusal;
+};
+
 /// What the rules work with: the repository in the plug-in's store, what lies on disk, and where findings go. Files
 /// that have to be looked into are noted on the way and read at the end, all at once.
 struct Survey {
@@ -44,6 +55,12 @@ struct Survey {
   std::vector<ShownPicture> pictures;
   std::vector<UsedMesh> meshes;
   std::vector<UsedMaterial> materials;
+  /// Assets that another type is meant for than they are read with.
+  std::set<const ZORVEL::XmlElement*> misread = {};
+  /// Pose and asset of a character that a row of the asset matrix seems to mean and misses; empty for any.
+  std::set<std::tuple<const ZORVEL::CharacterData*, std::wstring, std::wstring>> missedPairs = {};
+  /// All poses, for each clothing that has an id of its own.
+  std::vector<PoseOffer> poseOffers = {};
 
   const ZORVEL::XmlElement* elementOf(const ZORVEL::DataContainer* record) const {
     return findings.description().elementOf(record);
@@ -54,8 +71,19 @@ struct Survey {
     return element != nullptr ? element->line : 0;
   }
   std::string shown(const std::wstring& path) const { return files.shown(path); }
-  /// "; did you mean "anna"?", or nothing when none of the known is near. Who gets thousands of names wrong gets hints
-  /// for the first of them only: each is compared with all that are known.
+  /// What is told of the record explains whatever else is wrong with its files and its places.
+  bool isExplained(const ZORVEL::DataContainer* record) const {
+    return misread.count(elementOf(record)) > 0 || findings.has(RuleId::GlobalWithoutType, record) ||
+           findings.has(RuleId::FolderEmpty, record);
+  }
+  /// As in a finding; empty for a record that no element was read into.
+  std::string pathOf(const ZORVEL::DataContainer* record) const;
+  /// For the middle of a sentence: "there is no mesh anna/dress/a_b.vrmesh".
+  std::string reasonOf(const ZORVEL::Refusal& refusal) const;
+  /// Empty when none of the known is near. Who gets thousands of names wrong gets hints for the first of them only:
+  /// each is compared with all that are known.
+  std::wstring nearestTo(const std::wstring& wanted, const std::function<std::vector<std::string>()>& known);
+  /// The same as a hint.
   std::string hintAt(const std::wstring& wanted, const std::function<std::vector<std::string>()>& known);
 
   /// How many pairs of letters may still be compared for hints.
@@ -67,5 +95,8 @@ const char* wordFor(EntryKind kind);
 
 /// Empty for a record without one.
 std::wstring idOf(const ZORVEL::DataContainer* record);
+
+/// "; did you mean "anna"?", or nothing for an empty name.
+std::string hintAt(const std::wstring& nearest);
 
 }  // namespace check

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QTreeWidget>
-#include <cstdlib>
 #include <map>
 #include <regex>
 #include <set>
@@ -271,14 +270,8 @@ TEST_F(Agreement, NeedsNoWordsWhereNothingIsMissing) {
   EXPECT_THAT(choice.notes, testing::IsEmpty()) << "the bowler takes the place of the required cap";
 }
 
-/// How many repositories are damaged; for a longer search ZORVEL_DAMAGES says otherwise.
-unsigned damages() {
-  const char* wanted = std::getenv("ZORVEL_DAMAGES");
-  return wanted != nullptr ? static_cast<unsigned>(std::strtoul(wanted, nullptr, 10)) : 60U;
-}
-
 TEST_F(Agreement, OfWindowCommandLineAndBuilderSurvivesAnyDamage) {
-  const unsigned count = damages();
+  const unsigned count = support::damages(60);
   for (unsigned seed = 0; seed < count && !HasFailure(); ++seed) {
     const support::WindowRepository repository;
     support::Damage damage(repository.folder().path(), seed);

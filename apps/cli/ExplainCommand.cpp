@@ -1,0 +1,39 @@
+#include "apps/cli/ExplainCommand.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include "apps/cli/ExitStatus.h"
+#include "apps/cli/StandardOutput.h"
+#include "check/PrintableText.h"
+#include "check/explain/Explain.h"
+#include "check/report/ExplainReport.h"
+
+namespace cli {
+
+namespace {
+
+int failExplain(const std::string& error, int status) {
+  std::cerr << "zorvel explain: " << error << '\n';
+  return status;
+}
+
+}  // namespace
+
+int runExplain(const std::filesystem::path& repository, const std::string& id, bool asJson) {
+  const check::ExplainResult result = check::explainId(repository, id);
+  if (!result.isReadable) {
+    return failExplain(check::printable(repository.string()) + ": " + result.problem, EXIT_UNREADABLE);
+  }
+  if (result.explanations.empty() && !asJson) {
+    std::cerr << "zorvel explain: " << check::explainText(result);
+    return EXIT_FINDINGS;
+  }
+  const std::string error = writeStandardOutput(asJson ? check::explainJson(result) : check::explainText(result));
+  if (!error.empty()) return failExplain(error, EXIT_INTERNAL);
+  const auto& all = result.explanations;
+  const bool isGood = !all.empty() && std::all_of(all.begin(), all.end(), [](const auto& one) { return one.works; });
+  return isGood ? EXIT_CLEAN : EXIT_FINDINGS;
+}
+
+}  // namespace cli

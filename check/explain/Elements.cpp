@@ -1,0 +1,97 @@
+#include "check/explain/Elements.h"
+
+#include <algorithm>
+
+#include "apps/support/ModelText.h"
+#include "host/files/Paths.h"
+#include "model/RepositoryFormat.h"
+
+namespace check {
+
+using ZORVEL::CharacterData;
+using ZORVEL::DataContainer;
+using ZORVEL::XmlElement;
+
+namespace {
+
+/// Their "id" is another element's, or nobody's.
+bool isReference(std::optional<EntryKind> kind) {
+  return kind == EntryKind::Exclude || kind == EntryKind::MandatoryAsset || kind == EntryKind::Select ||
+         kind == EntryKind::MatrixRow;
+}
+
+std::string idIn(const XmlElement& element) {
+  const wchar_t* id = element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID);
+  return id != nullptr ? host::toUtf8(id) : "";
+}
+
+}  // namespace
+
+Elements::Elements(const Survey& survey) : survey_(survey) {
+  noteRecords();
+  const XmlElement* root = survey.findings.description().root();
+  if (root != nullptr) walk(*root, EntryKind::Repository);
+}
+
+std::vector<Element> Elements::withId(const std::string& id) const {
+  std::vector<Element> found;
+  std::copy_if(elements_.begin(), elements_.end(), std::back_inserter(found),
+               [&id](const Element& one) { return idIn(*one.source) == id; });
+  return found;
+}
+
+std::vector<std::string> Elements::ids() const {
+  std::vector<std::string> ids;
+  for (const Element& element : elements_) ids.push_back(idIn(*element.source));
+  std::sort(ids.begin(), ids.end());
+  ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
+  return ids;
+}
+
+void Elements::noteRecords() {
+  for (const DataContainer* shared : apps::globalAssets()) {
+    note(shared, nullptr, nullptr);
+    for (const DataContainer* material : apps::childrenOf(*shared)) note(material, nullptr, shared);
+  }
+  for (const CharacterData* character : apps::characters()) {
+    note(character, character, nullptr);
+    for (const ZORVEL::CONTAINER list : {ZORVEL::SKINS, ZORVEL::POSES, ZORVEL::CATEGORIES}) {
+      for (const DataContainer* record : apps::elementsOf(*character, list)) note(record, character, nullptr);
+    }
+    for (const DataContainer* clothing : apps::elementsOf(*character, ZORVEL::CLOTH)) {
+      note(clothing, character, nullptr);
+      for (const DataContainer* style : apps::clothChildren(*clothing, ZORVEL::MATERIAL)) {
+        note(style, character, clothing);
+      }
+    }
+    for (const DataContainer* asset : apps::elementsOf(*character, ZORVEL::ASSETS)) {
+      note(asset, character, nullptr);
+      for (const DataContainer* material : apps::childrenOf(*asset)) note(material, character, asset);
+    }
+  }
+}
+
+void Elements::note(const DataContainer* record, const CharacterData* character, const DataContainer* owner) {
+  const XmlElement* source = survey_.elementOf(record);
+  if (source != nullptr) records_[source] = {source, {}, record, character, owner};
+}
+
+void Elements::walk(const XmlElement& element, std::optional<EntryKind> kind) {
+  if (!isReference(kind) && element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID) != nullptr) {
+    const auto found = records_.find(&element);
+    Element one = found != records_.end() ? found->second : Element();
+    one.source = &element;
+    one.kind = kind;
+    elements_.push_back(one);
+  }
+  for (const XmlElement* child = element.firstChild; child != nullptr; child = child->nextSibling) {
+    if (!kind) {
+      walk(*child, {});
+      continue;
+    }
+    const ElementLookup lookup = elementAt(*kind, child->name);
+    walk(*child, lookup.isRead() ? std::optional<EntryKind>(lookup.entry->kind) : std::nullopt);
+  }
+}
+
+}  // namespace check
