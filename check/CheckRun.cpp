@@ -19,8 +19,9 @@ namespace check {
 
 namespace {
 
-/// Of the whole, how much of the time the listings take, roughly; the rest is reading files.
+/// Of the whole, when the listings and when the rules are done, roughly; the rest is reading files.
 constexpr double LISTINGS = 0.3;
+constexpr double RULES = 0.4;
 
 void tell(const CheckerOptions& options, double from, double to, std::size_t done, std::size_t known) {
   if (options.progress) options.progress(from + (to - from) * static_cast<double>(done) / static_cast<double>(known));
@@ -85,12 +86,14 @@ void CheckRun::runRules(const CheckerOptions& options) {
   FolderRules(survey_).run();
   MatrixRules(survey_).run();
   ReferenceRules(survey_).run();
-  for (const ZORVEL::CharacterData* character : apps::characters()) {
-    OfferRules offers(survey_, *character);
+  const std::vector<ZORVEL::CharacterData*> characters = apps::characters();
+  for (std::size_t i = 0; i < characters.size(); ++i) {
+    OfferRules offers(survey_, *characters[i]);
     offers.run();
-    BuildRules(survey_, *character, offers).run();
+    BuildRules(survey_, *characters[i], offers).run();
+    tell(options, LISTINGS, RULES, i, characters.size());
   }
-  contents_.run([&options](std::size_t done, std::size_t known) { tell(options, LISTINGS, 1.0, done, known); });
+  contents_.run([&options](std::size_t done, std::size_t known) { tell(options, RULES, 1.0, done, known); });
   FileRules(survey_).run(options.targetRoot);
 }
 

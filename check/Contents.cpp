@@ -5,7 +5,9 @@
 #include <QString>
 #include <algorithm>
 #include <condition_variable>
+#include <memory>
 #include <mutex>
+#include <string_view>
 #include <vector>
 
 #include "check/ParallelWork.h"
@@ -17,40 +19,84 @@
 
 namespace check {
 
-namespace fs = std::filesystem;
-
 namespace {
 
 /// More than this nobody sensible puts into one file; to read it would take long and say little.
 constexpr std::size_t LARGEST_FILE = std::size_t{64} << 20U;
 /// Enough to tell one form from another.
 constexpr std::size_t BEGINNING = 4096;
-/// What is read at a time, in bytes of files; what is made of them takes up to thirty times as much. A larger file is
-/// read alone.
+/// What costs a share about as much as a single byte does.
+constexpr std::size_t AT_ONCE = std::size_t{64} << 10U;
+/// What is read at a time, in bytes of files larger than that; what is made of them takes up to thirty times as much. A
+/// larger file is read alone.
 constexpr std::uintmax_t MOST_AT_A_TIME = std::uintmax_t{16} << 20U;
 /// In pixels, far more than the window shows. Small files can hold pictures that take gigabytes.
 constexpr int MOST_DECODED = 1024 * 1024;
+
+/// Shared by those who look at files at the same time.
+struct Room {
+  std::mutex mutex;
+  std::condition_variable changed;
+  std::uintmax_t left = MOST_AT_A_TIME;
+};
+
+/// Room for one file, for as long as it lives.
+class Taken {
+ public:
+  /// Waits until the file fits.
+  Taken(Room& room, std::uintmax_t size) : room_(room), bytes_(std::min(size, MOST_AT_A_TIME)) {
+    std::unique_lock<std::mutex> lock(room_.mutex);
+    room_.changed.wait(lock, [this] { return room_.left >= bytes_; });
+    room_.left -= bytes_;
+  }
+  ~Taken() {
+    const std::lock_guard<std::mutex> lock(room_.mutex);
+    room_.left += bytes_;
+    room_.changed.notify_all();
+  }
+  Taken(const Taken&) = delete;
+  Taken& operator=(const Taken&) = delete;
+
+ private:
+  Room& room_;
+  std::uintmax_t bytes_;
+};
+
+/// A file that is looked at, and where there is to be room for it.
+struct Place {
+  const std::string& path;
+  Room& room;
+};
 
 struct Bytes {
   bool isOpened = false;
   bool isWhole = false;
   std::string text;
+  std::unique_ptr<Taken> taken;
 };
 
-/// Goes on behind the beginning only when that is what it takes.
-Bytes readFile(const fs::path& path, const std::function<bool(const std::string& beginning)>& wantsAll) {
+using Judge = std::function<bool(std::string_view beginning)>;
+
+/// Goes on behind the beginning only when that is what it takes. No path is what nobody should open.
+Bytes readFile(const Place& place, const Judge& wantsAll) {
   Bytes bytes;
-  host::RegularFile file(path);
-  bytes.isOpened = file.readUpTo(BEGINNING, bytes.text);
-  if (bytes.isOpened && !file.isAtEnd() && wantsAll(bytes.text)) {
-    bytes.text.reserve(static_cast<std::size_t>(std::min<std::uintmax_t>(file.size(), LARGEST_FILE)) + 1);
-    bytes.isOpened = file.size() > LARGEST_FILE || file.readUpTo(LARGEST_FILE + 1, bytes.text);
+  if (place.path.empty()) return bytes;
+  host::RegularFile file(place.path, host::RegularFile::Seen::InListing);
+  bytes.isOpened = file.readUpTo(AT_ONCE, bytes.text);
+  if (bytes.text.size() > BEGINNING && !wantsAll(std::string_view(bytes.text).substr(0, BEGINNING))) {
+    bytes.text.resize(BEGINNING);
+    return bytes;
+  }
+  if (bytes.isOpened && !file.isAtEnd() && file.size() <= LARGEST_FILE) {
+    bytes.taken = std::make_unique<Taken>(place.room, file.size());
+    bytes.text.reserve(static_cast<std::size_t>(file.size()) + 1);
+    bytes.isOpened = file.readUpTo(LARGEST_FILE + 1, bytes.text);
   }
   bytes.isWhole = file.isAtEnd();
   return bytes;
 }
 
-bool isText(const std::string& bytes) { return bytes.find('\0') == std::string::npos; }
+bool isText(std::string_view bytes) { return bytes.find('\0') == std::string_view::npos; }
 
 const char* const NOT_OPENED = "it cannot be opened";
 const char* const TOO_LARGE = "it has more than 64 MiB";
@@ -68,8 +114,8 @@ bool isCutOff(const std::string& bytes, const QByteArray& format) {
   return bytes.find(end) == std::string::npos;
 }
 
-void look(const fs::path& file, PictureContent& picture) {
-  const Bytes bytes = readFile(file, [](const std::string&) { return true; });
+void look(const Place& file, PictureContent& picture) {
+  const Bytes bytes = readFile(file, [](std::string_view) { return true; });
   picture.form = bytes.isOpened ? Form::Damaged : Form::Unreadable;
   picture.problem = bytes.isOpened ? TOO_LARGE : NOT_OPENED;
   if (!bytes.isWhole) return;
@@ -87,9 +133,9 @@ void look(const fs::path& file, PictureContent& picture) {
   if (problem.isEmpty()) picture.form = Form::Open;
 }
 
-bool isOpenMesh(const std::string& beginning) { return host::looksLikeGlb(beginning) || host::looksLikeObj(beginning); }
+bool isOpenMesh(std::string_view beginning) { return host::looksLikeGlb(beginning) || host::looksLikeObj(beginning); }
 
-void look(const fs::path& file, MeshContent& mesh) {
+void look(const Place& file, MeshContent& mesh) {
   const Bytes bytes = readFile(file, isOpenMesh);
   mesh.form = bytes.isOpened ? Form::Damaged : Form::Unreadable;
   mesh.problem = bytes.isOpened ? "" : NOT_OPENED;
@@ -109,7 +155,7 @@ void look(const fs::path& file, MeshContent& mesh) {
   }
 }
 
-void look(const fs::path& file, LibraryContent& library) {
+void look(const Place& file, LibraryContent& library) {
   Bytes bytes = readFile(file, isText);
   library.form = bytes.isOpened ? Form::Damaged : Form::Unreadable;
   library.problem = bytes.isOpened ? "" : NOT_OPENED;
@@ -126,49 +172,19 @@ void look(const fs::path& file, LibraryContent& library) {
 
 using Job = std::function<void()>;
 
-/// Shared by those who look at files at the same time.
-struct Room {
-  std::mutex mutex;
-  std::condition_variable changed;
-  std::uintmax_t left = MOST_AT_A_TIME;
-};
-
-/// Room for one file, for as long as it lives.
-class Taken {
- public:
-  /// Waits until the file fits.
-  Taken(Room& room, const fs::path& file) : room_(room) {
-    std::error_code unknown;
-    const std::uintmax_t size = fs::file_size(file, unknown);
-    if (!unknown) bytes_ = std::min(size, MOST_AT_A_TIME);
-    std::unique_lock<std::mutex> lock(room_.mutex);
-    room_.changed.wait(lock, [this] { return room_.left >= bytes_; });
-    room_.left -= bytes_;
-  }
-  ~Taken() {
-    const std::lock_guard<std::mutex> lock(room_.mutex);
-    room_.left += bytes_;
-    room_.changed.notify_all();
-  }
-  Taken(const Taken&) = delete;
-  Taken& operator=(const Taken&) = delete;
-
- private:
-  Room& room_;
-  std::uintmax_t bytes_ = 0;
-};
-
-template <class Content>
-void addJobs(std::map<fs::path, Content>& contents, Room& room, std::vector<Job>& jobs) {
-  for (auto& [file, content] : contents) {
-    jobs.push_back([&path = file, &result = content, &room] {
-      const Taken taken(room, path);
-      look(path, result);
-    });
+template <class Wanted>
+void addJobs(Wanted& wanted, Room& room, std::vector<Job>& jobs) {
+  for (auto& entry : wanted) {
+    jobs.push_back([&one = entry.second, &room] { look(Place{one.place, room}, one.content); });
   }
 }
 
 }  // namespace
+
+const LibraryContent* Contents::library(const std::wstring& path) const {
+  const auto found = libraries_.find(files_.find(path));
+  return found != libraries_.end() ? &found->second.content : nullptr;
+}
 
 void Contents::read(const std::function<void(std::size_t, std::size_t)>& progress) {
   std::vector<Job> jobs;

@@ -3,10 +3,12 @@
 #include <box3.h>
 
 #include <QSize>
-#include <filesystem>
+#include <algorithm>
 #include <functional>
-#include <map>
 #include <string>
+#include <unordered_map>
+
+#include "check/FolderIndex.h"
 
 namespace check {
 
@@ -42,23 +44,57 @@ struct LibraryContent {
 /// What is in the files of a repository, each read once and many at a time. First say what is wanted, then read.
 class Contents {
  public:
-  void wantPicture(const std::filesystem::path& file) { pictures_[file]; }
-  void wantMesh(const std::filesystem::path& file) { meshes_[file]; }
-  void wantLibrary(const std::filesystem::path& file) { libraries_[file]; }
+  /// Must outlive this.
+  explicit Contents(FolderIndex& files) : files_(files) {}
+
+  // What is wanted counts as referred to. Null for what is no file of the repository; else filled when it is read, and
+  // there as long as this is.
+  const PictureContent* wantPicture(const std::wstring& path) { return want(pictures_, path); }
+  const MeshContent* wantMesh(const std::wstring& path) { return want(meshes_, path); }
+  const LibraryContent* wantLibrary(const std::wstring& path) { return want(libraries_, path); }
 
   void read(const std::function<void(std::size_t done, std::size_t known)>& progress);
 
-  // Only of what was wanted.
-  const PictureContent& picture(const std::filesystem::path& file) const { return pictures_.at(file); }
-  const MeshContent& mesh(const std::filesystem::path& file) const { return meshes_.at(file); }
-  const LibraryContent& library(const std::filesystem::path& file) const { return libraries_.at(file); }
-  const std::map<std::filesystem::path, MeshContent>& meshes() const { return meshes_; }
-  const std::map<std::filesystem::path, LibraryContent>& libraries() const { return libraries_; }
+  /// Null when it was not wanted.
+  const LibraryContent* library(const std::wstring& path) const;
+  int closedMeshes() const { return countClosed(meshes_); }
+  int closedLibraries() const { return countClosed(libraries_); }
 
  private:
-  std::map<std::filesystem::path, PictureContent> pictures_;
-  std::map<std::filesystem::path, MeshContent> meshes_;
-  std::map<std::filesystem::path, LibraryContent> libraries_;
+  template <class Content>
+  struct Wanted {
+    /// Empty for what nobody should open.
+    std::string place;
+    Content content;
+  };
+  template <class Content>
+  using WantedFiles = std::unordered_map<const FolderIndex::File*, Wanted<Content>>;
+
+  template <class Content>
+  const Content* want(WantedFiles<Content>& wanted, const std::wstring& path);
+  template <class Content>
+  static int countClosed(const WantedFiles<Content>& wanted);
+
+  FolderIndex& files_;
+  WantedFiles<PictureContent> pictures_;
+  WantedFiles<MeshContent> meshes_;
+  WantedFiles<LibraryContent> libraries_;
 };
+
+template <class Content>
+const Content* Contents::want(WantedFiles<Content>& wanted, const std::wstring& path) {
+  const FolderIndex::File* file = files_.find(path);
+  if (file == nullptr) return nullptr;
+  if (!file->isReferredTo) files_.Look(path);
+  const auto [entry, isNew] = wanted.try_emplace(file);
+  if (isNew && file->isRegular) entry->second.place = files_.nativePath(path).string();
+  return &entry->second.content;
+}
+
+template <class Content>
+int Contents::countClosed(const WantedFiles<Content>& wanted) {
+  return static_cast<int>(std::count_if(wanted.begin(), wanted.end(),
+                                        [](const auto& entry) { return entry.second.content.form == Form::Closed; }));
+}
 
 }  // namespace check

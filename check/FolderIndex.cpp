@@ -12,6 +12,14 @@ namespace check {
 namespace fs = std::filesystem;
 using ZORVEL::DiskEntry;
 
+/// A file, or a folder when it has one.
+struct FolderIndex::Entry {
+  File file;
+  /// Leads out of the repository, and is neither.
+  bool isLinkOut = false;
+  std::unique_ptr<Folder> folder;
+};
+
 struct FolderIndex::Folder {
   /// Below the root, each name behind a slash; empty for the root.
   std::wstring path;
@@ -19,36 +27,25 @@ struct FolderIndex::Folder {
   /// Listed only when something in it is asked for: a folder of some tool, and a link, which may lead in a circle.
   bool isPassedOver = false;
   std::string problem;
-  std::unordered_map<std::wstring, File> files;
-  std::unordered_map<std::wstring, std::unique_ptr<Folder>> folders;
-  std::set<std::wstring> linksOut;
-
-  bool has(const std::wstring& name) const {
-    return files.count(name) > 0 || folders.count(name) > 0 || linksOut.count(name) > 0;
-  }
+  std::unordered_map<std::wstring, Entry> entries;
   /// From folded names to those on disk, made when a name is first not there as written.
-  std::unordered_map<std::wstring, std::wstring> folded;
+  std::unordered_map<std::wstring, Named*> folded;
 };
 
 namespace {
-
-const wchar_t* const SEPARATORS = L"\\/";
 
 bool isPassedOver(const fs::directory_entry& entry) {
   std::error_code unknown;
   return entry.path().filename().native().front() == '.' || entry.is_symlink(unknown);
 }
 
-/// Of two names that are alike the first by the order of characters counts, as everywhere.
-void addFolded(std::unordered_map<std::wstring, std::wstring>& folded, const std::wstring& name) {
-  std::wstring& held = folded[host::inCapitals(name)];
-  if (held.empty() || name < held) held = name;
-}
+bool isSeparator(wchar_t c) { return c == L'\\' || c == L'/'; }
 
 std::wstring_view nextName(std::wstring_view& rest) {
-  const std::size_t end = rest.find_first_of(SEPARATORS);
+  std::size_t end = 0;
+  while (end < rest.size() && !isSeparator(rest[end])) ++end;
   const std::wstring_view name = rest.substr(0, end);
-  rest = end == std::wstring_view::npos ? std::wstring_view() : rest.substr(end + 1);
+  rest.remove_prefix(std::min(rest.size(), end + 1));
   return name;
 }
 
@@ -71,8 +68,8 @@ void FolderIndex::read(const std::function<void(std::size_t, std::size_t)>& prog
   ParallelWork<Folder*> work(
       [this](Folder* folder, std::vector<Folder*>& more) {
         ensureListed(*folder);
-        for (const auto& [name, below] : folder->folders) {
-          if (!below->isPassedOver) more.push_back(below.get());
+        for (const auto& [name, entry] : folder->entries) {
+          if (entry.folder != nullptr && !entry.folder->isPassedOver) more.push_back(entry.folder.get());
         }
       },
       progress);
@@ -90,37 +87,40 @@ void FolderIndex::list(Folder& folder) const {
 void FolderIndex::add(const fs::directory_entry& entry, Folder& folder) const {
   const std::wstring name = host::toWide(entry.path().filename().string());
   std::error_code unknown;
-  if (entry.is_symlink(unknown)) {
-    // A link that leads nowhere is nothing.
-    if (!entry.exists(unknown)) return;
-    if (leadsOut(entry.path(), root_)) {
-      folder.linksOut.insert(name);
-      return;
-    }
-  }
+  const bool isLink = entry.is_symlink(unknown);
+  // A link that leads nowhere is nothing.
+  if (isLink && !entry.exists(unknown)) return;
+  Entry& added = folder.entries[name];
+  added.isLinkOut = isLink && leadsOut(entry.path(), root_);
+  if (added.isLinkOut) return;
   if (!entry.is_directory(unknown)) {
-    folder.files[name].isRegular = entry.is_regular_file(unknown);
+    added.file.isRegular = entry.is_regular_file(unknown);
     return;
   }
-  auto below = std::make_unique<Folder>();
-  below->path = folder.path + L"/" + name;
-  below->isPassedOver = isPassedOver(entry);
-  folder.folders[name] = std::move(below);
+  added.folder = std::make_unique<Folder>();
+  added.folder->path = folder.path + L"/" + name;
+  added.folder->isPassedOver = isPassedOver(entry);
 }
 
 DiskEntry FolderIndex::Look(const std::wstring& path) {
   const Found found = findAny(path);
   if (found.isOutside) return lookOutside(path);
   if (found.file == nullptr) return found.folder != nullptr ? DiskEntry::Folder : DiskEntry::Absent;
-  if (!found.file->isReferredTo) askedFor_.insert(path.substr(prefix_.size()));
-  found.file->isReferredTo = true;
+  refer(*found.file, path);
   return DiskEntry::File;
 }
 
 bool FolderIndex::IsReadable(const std::wstring& path) {
-  const bool isFile = Look(path) == DiskEntry::File;
-  const File* file = find(path);
-  return isFile && (file == nullptr || file->isRegular);
+  const Found found = findAny(path);
+  if (found.isOutside) return lookOutside(path) == DiskEntry::File;
+  if (found.file == nullptr) return false;
+  refer(*found.file, path);
+  return found.file->isRegular;
+}
+
+void FolderIndex::refer(File& file, const std::wstring& path) {
+  if (!file.isReferredTo) askedFor_.push_back(path.substr(prefix_.size()));
+  file.isReferredTo = true;
 }
 
 const FolderIndex::File* FolderIndex::find(const std::wstring& path) { return findAny(path).file; }
@@ -129,7 +129,7 @@ fs::path FolderIndex::nativePath(const std::wstring& path) {
   const Found found = findAny(path);
   if (found.isOutside || found.folder == nullptr) return host::resolvePath(path);
   const fs::path folder = root_ / host::toUtf8(found.folder->path).erase(0, 1);
-  return found.file != nullptr ? folder / host::toUtf8(found.name) : folder;
+  return found.file != nullptr ? folder / host::toUtf8(*found.name) : folder;
 }
 
 std::string FolderIndex::shown(const std::wstring& path) const {
@@ -152,7 +152,8 @@ FolderIndex::Found FolderIndex::findAny(const std::wstring& path) {
   Found found;
   found.isOutside = path.compare(0, prefix_.size(), prefix_) != 0;
   if (found.isOutside) return found;
-  const std::size_t cut = std::max(prefix_.size(), path.find_last_of(SEPARATORS) + 1);
+  std::size_t cut = path.size();
+  while (cut > prefix_.size() && !isSeparator(path[cut - 1])) --cut;
   const Place place = folderAt(path.substr(prefix_.size(), cut - prefix_.size()));
   found.isOutside = place.isOutside;
   const std::wstring name = path.substr(cut);
@@ -167,36 +168,39 @@ FolderIndex::Found FolderIndex::findAny(const std::wstring& path) {
 
 FolderIndex::Found FolderIndex::findIn(Folder& folder, const std::wstring& name) {
   Found found;
-  found.name = onDisk(folder, name);
-  const auto file = folder.files.find(found.name);
-  if (file != folder.files.end()) {
-    found.file = &file->second;
-    found.folder = &folder;
+  Named* const entry = onDisk(folder, name);
+  if (entry == nullptr) return found;
+  found.name = &entry->first;
+  found.isOutside = entry->second.isLinkOut;
+  if (found.isOutside) {
+    tellLinkOut(folder, entry->first);
     return found;
   }
-  if (folder.linksOut.count(found.name) > 0) {
-    tellLinkOut(folder, found.name);
-    found.isOutside = true;
-    return found;
-  }
-  const auto below = folder.folders.find(found.name);
-  if (below != folder.folders.end()) found.folder = below->second.get();
+  found.folder = entry->second.folder.get();
+  if (found.folder != nullptr) return found;
+  found.file = &entry->second.file;
+  found.folder = &folder;
   return found;
 }
 
-std::wstring FolderIndex::onDisk(Folder& folder, const std::wstring& name) {
+FolderIndex::Named* FolderIndex::onDisk(Folder& folder, const std::wstring& name) {
   ensureListed(folder);
-  if (folder.has(name)) return name;
+  const auto asWritten = folder.entries.find(name);
+  if (asWritten != folder.entries.end()) return &*asWritten;
   if (folder.folded.empty()) {
-    for (const auto& [file, entry] : folder.files) addFolded(folder.folded, file);
-    for (const auto& [below, entry] : folder.folders) addFolded(folder.folded, below);
-    for (const std::wstring& link : folder.linksOut) addFolded(folder.folded, link);
+    for (Named& entry : folder.entries) addFolded(folder.folded, entry);
   }
   const auto alike = folder.folded.find(host::inCapitals(name));
-  if (alike == folder.folded.end()) return name;
+  if (alike == folder.folded.end()) return nullptr;
   const std::string path = host::toUtf8(folder.path + L"/").erase(0, 1);
-  caseDifferences_.insert({path + host::toUtf8(name), path + host::toUtf8(alike->second)});
+  caseDifferences_.insert({path + host::toUtf8(name), path + host::toUtf8(alike->second->first)});
   return alike->second;
+}
+
+/// Of two names that are alike the first by the order of characters counts, as everywhere.
+void FolderIndex::addFolded(std::unordered_map<std::wstring, Named*>& folded, Named& entry) {
+  Named*& held = folded[host::inCapitals(entry.first)];
+  if (held == nullptr || entry.first < held->first) held = &entry;
 }
 
 void FolderIndex::tellLinkOut(const Folder& folder, const std::wstring& name) {
@@ -250,7 +254,9 @@ void FolderIndex::forEachFolder(const std::function<void(const Folder&)>& visit)
     const Folder* folder = waiting.back();
     waiting.pop_back();
     visit(*folder);
-    for (const auto& [name, below] : folder->folders) waiting.push_back(below.get());
+    for (const auto& [name, entry] : folder->entries) {
+      if (entry.folder != nullptr) waiting.push_back(entry.folder.get());
+    }
   }
 }
 
@@ -265,13 +271,18 @@ std::vector<std::pair<std::string, std::string>> FolderIndex::unreadableFolders(
 
 int FolderIndex::fileCount() const {
   std::size_t count = 0;
-  forEachFolder([&count](const Folder& folder) { count += folder.files.size(); });
+  forEachFolder([&count](const Folder& folder) {
+    const auto isFile = [](const Named& entry) { return entry.second.folder == nullptr && !entry.second.isLinkOut; };
+    count += static_cast<std::size_t>(std::count_if(folder.entries.begin(), folder.entries.end(), isFile));
+  });
   return static_cast<int>(count);
 }
 
 std::vector<std::pair<std::string, int>> FolderIndex::unreferenced() const {
   std::vector<std::pair<std::string, int>> result;
-  for (const auto& [name, below] : top_->folders) addUnreferenced(*below, result);
+  for (const auto& [name, entry] : top_->entries) {
+    if (entry.folder != nullptr) addUnreferenced(*entry.folder, result);
+  }
   std::sort(result.begin(), result.end());
   return result;
 }
@@ -281,14 +292,15 @@ bool FolderIndex::addUnreferenced(const Folder& folder, std::vector<std::pair<st
   if (folder.isPassedOver) return true;
   const std::size_t before = result.size();
   bool isUseless = true;
-  for (const auto& [name, below] : folder.folders) isUseless = addUnreferenced(*below, result) && isUseless;
-  for (const auto& [name, file] : folder.files) {
-    if (file.isReferredTo || name.front() == L'.') continue;
-    result.emplace_back(host::toUtf8(folder.path + L"/" + name).erase(0, 1), 1);
+  for (const auto& [name, entry] : folder.entries) {
+    if (entry.folder != nullptr) {
+      isUseless = addUnreferenced(*entry.folder, result) && isUseless;
+    } else if (entry.file.isReferredTo) {
+      isUseless = false;
+    } else if (name.front() != L'.' && !entry.isLinkOut) {
+      result.emplace_back(host::toUtf8(folder.path + L"/" + name).erase(0, 1), 1);
+    }
   }
-  const bool isReferredTo =
-      std::any_of(folder.files.begin(), folder.files.end(), [](const auto& file) { return file.second.isReferredTo; });
-  isUseless = isUseless && !isReferredTo;
   int count = 0;
   for (std::size_t i = before; i < result.size(); ++i) count += result[i].second;
   if (!isUseless || count < 2) return isUseless;

@@ -52,7 +52,7 @@ class FolderIndex : public ZORVEL::DiskView {
   /// True for every regular file: whether it can be opened shows when it is read.
   bool IsReadable(const std::wstring& path) override;
 
-  /// Null for what is no file of the repository.
+  /// Null for what is no file of the repository. The same file is the same one however it is written.
   const File* find(const std::wstring& path);
   /// Where it is on this machine, in the letter case of the disk.
   std::filesystem::path nativePath(const std::wstring& path);
@@ -65,8 +65,8 @@ class FolderIndex : public ZORVEL::DiskView {
   /// Files that nobody has asked for, below the root and sorted; a folder of which nothing was asked for stands for all
   /// its files, with a slash at its end and their number.
   std::vector<std::pair<std::string, int>> unreferenced() const;
-  /// Files that were asked for and are there, below the root and as they were asked for.
-  const std::set<std::wstring>& askedFor() const { return askedFor_; }
+  /// Files that were asked for and are there, below the root and as they were first asked for.
+  const std::vector<std::wstring>& askedFor() const { return askedFor_; }
   /// Links that were asked for and lead out of the repository, each with where it leads.
   const std::map<std::string, std::string>& linksOut() const { return linksOut_; }
   /// Folders that could not be listed, with the reason.
@@ -75,6 +75,9 @@ class FolderIndex : public ZORVEL::DiskView {
 
  private:
   struct Folder;
+  struct Entry;
+  /// By its name on disk.
+  using Named = std::pair<const std::wstring, Entry>;
   struct Place {
     Folder* folder = nullptr;
     bool isOutside = false;
@@ -83,8 +86,8 @@ class FolderIndex : public ZORVEL::DiskView {
     /// The one found, or the one that the file is in.
     Folder* folder = nullptr;
     File* file = nullptr;
-    /// As it is on disk.
-    std::wstring name;
+    /// As it is on disk; null for what is not there.
+    const std::wstring* name = nullptr;
     bool isOutside = false;
   };
 
@@ -93,7 +96,10 @@ class FolderIndex : public ZORVEL::DiskView {
   void ensureListed(Folder& folder) const;
   Found findAny(const std::wstring& path);
   Found findIn(Folder& folder, const std::wstring& name);
-  std::wstring onDisk(Folder& folder, const std::wstring& name);
+  /// Null when it is not there.
+  Named* onDisk(Folder& folder, const std::wstring& name);
+  static void addFolded(std::unordered_map<std::wstring, Named*>& folded, Named& entry);
+  void refer(File& file, const std::wstring& path);
   void tellLinkOut(const Folder& folder, const std::wstring& name);
   Place folderAt(const std::wstring& below);
   Place walk(std::wstring_view below);
@@ -108,7 +114,7 @@ class FolderIndex : public ZORVEL::DiskView {
   std::unordered_map<std::wstring, ZORVEL::DiskEntry> outside_;
   std::set<CaseDifference> caseDifferences_;
   std::map<std::string, std::string> linksOut_;
-  std::set<std::wstring> askedFor_;
+  std::vector<std::wstring> askedFor_;
 };
 
 }  // namespace check

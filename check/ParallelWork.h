@@ -1,6 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <chrono>
 #include <condition_variable>
+#include <cstddef>
+#include <ctime>
 #include <exception>
 #include <functional>
 #include <mutex>
@@ -10,14 +14,14 @@
 
 namespace check {
 
-/// Goes through items with many threads, each of which waits for a disk most of the time: a share answers slowly, but
-/// many at once.
+/// Goes through items with as many threads as run at once, and with many more as soon as these turn out to wait for a
+/// disk most of the time: a share answers slowly, but many at once.
 template <class Item>
 class ParallelWork {
  public:
   /// What it appends to `more` is gone through as well.
   using Work = std::function<void(Item item, std::vector<Item>& more)>;
-  /// Told in the calling thread, a few times a second.
+  /// Told in the calling thread, often.
   using Progress = std::function<void(std::size_t done, std::size_t known)>;
 
   ParallelWork(Work work, Progress progress) : work_(std::move(work)), progress_(std::move(progress)) {}
@@ -26,26 +30,36 @@ class ParallelWork {
   void run(std::vector<Item> items) {
     waiting_ = std::move(items);
     known_ = waiting_.size();
-    std::vector<std::thread> threads;
-    for (int i = 0; i < THREADS; ++i) threads.emplace_back([this] { workOn(); });
+    startThreads(std::max(2U, std::thread::hardware_concurrency()));
     watch();
-    for (std::thread& thread : threads) thread.join();
+    for (std::thread& thread : threads_) thread.join();
     if (thrown_) std::rethrow_exception(thrown_);
   }
 
  private:
-  static constexpr int THREADS = 32;
+  static constexpr std::size_t MANY = 64;
 
   using Lock = std::unique_lock<std::mutex>;
+  using Clock = std::chrono::steady_clock;
 
   bool isFinished() const { return done_ == known_ || thrown_; }
 
+  void startThreads(std::size_t count) {
+    while (threads_.size() < count) threads_.emplace_back([this] { workOn(); });
+  }
+
   void watch() {
+    const Clock::time_point begin = Clock::now();
+    const std::clock_t used = std::clock();
     Lock lock(mutex_);
-    while (!changed_.wait_for(lock, std::chrono::milliseconds(250), [this] { return isFinished(); })) {
+    while (!finished_.wait_for(lock, std::chrono::milliseconds(10), [this] { return isFinished(); })) {
       const std::size_t done = done_;
       const std::size_t known = known_;
       lock.unlock();
+      const std::chrono::duration<double> passed = Clock::now() - begin;
+      // Of all threads together.
+      const double working = static_cast<double>(std::clock() - used) / CLOCKS_PER_SEC;
+      if (working < passed.count() / 2) startThreads(MANY);
       if (progress_) progress_(done, known);
       lock.lock();
     }
@@ -80,6 +94,7 @@ class ParallelWork {
     known_ += more.size();
     for (Item& item : more) waiting_.push_back(std::move(item));
     if (thrown && !thrown_) thrown_ = std::move(thrown);
+    if (isFinished()) finished_.notify_one();
     if (isFinished() || more.size() > 1) {
       changed_.notify_all();
     } else if (!more.empty()) {
@@ -91,6 +106,8 @@ class ParallelWork {
   Progress progress_;
   std::mutex mutex_;
   std::condition_variable changed_;
+  std::condition_variable finished_;
+  std::vector<std::thread> threads_;
   std::vector<Item> waiting_;
   std::size_t known_ = 0;
   std::size_t done_ = 0;

@@ -8,7 +8,7 @@ namespace check {
 namespace {
 
 /// Of one character, each of which is kept until the character is done.
-constexpr double MOST_PAIRS = 250'000;
+constexpr double MOST_PAIRS = 400'000;
 /// Of all characters; a few million take a second.
 constexpr double MOST_STEPS = 20'000'000;
 
@@ -16,23 +16,29 @@ double count(const ZORVEL::CharacterData& character, ZORVEL::CONTAINER container
   return character.GetCount(container);
 }
 
-/// What is in the elements, and in the groups of a clothing.
 double countInside(const ZORVEL::CharacterData& character, ZORVEL::CONTAINER container) {
   double inside = 0;
-  for (const ZORVEL::DataContainer* element : apps::elementsOf(character, container)) {
+  for (const ZORVEL::DataContainer* element : apps::elementsOf(character, container))
     inside += element->GetChildCount();
-    for (int i = 0; i < element->GetChildCount(); ++i) inside += element->GetChild(i)->GetChildCount();
-  }
   return inside;
 }
 
+double countSelects(const ZORVEL::CharacterData& character) {
+  double selects = 0;
+  for (const ZORVEL::DataContainer* clothing : apps::elementsOf(character, ZORVEL::CLOTH)) {
+    selects += static_cast<double>(apps::clothChildren(*clothing, ZORVEL::SELECT).size());
+  }
+  return selects;
+}
+
 double stepsFor(const ZORVEL::CharacterData& character) {
+  const double clothes = count(character, ZORVEL::CLOTH);
+  const double poses = count(character, ZORVEL::POSES);
   const double assets = count(character, ZORVEL::ASSETS);
-  const double choices = count(character, ZORVEL::CLOTH) + count(character, ZORVEL::POSES);
-  const double offered = count(character, ZORVEL::SKINS) + count(character, ZORVEL::POSES) +
-                         assets * (1 + count(character, ZORVEL::CATEGORIES)) + countInside(character, ZORVEL::ASSETS);
-  const double named = countInside(character, ZORVEL::CLOTH) + countInside(character, ZORVEL::POSES);
-  return choices * offered + named * assets;
+  const double offered = count(character, ZORVEL::SKINS) + count(character, ZORVEL::CATEGORIES) + poses + assets +
+                         countInside(character, ZORVEL::ASSETS);
+  const double mandatory = countInside(character, ZORVEL::POSES);
+  return (clothes + poses) * offered + countSelects(character) * assets + mandatory * clothes;
 }
 
 std::string textOf(double count) { return std::to_string(static_cast<long long>(count)); }

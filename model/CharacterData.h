@@ -110,6 +110,8 @@ class CharacterData : public DataContainer {
 
   DataContainer* FindClothGroup(int clothIndex, CLOTH_CHILD group) const;
   ListedAsset ListAsset(DataContainer* asset, const DataContainer* cloth) const;
+  /// Those with that text in the field, in list order.
+  std::vector<DataContainer*> AssetsWith(IndexedField indexed, const wchar_t* field, const wchar_t* text) const;
   void OrderAssetMatrix() const;
 
   DataContainer m_containers[CONTAINER_COUNT];  // indexed by CONTAINER

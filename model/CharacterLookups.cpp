@@ -9,6 +9,7 @@
 #include "model/CharacterData.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
+#include "model/RecordIndex.h"
 #include "model/RepositoryFormat.h"
 #include "model/Selection2.h"
 
@@ -44,6 +45,9 @@ bool NamesMaterialOf(const DataContainer* entry, const DataContainer& record) {
 
 DataContainer* CharacterData::FindElementById(const DataContainer* container, const wchar_t* id) {
   if (!container || !id) return nullptr;
+  if (const RecordIndex* index = container->GetChildIndex(IndexedField::Id)) {
+    return container->GetChild(index->FindFirst(id));
+  }
   for (int i = 0; i < container->GetChildCount(); ++i) {
     DataContainer* child = container->GetChild(i);
     const wchar_t* childId = Fields::Text(child, FIELD_ID);
@@ -91,11 +95,25 @@ std::vector<ListedAsset> CharacterData::ListAssetsForCategory(const DataContaine
   const wchar_t* categoryId = Fields::OptionalText(category, FIELD_ID);
   if (!categoryId) return listed;
   const DataContainer* cloth = GetCloth(Selection2::GetCloth());
-  for (int i = 0; i < GetCount(ASSETS); ++i) {
-    DataContainer* asset = GetContainerElement(ASSETS, i);
-    if (Fields::Equals(asset, FIELD_CATEGORY, categoryId)) listed.push_back(ListAsset(asset, cloth));
+  for (DataContainer* asset : AssetsWith(IndexedField::Category, FIELD_CATEGORY, categoryId)) {
+    listed.push_back(ListAsset(asset, cloth));
   }
   return listed;
+}
+
+std::vector<DataContainer*> CharacterData::AssetsWith(IndexedField indexed, const wchar_t* field,
+                                                      const wchar_t* text) const {
+  std::vector<DataContainer*> assets;
+  if (const RecordIndex* index = m_containers[ASSETS].GetChildIndex(indexed)) {
+    for (const RecordIndex::Entry& entry : index->Find(text))
+      assets.push_back(GetContainerElement(ASSETS, entry.place));
+    return assets;
+  }
+  for (int i = 0; i < GetCount(ASSETS); ++i) {
+    DataContainer* asset = GetContainerElement(ASSETS, i);
+    if (Fields::Equals(asset, field, text)) assets.push_back(asset);
+  }
+  return assets;
 }
 
 ListedAsset CharacterData::ListAsset(DataContainer* asset, const DataContainer* cloth) const {
@@ -131,9 +149,8 @@ bool CharacterData::CheckAssetStyleForClothSelection(const DataContainer* asset,
 
 bool CharacterData::FindsSelected(const DataContainer* entry) const {
   const wchar_t* id = Fields::OptionalText(entry, FIELD_ASSET_ID);
-  for (int i = 0; id && i < GetCount(ASSETS); ++i) {
-    const DataContainer* asset = GetContainerElement(ASSETS, i);
-    if (!Fields::Equals(asset, FIELD_ID, id)) continue;
+  if (!id) return false;
+  for (const DataContainer* asset : AssetsWith(IndexedField::Id, FIELD_ID, id)) {
     const DataContainer* globalAsset = GlobalBehind(asset);
     const DataContainer& record = globalAsset ? *globalAsset : *asset;
     if (record.GetChildCount() == 0 || NamesMaterialOf(entry, record)) return true;
@@ -195,9 +212,8 @@ bool CharacterData::IsRequired(const DataContainer* category) {
 DataContainer* CharacterData::FindLocalAssetForGlobal(const DataContainer* globalAsset) const {
   const wchar_t* globalId = Fields::OptionalText(globalAsset, FIELD_ID);
   if (!globalId) return nullptr;
-  for (int i = 0; i < GetCount(ASSETS); ++i) {
-    DataContainer* asset = GetContainerElement(ASSETS, i);
-    if (Data2::CheckAssetGlobal(asset) && Fields::Equals(asset, FIELD_GLOBAL_ID, globalId)) return asset;
+  for (DataContainer* asset : AssetsWith(IndexedField::GlobalId, FIELD_GLOBAL_ID, globalId)) {
+    if (Data2::CheckAssetGlobal(asset)) return asset;
   }
   return nullptr;
 }

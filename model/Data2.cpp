@@ -9,6 +9,7 @@
 #include "core/Debug.h"
 #include "model/CharacterData.h"
 #include "model/Fields.h"
+#include "model/RecordIndex.h"
 #include "model/RepositoryFormat.h"
 #include "model/RepositoryValidation.h"
 #include "model/UniqueRegistry.h"
@@ -44,6 +45,11 @@ Record* FindRecord(const std::vector<std::unique_ptr<Record>>& records, const wc
     Debug::AddDebugMessage(DEBUG_ERROR, L"Data2::GetCharacter: invalid argument");
     return nullptr;
   }
+  const auto at = [&records](int place) { return records[static_cast<std::size_t>(place)].get(); };
+  if (const RecordIndex* index = RecordIndex::Of(&records, static_cast<int>(records.size()), at, IndexedField::Id)) {
+    const int place = index->FindFirst(id);
+    return place < 0 ? nullptr : at(place);
+  }
   for (const auto& record : records) {
     const wchar_t* recordId = Fields::Text(record.get(), FIELD_ID);
     if (recordId && std::wcscmp(recordId, id) == 0) return record.get();
@@ -59,6 +65,7 @@ int AddRecord(std::vector<std::unique_ptr<Record>>& records, const wchar_t* mess
     return -1;
   }
   records.push_back(std::move(record));
+  RecordIndex::NoteChange();
   return static_cast<int>(records.size()) - 1;
 }
 
@@ -165,6 +172,7 @@ void Data2::Clear() {
   UniqueRegistry::Clear();
   store.characters.clear();
   store.globalAssets.clear();
+  RecordIndex::NoteChange();
   store.validated = false;
 }
 

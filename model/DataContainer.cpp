@@ -5,6 +5,7 @@
 #include <cwchar>
 
 #include "core/Debug.h"
+#include "model/RecordIndex.h"
 #include "model/UniqueRegistry.h"
 
 namespace ZORVEL {
@@ -28,6 +29,7 @@ bool SameText(const wchar_t* left, const wchar_t* right) { return *left == *righ
 DataContainer::~DataContainer() {
   if (m_unique != 0) UniqueRegistry::Release(*this);
   m_fields.clear();
+  if (!m_children.empty()) RecordIndex::NoteChange();
   for (DataContainer* child : m_children) delete child;
 }
 
@@ -61,6 +63,7 @@ void DataContainer::SetData(const wchar_t* field, const wchar_t* data) {
   std::unique_ptr<wchar_t[]> copy = CopyText(data);
   const wchar_t* const text = copy.get();
   SetField(FieldName(field), text, std::move(copy));
+  if (RecordIndex::IsIndexed(field)) RecordIndex::NoteChange();
 }
 
 void DataContainer::SetAllData(const FieldText* fields, int count) {
@@ -68,6 +71,7 @@ void DataContainer::SetAllData(const FieldText* fields, int count) {
     for (int i = 0; i < count; ++i) SetData(fields[i].name.GetText(), fields[i].text);
     return;
   }
+  RecordIndex::NoteChange();
   std::size_t size = 0;
   for (int i = 0; i < count; ++i) size += std::wcslen(fields[i].text) + 1;
   m_texts.reset(new wchar_t[size]);
@@ -116,6 +120,7 @@ bool DataContainer::AddChild(DataContainer* child) {
     return false;
   }
   m_children.push_back(child);
+  RecordIndex::NoteChange();
   return true;
 }
 
@@ -135,10 +140,16 @@ bool DataContainer::SetChild(int index, DataContainer* child) {
     return false;
   }
   m_children[static_cast<std::size_t>(index)] = child;
+  RecordIndex::NoteChange();
   return true;
 }
 
 int DataContainer::GetChildCount() const { return static_cast<int>(m_children.size()); }
+
+const RecordIndex* DataContainer::GetChildIndex(IndexedField field) const {
+  const auto at = [this](int place) { return m_children[static_cast<std::size_t>(place)]; };
+  return RecordIndex::Of(this, GetChildCount(), at, field);
+}
 
 bool DataContainer::GetFastFlag(int flag) const {
   if (flag < 0 || flag >= FAST_FLAG_COUNT) {
@@ -181,6 +192,7 @@ void DataContainer::RemoveInvalidChildren() {
                                                   [](const DataContainer* child) { return child && child->IsValid(); });
   const std::vector<DataContainer*> dropped(firstDropped, m_children.end());
   m_children.erase(firstDropped, m_children.end());
+  RecordIndex::NoteChange();
   for (DataContainer* child : dropped) delete child;
 }
 

@@ -9,6 +9,9 @@ namespace ZORVEL {
 
 enum DataType : int { TYPE_NONE = 0, TYPE_SPECIFIC = 1, TYPE_COMMON = 2 };
 
+class RecordIndex;
+enum class IndexedField;
+
 enum FastFlag : int {
   FLAG_VALID = 0  ///< the element's folder was found on disk by the last validation
 };
@@ -42,6 +45,8 @@ class DataContainer {
   /// Overwrites a slot, null allowed. The record that was there is not destroyed: it is the caller's from then on.
   bool SetChild(int index, DataContainer* child);
   int GetChildCount() const;
+  /// Null for few children. Valid until the next change of any record.
+  const RecordIndex* GetChildIndex(IndexedField field) const;
 
   /// Flags are numbered 0 to 4; any other number is logged and reads as false.
   bool GetFastFlag(int flag) const;

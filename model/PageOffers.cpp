@@ -46,9 +46,9 @@ void Hide(PageOffer& page, OfferedElement element, Refusal refusal) {
 
 /// Available ones first, each group in the order of insertion.
 void ShowByAvailability(PageOffer& page, OfferedElement element) {
-  const auto isMissing = [](const OfferedElement& one) { return !one.IsAvailable(); };
+  const auto isAvailable = [](const OfferedElement& one) { return one.IsAvailable(); };
   const auto end = page.shown.end();
-  const auto place = element.IsAvailable() ? std::find_if(page.shown.begin(), end, isMissing) : end;
+  const auto place = element.IsAvailable() ? std::partition_point(page.shown.begin(), end, isAvailable) : end;
   page.shown.insert(place, std::move(element));
 }
 

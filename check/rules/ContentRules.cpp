@@ -50,8 +50,12 @@ std::string contentOf(Mtl& material) { return host::MaterialWriter().material(&m
 void ContentRules::run(const std::function<void(std::size_t, std::size_t)>& progress) {
   want();
   contents_.read(progress);
-  for (const ShownPicture& picture : survey_.pictures) lookAtPicture(picture);
-  for (const UsedMesh& mesh : survey_.meshes) lookAtMesh(mesh);
+  for (std::size_t i = 0; i < pictures_.size(); ++i) {
+    if (pictures_[i] != nullptr) lookAtPicture(survey_.pictures[i], *pictures_[i]);
+  }
+  for (std::size_t i = 0; i < meshes_.size(); ++i) {
+    if (meshes_[i] != nullptr) lookAtMesh(survey_.meshes[i], *meshes_[i]);
+  }
   lookAtLibraries();
   for (const UsedMaterial& material : survey_.materials) lookAtMaterial(material);
   referToTextures();
@@ -59,26 +63,18 @@ void ContentRules::run(const std::function<void(std::size_t, std::size_t)>& prog
 }
 
 void ContentRules::want() {
-  FolderIndex& files = survey_.files;
-  const auto isReadable = [&files](const std::wstring& path) {
-    return files.isInside(path) && files.Look(path) == DiskEntry::File;
-  };
-  for (const ShownPicture& picture : survey_.pictures) {
-    if (isReadable(picture.path)) contents_.wantPicture(files.nativePath(picture.path));
-  }
-  for (const UsedMesh& mesh : survey_.meshes) {
-    if (isReadable(mesh.path)) contents_.wantMesh(files.nativePath(mesh.path));
-  }
+  for (const ShownPicture& picture : survey_.pictures) pictures_.push_back(contents_.wantPicture(picture.path));
+  for (const UsedMesh& mesh : survey_.meshes) meshes_.push_back(contents_.wantMesh(mesh.path));
   for (const UsedMaterial& material : survey_.materials) {
     for (const std::wstring& library : material.libraries) {
-      if (isReadable(library)) contents_.wantLibrary(files.nativePath(library));
+      if (wantedLibraries_.insert(library).second) contents_.wantLibrary(library);
     }
   }
 }
 
-void ContentRules::lookAtPicture(const ShownPicture& picture) {
-  if (!survey_.files.isInside(picture.path)) return;
-  const PictureContent& content = contents_.picture(survey_.files.nativePath(picture.path));
+void ContentRules::lookAtPicture(const ShownPicture& picture, const PictureContent& content) {
+  const ZORVEL::PictureSize box = ZORVEL::PictureSize::OfBox(picture.page);
+  if (content.form == Form::Open && content.size == QSize(box.width, box.height)) return;
   const std::string file = survey_.shown(picture.path);
   if (content.form == Form::Unreadable) {
     return survey_.findings.add(RuleId::FileUnreadable, picture.record, {file, content.problem});
@@ -86,15 +82,16 @@ void ContentRules::lookAtPicture(const ShownPicture& picture) {
   if (content.form == Form::Damaged) {
     return survey_.findings.add(RuleId::PictureUnreadable, picture.record, {file, content.problem});
   }
-  const ZORVEL::PictureSize box = ZORVEL::PictureSize::OfBox(picture.page);
-  if (content.size == QSize(box.width, box.height)) return;
   survey_.findings.add(RuleId::PictureSize, picture.record,
                        {file, sizeText(content.size.width(), content.size.height()), sizeText(box.width, box.height)});
 }
 
-void ContentRules::lookAtMesh(const UsedMesh& mesh) {
-  if (!survey_.files.isInside(mesh.path)) return;
-  const MeshContent& content = contents_.mesh(survey_.files.nativePath(mesh.path));
+void ContentRules::lookAtMesh(const UsedMesh& mesh, const MeshContent& content) {
+  if (content.form == Form::Closed) return;
+  const Point3 size = content.bounds.pmax - content.bounds.pmin;
+  const float largest = std::max({size.x, size.y, size.z});
+  const Range range = plausible(mesh.kind);
+  if (content.form == Form::Open && largest >= range.least && largest <= range.most) return;
   const std::string file = survey_.shown(mesh.path);
   if (content.form == Form::Unreadable) {
     return survey_.findings.add(RuleId::FileUnreadable, mesh.record, {file, content.problem});
@@ -102,24 +99,15 @@ void ContentRules::lookAtMesh(const UsedMesh& mesh) {
   if (content.form == Form::Damaged) {
     return survey_.findings.add(RuleId::MeshUnreadable, mesh.record, {file, content.problem});
   }
-  if (content.form == Form::Closed) return;
-  const Point3 size = content.bounds.pmax - content.bounds.pmin;
-  const float largest = std::max({size.x, size.y, size.z});
-  const Range range = plausible(mesh.kind);
-  if (largest >= range.least && largest <= range.most) return;
   const std::string why = std::string(largest < range.least ? "very small for " : "very large for ") + range.subject;
   survey_.findings.add(RuleId::MeshSizeImplausible, mesh.record, {file, sizeText(size), why});
 }
 
 void ContentRules::lookAtLibraries() {
-  for (const UsedMaterial& used : survey_.materials) {
-    for (const std::wstring& library : used.libraries) {
-      const std::string problem = libraries_.problemOf(library);
-      if (!problem.empty()) {
-        survey_.findings.addToFile(RuleId::LibraryUnreadable, survey_.shown(library),
-                                   {survey_.shown(library), problem});
-      }
-    }
+  for (const std::wstring& library : wantedLibraries_) {
+    const std::string& problem = libraries_.problemOf(library);
+    if (problem.empty()) continue;
+    survey_.findings.addToFile(RuleId::LibraryUnreadable, survey_.shown(library), {survey_.shown(library), problem});
   }
 }
 
@@ -134,13 +122,12 @@ void ContentRules::referToTextures() {
 }
 
 void ContentRules::countClosed() {
-  const auto isClosed = [](const auto& entry) { return entry.second.form == Form::Closed; };
-  const auto& meshes = contents_.meshes();
-  const auto closedMeshes = static_cast<int>(std::count_if(meshes.begin(), meshes.end(), isClosed));
-  if (closedMeshes > 0) survey_.findings.addToFile(RuleId::MeshNotChecked, "", {closedMeshes});
-  const auto& libraries = contents_.libraries();
-  const auto closedLibraries = static_cast<int>(std::count_if(libraries.begin(), libraries.end(), isClosed));
-  if (closedLibraries > 0) survey_.findings.addToFile(RuleId::LibraryNotChecked, "", {closedLibraries});
+  if (contents_.closedMeshes() > 0) {
+    survey_.findings.addToFile(RuleId::MeshNotChecked, "", {contents_.closedMeshes()});
+  }
+  if (contents_.closedLibraries() > 0) {
+    survey_.findings.addToFile(RuleId::LibraryNotChecked, "", {contents_.closedLibraries()});
+  }
 }
 
 void ContentRules::lookAtMaterial(const UsedMaterial& used) {
@@ -176,12 +163,14 @@ void ContentRules::lookIntoMaterial(const UsedMaterial& used, const std::wstring
 }
 
 void ContentRules::compareWithOthers(const UsedMaterial& used, const std::wstring& library) {
-  const auto [first, isNew] = firstLibrary_.emplace(used.name, library);
-  if (isNew || first->second == library) return;
-  if (!comparedMaterials_.emplace(used.name, library).second) return;
-  if (contentOf(*libraries_.find(library, used.name)) == contentOf(*libraries_.find(first->second, used.name))) return;
+  const auto [entry, isNew] = firsts_.try_emplace(used.name);
+  First& first = entry->second;
+  if (isNew) first.library = library;
+  if (first.library == library || !comparedMaterials_.emplace(used.name, library).second) return;
+  if (first.content.empty()) first.content = contentOf(*libraries_.find(first.library, used.name));
+  if (contentOf(*libraries_.find(library, used.name)) == first.content) return;
   survey_.findings.add(RuleId::MaterialContentsDiffer, used.record,
-                       {used.name, survey_.shown(library), survey_.shown(first->second)});
+                       {used.name, survey_.shown(library), survey_.shown(first.library)});
 }
 
 void ContentRules::lookAtTextures(const UsedMaterial& used, Mtl& material) {

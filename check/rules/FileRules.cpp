@@ -33,6 +33,9 @@ void FileRules::run(const std::string& targetRoot) {
   lookAtOverlays();
   lookAtLetterCase();
   lookAtUnreferenced();
+  for (const auto& [link, target] : survey_.files.linksOut()) {
+    survey_.findings.addToFile(RuleId::FolderOutside, link, {link, target});
+  }
   for (const auto& [folder, problem] : survey_.files.unreadableFolders()) {
     survey_.findings.addToFile(RuleId::FileUnreadable, folder, {folder.empty() ? "the folder" : folder, problem});
   }
@@ -53,6 +56,7 @@ void FileRules::lookAtOverlays() {
 }
 
 void FileRules::lookAtLetterCase() {
+  if (survey_.files.caseDifferences().empty()) return;
   std::set<std::string> exact;
   for (const std::wstring& file : survey_.files.askedFor()) exact.insert(survey_.shown(survey_.root + file));
   for (const FolderIndex::CaseDifference& one : survey_.files.caseDifferences()) {

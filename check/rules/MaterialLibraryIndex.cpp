@@ -38,7 +38,7 @@ void MaterialLibraryIndex::forEachMaterial(const std::function<void(Mtl&)>& visi
 
 bool MaterialLibraryIndex::isClosed(const std::wstring& file) { return open(file).isClosed; }
 
-std::string MaterialLibraryIndex::problemOf(const std::wstring& file) { return open(file).problem; }
+const std::string& MaterialLibraryIndex::problemOf(const std::wstring& file) { return open(file).problem; }
 
 MaterialLibraryIndex::Library& MaterialLibraryIndex::open(const std::wstring& file) {
   std::unique_ptr<Library>& library = libraries_[file];
@@ -48,14 +48,15 @@ MaterialLibraryIndex::Library& MaterialLibraryIndex::open(const std::wstring& fi
 
 std::unique_ptr<MaterialLibraryIndex::Library> MaterialLibraryIndex::load(const std::wstring& file) {
   auto library = std::make_unique<Library>();
-  if (files_.Look(file) != ZORVEL::DiskEntry::File) return library;
-  library->isClosed = !files_.isInside(file);
-  if (library->isClosed) return library;
-  const LibraryContent& content = contents_.library(files_.nativePath(file));
-  library->isClosed = content.form == Form::Closed;
-  library->problem = content.problem;
-  if (content.form != Form::Open) return library;
-  host::MaterialLibraryContent read = host::readMaterialLibraryText(content.text);
+  const LibraryContent* content = contents_.library(file);
+  if (content == nullptr) {
+    library->isClosed = files_.Look(file) == ZORVEL::DiskEntry::File && !files_.isInside(file);
+    return library;
+  }
+  library->isClosed = content->form == Form::Closed;
+  library->problem = content->problem;
+  if (content->form != Form::Open) return library;
+  host::MaterialLibraryContent read = host::readMaterialLibraryText(content->text);
   // Some of the reasons go on from the name of the file.
   library->problem = (read.error.compare(0, 3, "is ") == 0 ? "it " : "") + read.error;
   library->isLoaded = read.error.empty();

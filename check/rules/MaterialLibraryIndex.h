@@ -1,9 +1,9 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 #include "check/Contents.h"
 #include "check/FolderIndex.h"
@@ -28,7 +28,7 @@ class MaterialLibraryIndex {
   /// Whether it is there and not read here: outside the repository, or in a form that only 3ds Max reads.
   bool isClosed(const std::wstring& file);
   /// Empty for a library that was read or is not there.
-  std::string problemOf(const std::wstring& file);
+  const std::string& problemOf(const std::wstring& file);
 
  private:
   struct Library {
@@ -43,7 +43,7 @@ class MaterialLibraryIndex {
 
   FolderIndex& files_;
   const Contents& contents_;
-  std::map<std::wstring, std::unique_ptr<Library>> libraries_;
+  std::unordered_map<std::wstring, std::unique_ptr<Library>> libraries_;
 };
 
 }  // namespace check

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <algorithm>
+#include <unordered_set>
 
 #include "apps/support/ModelText.h"
 #include "host/files/Paths.h"
@@ -29,10 +30,11 @@ namespace {
 
 /// Those that can be chosen: with an id, and the first that has it.
 std::vector<const DataContainer*> choosable(const std::vector<DataContainer*>& records) {
-  std::set<std::wstring> known;
+  std::unordered_set<std::wstring> known;
   std::vector<const DataContainer*> result;
   for (const DataContainer* record : records) {
-    if (!idOf(record).empty() && known.insert(idOf(record)).second) result.push_back(record);
+    std::wstring id = idOf(record);
+    if (!id.empty() && known.insert(std::move(id)).second) result.push_back(record);
   }
   return result;
 }
@@ -116,6 +118,7 @@ void OfferRules::chooseClothes() {
     }
   }
   poses_ = choosable(apps::elementsOf(character_, ZORVEL::POSES));
+  choosablePoses_.insert(poses_.begin(), poses_.end());
   for (const DataContainer* clothing : clothes_) choose(*clothing);
   // Its poses are shown, and not to be chosen.
   for (const DataContainer* clothing : unavailable_) {
@@ -154,8 +157,7 @@ void OfferRules::notePoses(const DataContainer& clothing, const PageOffer& page)
 void OfferRules::takePoses(const DataContainer& clothing, const PageOffer& page) {
   notePoses(clothing, page);
   const auto take = [&](const OfferedElement& element, bool isShown) {
-    const bool isChoosable = std::find(poses_.begin(), poses_.end(), element.record) != poses_.end();
-    if (!isChoosable || !element.record->GetFastFlag(ZORVEL::FLAG_VALID)) return;
+    if (choosablePoses_.count(element.record) == 0 || !element.record->GetFastFlag(ZORVEL::FLAG_VALID)) return;
     worn_.push_back({&clothing, element.record, isShown, element.refusal});
   };
   for (const OfferedElement& element : page.shown) {
@@ -220,9 +222,7 @@ void OfferRules::takeAssets(const PageOffer& page) {
     tellPictureMissing(isMaterial ? RuleId::MaterialPictureMissing : RuleId::AssetPictureMissing, element,
                        isMaterial ? EntryKind::AssetMaterial : EntryKind::Asset);
   }
-  for (const ZORVEL::ListedAsset& listed : character_.ListAssetsForCategory(page.category)) {
-    if (listed.whyNot == WhyNot::NoMatrixRow) withoutRow_[listed.asset].insert(pose_);
-  }
+  if (!page.hidden.empty()) noteWithoutRow(*page.category);
   const bool isEmpty = page.shown.empty() && CharacterData::IsRequired(page.category);
   const bool hasReason = std::any_of(page.hidden.begin(), page.hidden.end(), [](const OfferedElement& element) {
     return element.refusal.why == WhyNot::NoMatrixRow;
@@ -231,8 +231,16 @@ void OfferRules::takeAssets(const PageOffer& page) {
     survey_.findings.add(RuleId::RequiredCategoryEmpty, page.category, {idOf(pose_)});
 }
 
+void OfferRules::noteWithoutRow(const DataContainer& category) {
+  for (const ZORVEL::ListedAsset& listed : character_.ListAssetsForCategory(&category)) {
+    if (listed.whyNot == WhyNot::NoMatrixRow) withoutRow_[listed.asset].insert(pose_);
+  }
+}
+
 void OfferRules::takePicture(const PageOffer& page, const OfferedElement& element) {
   const DataContainer* record = element.style != nullptr ? element.style : element.record;
+  // A pose has one for each clothing.
+  if (page.kind != PageKind::Poses && !pictured_.insert(record).second) return;
   survey_.pictures.push_back({element.picturePath, page.kind, record});
 }
 
@@ -283,19 +291,25 @@ void OfferRules::tellPair(const WornPose& pair) {
   }
 }
 
-/// Such an asset needs no page. An entry that names none may mean it.
-bool OfferRules::isAskedForByAPose(const std::wstring& id) const {
-  if (survey_.isLost(character_, EntryKind::Poses)) return true;
+OfferRules::AskedFor OfferRules::askedForByPoses() const {
   const auto all = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
+  AskedFor asked;
   for (const DataContainer* pose : apps::elementsOf(character_, ZORVEL::POSES)) {
     for (const DataContainer* entry : apps::childrenOf(*pose)) {
-      const std::wstring asked = idOf(entry);
-      const bool isLost =
-          asked.empty() || (character_.GetAsset(asked.c_str()) == nullptr && survey_.nearestTo(asked, all) == id);
-      if (isLost || asked == id) return true;
+      const std::wstring id = idOf(entry);
+      if (id.empty()) asked.isAny = true;
+      if (!asked.ids.insert(id).second || character_.GetAsset(id.c_str()) != nullptr) continue;
+      asked.ids.insert(survey_.nearestTo(id, all));
     }
   }
-  return false;
+  return asked;
+}
+
+/// Such an asset needs no page. An entry that names none may mean it.
+bool OfferRules::isAskedForByAPose(const std::wstring& id) {
+  if (survey_.isLost(character_, EntryKind::Poses)) return true;
+  if (!askedFor_) askedFor_ = askedForByPoses();
+  return askedFor_->isAny || askedFor_->ids.count(id) > 0;
 }
 
 void OfferRules::tellAssetsWithoutPage() {
@@ -314,16 +328,17 @@ void OfferRules::tellAssetsWithoutPage() {
 
 void OfferRules::tellNeverOffered() {
   const auto clothes = apps::elementsOf(character_, ZORVEL::CLOTH);
+  const bool hasAll = !clothes.empty() && !hasDroppedClothes();
   for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
     const bool isSecond = survey_.findings.has(RuleId::AssetIdDuplicate, asset) ||
                           survey_.findings.has(RuleId::GlobalReferencedTwice, asset);
     if (isSecond || survey_.isExplained(asset)) continue;
     tellWithoutRow(*asset);
+    if (!hasAll) continue;
     const bool isExcluded = std::all_of(clothes.begin(), clothes.end(), [&](const DataContainer* clothing) {
       return character_.IsAssetExcludedByCloth(clothing, asset);
     });
-    const bool hasAll = !clothes.empty() && !hasDroppedClothes();
-    if (isExcluded && hasAll) survey_.findings.add(RuleId::AssetAlwaysExcluded, asset, {});
+    if (isExcluded) survey_.findings.add(RuleId::AssetAlwaysExcluded, asset, {});
   }
 }
 

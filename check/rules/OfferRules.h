@@ -2,7 +2,9 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
+#include <unordered_set>
 
 #include "check/rules/Survey.h"
 #include "core/FileStamps.h"
@@ -39,6 +41,12 @@ class OfferRules {
  private:
   using Records = std::vector<const ZORVEL::DataContainer*>;
 
+  /// Ids of assets that entries of poses name, or seem to mean. An entry that names none may mean any.
+  struct AskedFor {
+    bool isAny = false;
+    std::set<std::wstring> ids;
+  };
+
   void lookAtLists();
   bool hasDroppedClothes() const;
   void lookAtStrip();
@@ -51,12 +59,14 @@ class OfferRules {
   void takeSkins(const ZORVEL::PageOffer& page);
   void takeStyles(const ZORVEL::PageOffer& page);
   void takeAssets(const ZORVEL::PageOffer& page);
+  void noteWithoutRow(const ZORVEL::DataContainer& category);
   void takePicture(const ZORVEL::PageOffer& page, const ZORVEL::OfferedElement& element);
   void tellPictureMissing(RuleId rule, const ZORVEL::OfferedElement& element, EntryKind kind);
 
   void tellWorn();
   void tellPair(const WornPose& pair);
-  bool isAskedForByAPose(const std::wstring& id) const;
+  AskedFor askedForByPoses() const;
+  bool isAskedForByAPose(const std::wstring& id);
   void tellAssetsWithoutPage();
   void tellNeverOffered();
   void tellWithoutRow(const ZORVEL::DataContainer& asset);
@@ -70,6 +80,9 @@ class OfferRules {
   Records clothes_;
   Records unavailable_;
   Records poses_;
+  std::unordered_set<const ZORVEL::DataContainer*> choosablePoses_;
+  /// Whose picture is noted already.
+  std::unordered_set<const ZORVEL::DataContainer*> pictured_;
   std::vector<WornPose> worn_;
   const ZORVEL::DataContainer* pose_ = nullptr;
   std::set<const ZORVEL::DataContainer*> visitedPoses_;
@@ -78,6 +91,7 @@ class OfferRules {
   /// The poses in which there is no row for an asset.
   std::map<const ZORVEL::DataContainer*, std::set<const ZORVEL::DataContainer*>> withoutRow_;
   const ZORVEL::DataContainer* clothing_ = nullptr;
+  std::optional<AskedFor> askedFor_;
 };
 
 }  // namespace check

@@ -132,10 +132,17 @@ void ReadingRules::walk(const XmlElement& element, const ElementEntry& entry) {
   }
 }
 
+/// The same few names come over and over, and to find what is near an unknown one takes its time.
+const AttributeLookup& ReadingRules::lookUp(const ElementEntry& entry, const wchar_t* name) {
+  const auto known = lookups_.find({&entry, name});
+  if (known != lookups_.end()) return known->second;
+  return lookups_.emplace(std::make_pair(&entry, name), attributeAt(entry, name)).first->second;
+}
+
 void ReadingRules::lookAtAttributes(const XmlElement& element, const ElementEntry& entry) {
   for (int i = 0; i < element.attributeCount; ++i) {
     const wchar_t* name = element.attributes[i].name.GetText();
-    const AttributeLookup lookup = attributeAt(entry, name);
+    const AttributeLookup lookup = lookUp(entry, name);
     if (lookup.answer == AttributeLookup::Answer::LetterCase) {
       survey_.findings.addMisspelt(RuleId::AttributeLetterCase, element, lookup.entry->name,
                                    {name, lookup.entry->name});

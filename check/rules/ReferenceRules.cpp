@@ -23,13 +23,6 @@ std::vector<std::string> assetIds(const CharacterData& character) {
   return apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS));
 }
 
-const DataContainer* findAsset(const CharacterData& character, const std::wstring& id) {
-  for (const DataContainer* asset : apps::elementsOf(character, ZORVEL::ASSETS)) {
-    if (Fields::Equals(asset, FIELD_ID, id.c_str())) return asset;
-  }
-  return nullptr;
-}
-
 /// The record whose materials are offered.
 const DataContainer& offeredRecord(const DataContainer& asset) {
   const DataContainer* shared = Data2::CheckAssetGlobal(&asset) ? Data2::GetGlobalAssetForAsset(&asset) : nullptr;
@@ -99,7 +92,7 @@ void ReferenceRules::lookAtExcludes(const CharacterData& character, const DataCo
     const wchar_t* id = Fields::OptionalText(exclude, FIELD_ID);
     if (id == nullptr) {
       survey_.findings.add(RuleId::ExcludeWithoutId, exclude, {});
-    } else if (findAsset(character, id) == nullptr && !survey_.isLost(character, EntryKind::Assets)) {
+    } else if (character.GetAsset(id) == nullptr && !survey_.isLost(character, EntryKind::Assets)) {
       survey_.findings.add(RuleId::ExcludeUnknown, exclude,
                            {id, survey_.hintAt(id, [&] { return assetIds(character); })});
     }
@@ -116,7 +109,7 @@ void ReferenceRules::lookAtSelect(const CharacterData& character, const DataCont
                                   const DataContainer& select) {
   const wchar_t* id = Fields::OptionalText(&select, FIELD_ASSET_ID);
   if (id == nullptr) return survey_.findings.add(RuleId::SelectWithoutAsset, &select, {});
-  const DataContainer* asset = findAsset(character, id);
+  const DataContainer* asset = character.GetAsset(id);
   if (asset == nullptr && survey_.isLost(character, EntryKind::Assets)) return;
   if (asset == nullptr) {
     return survey_.findings.add(RuleId::SelectUnknownAsset, &select,
@@ -149,7 +142,7 @@ void ReferenceRules::lookAtCategories(const CharacterData& character, const Data
   std::map<const DataContainer*, const DataContainer*> shared;
   for (const DataContainer* select : apps::clothChildren(clothing, ZORVEL::SELECT)) {
     const std::wstring id = Fields::TextOrEmpty(select, FIELD_ASSET_ID);
-    const DataContainer* asset = findAsset(character, id);
+    const DataContainer* asset = character.GetAsset(id.c_str());
     const DataContainer* category = character.GetCategory(asset);
     if (category == nullptr || character.IsAssetExcludedByCloth(&clothing, asset)) continue;
     selected[category].insert(id + L"/" + Fields::TextOrEmpty(select, FIELD_MATERIAL_ID));

@@ -18,9 +18,10 @@ bool isRegular(const struct stat& status) { return S_ISREG(status.st_mode); }
 
 }  // namespace
 
-RegularFile::RegularFile(const std::filesystem::path& file) {
+RegularFile::RegularFile(const std::filesystem::path& file, Seen seen) {
   struct stat status {};
-  if (::stat(file.c_str(), &status) != 0 || !isRegular(status)) return;
+  const bool isKnown = seen == Seen::InListing;
+  if (!isKnown && (::stat(file.c_str(), &status) != 0 || !isRegular(status))) return;
   // It may have become a pipe meanwhile.
   descriptor_ = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   if (descriptor_ < 0) return;
@@ -38,13 +39,19 @@ RegularFile::~RegularFile() {
 bool RegularFile::readUpTo(std::size_t count, std::string& bytes) {
   while (isOpen() && !isAtEnd_ && bytes.size() < count) {
     const std::size_t before = bytes.size();
-    bytes.resize(before + std::min(BLOCK, count - before));
+    bytes.resize(before + std::min({BLOCK, count - before, expected()}));
     const ssize_t read = ::read(descriptor_, bytes.data() + before, bytes.size() - before);
     bytes.resize(before + static_cast<std::size_t>(std::max<ssize_t>(read, 0)));
     if (read < 0 && errno != EINTR) return false;
-    isAtEnd_ = read == 0;
+    position_ += static_cast<std::uintmax_t>(std::max<ssize_t>(read, 0));
+    // Of a file of some length nobody has to ask whether there is more.
+    isAtEnd_ = read == 0 || (position_ == size_ && size_ != 0);
   }
   return isOpen();
+}
+
+std::size_t RegularFile::expected() const {
+  return position_ < size_ ? static_cast<std::size_t>(size_ - position_) : BLOCK;
 }
 
 int RegularFile::release() { return std::exchange(descriptor_, -1); }

@@ -10,8 +10,11 @@ namespace host {
 /// waiting for ever, and opening a device may do anything.
 class RegularFile {
  public:
+  /// Who has seen in a listing that it is a regular file spares the question, a way there and back on a share.
+  enum class Seen { Nowhere, InListing };
+
   /// Look at isOpen() before anything else.
-  explicit RegularFile(const std::filesystem::path& file);
+  explicit RegularFile(const std::filesystem::path& file, Seen seen = Seen::Nowhere);
   ~RegularFile();
   RegularFile(const RegularFile&) = delete;
   RegularFile& operator=(const RegularFile&) = delete;
@@ -27,8 +30,12 @@ class RegularFile {
   int release();
 
  private:
+  /// How many bytes are still to come, as far as that is known.
+  std::size_t expected() const;
+
   int descriptor_ = -1;
   std::uintmax_t size_ = 0;
+  std::uintmax_t position_ = 0;
   bool isAtEnd_ = false;
 };
 
