@@ -8,6 +8,7 @@
 #include "apps/support/NearestIds.h"
 #include "check/FolderIndex.h"
 #include "check/PrintableText.h"
+#include "host/files/JsonBounds.h"
 #include "host/files/RegularFile.h"
 
 namespace check {
@@ -87,7 +88,7 @@ std::string positionOf(std::string_view text, std::size_t byte) {
 
 std::string takeFile(const std::string& text, Judgement& judgement) {
   try {
-    return takeAll(Json::parse(text), judgement);
+    return host::isWithinBounds(text) ? takeAll(Json::parse(text), judgement) : "holds too much";
   } catch (const Json::parse_error& error) {
     return "is no JSON from " + positionOf(text, error.byte) + " on";
   }

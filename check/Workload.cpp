@@ -18,7 +18,8 @@ double count(const ZORVEL::CharacterData& character, ZORVEL::CONTAINER container
 
 double countInside(const ZORVEL::CharacterData& character, ZORVEL::CONTAINER container) {
   double inside = 0;
-  for (const ZORVEL::DataContainer* element : apps::elementsOf(character, container)) inside += element->GetChildCount();
+  for (const ZORVEL::DataContainer* element : apps::elementsOf(character, container))
+    inside += element->GetChildCount();
   return inside;
 }
 

@@ -146,7 +146,10 @@ void CharacterData::AddAssetMatrixElement(const wchar_t* poseID, const wchar_t* 
 }
 
 void CharacterData::ReserveAssetMatrix(int count) {
-  if (count > 0) m_assetMatrix.reserve(m_assetMatrix.size() + static_cast<std::size_t>(count));
+  if (count <= 0) return;
+  const std::size_t needed = m_assetMatrix.size() + static_cast<std::size_t>(count);
+  // With many small matrices, room for each alone would move all rows each time.
+  if (needed > m_assetMatrix.capacity()) m_assetMatrix.reserve(std::max(needed, 2 * m_assetMatrix.size()));
 }
 
 bool CharacterData::AddSkinElement(const wchar_t* id, const wchar_t* name, const wchar_t* preview, const wchar_t* url) {

@@ -264,7 +264,10 @@ class XmlTreeBuilder {
     XmlArena& arena = m_document.m_arena;
     const int count = namespaceCount + attributeCount;
     if (count > m_options.mostAttributes) return RefuseSize(L"too many attributes");
+    m_attributeCount += static_cast<std::size_t>(count);
+    if (m_attributeCount > m_options.mostAttributesInAll) return RefuseSize(L"too many attributes in all");
     if (++m_elementCount > m_options.mostElements) return RefuseSize(L"too many elements");
+    if (m_names.size() > m_options.mostNames) return RefuseSize(L"too many different names");
     auto* const list = static_cast<FieldText*>(
         arena.Allocate(static_cast<std::size_t>(count) * sizeof(FieldText), alignof(FieldText)));
     FieldText* next = list;
@@ -280,6 +283,7 @@ class XmlTreeBuilder {
     void* const memory = arena.Allocate(sizeof(XmlElement), alignof(XmlElement));
     const Place place = m_options.places ? StartOfTag() : Place{0, 0};
     Append(new (memory) XmlElement{name.GetText(), list, count, place.line, place.column, 0, nullptr, nullptr});
+    if (arena.GetSize() > m_options.mostMemory) return RefuseSize(L"too large");
     if (arena.GetSize() > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead) RefuseSize(L"entities grow beyond all bounds");
   }
 
@@ -336,6 +340,7 @@ class XmlTreeBuilder {
   // Of what is being read, as far as is known.
   std::size_t m_markupBegin = 0;
   std::size_t m_elementCount = 0;
+  std::size_t m_attributeCount = 0;
   int m_declarationCount = 0;
   bool m_refused = false;
   std::vector<OpenElement> m_open;
@@ -345,8 +350,11 @@ class XmlTreeBuilder {
 
 XmlOptions XmlOptions::Bounded() {
   XmlOptions options;
-  options.mostElements = 500000;
-  options.mostAttributes = 1000;
+  options.mostElements = 250000;
+  options.mostNames = 10000;
+  options.mostAttributes = 100;
+  options.mostAttributesInAll = 3000000;
+  options.mostMemory = std::size_t{128} << 20;
   options.longestText = 4096;
   options.longestMarkup = std::size_t{1} << 20;
   return options;

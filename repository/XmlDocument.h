@@ -41,7 +41,10 @@ struct XmlOptions {
   std::size_t largestFile = std::size_t{256} << 20;  // bytes
   bool places = true;                                // loading takes a fifth longer with them
   std::size_t mostElements = SIZE_MAX;
-  int mostAttributes = 10000;            // records look their fields up one by one
+  std::size_t mostNames = SIZE_MAX;  // different ones, of elements and attributes
+  int mostAttributes = 10000;        // of one element; records look their fields up one by one
+  std::size_t mostAttributesInAll = SIZE_MAX;
+  std::size_t mostMemory = SIZE_MAX;     // bytes that the tree takes
   std::size_t longestText = SIZE_MAX;    // bytes of an attribute's value
   std::size_t longestMarkup = SIZE_MAX;  // bytes of a start tag or a comment, roughly
 

@@ -10,6 +10,7 @@
 #include "apps/cli/PlaceByClicks.h"
 #include "apps/cli/Progress.h"
 #include "apps/support/LoadedRepository.h"
+#include "check/PrintableText.h"
 #include "host/application/Application.h"
 #include "host/application/SceneFile.h"
 #include "host/files/Paths.h"
@@ -29,7 +30,7 @@ namespace cli {
 
 namespace {
 
-void complain(const std::string& text) { std::cerr << "zorvel create: " << text << '\n'; }
+void complain(const std::string& text) { std::cerr << "zorvel create: " << check::printable(text) << '\n'; }
 
 /// Everything that keeps the result from being what was asked for, each once, in the order met.
 class Findings {
@@ -55,7 +56,7 @@ std::string describe(const ZORVEL::BuiltPiece& piece) {
 }
 
 void tell(const ZORVEL::BuildReport& report, Findings& findings) {
-  for (const ZORVEL::BuiltPiece& piece : report.pieces) std::cout << describe(piece) << '\n';
+  for (const ZORVEL::BuiltPiece& piece : report.pieces) std::cout << check::printable(describe(piece)) << '\n';
   for (const ZORVEL::BuildFinding& finding : ZORVEL::BuildFindings::Describe(report)) {
     findings.add(host::toUtf8(finding.text));
   }
@@ -128,8 +129,8 @@ int build(const CreateOptions& options, Findings& findings) {
     return EXIT_FINDINGS;
   }
   placeByClicks(*parent, pointOf(options.at), options.turn);
-  std::cout << "Built " << host::toUtf8(parent->GetName()) << ", " << application.scene().nodes().size() - nodesBefore
-            << " nodes\n";
+  std::cout << "Built " << check::printable(host::toUtf8(parent->GetName())) << ", "
+            << application.scene().nodes().size() - nodesBefore << " nodes\n";
   tell(report, findings);
   // Reads every mesh and texture, so that those which cannot be read are named even when no file is asked for.
   std::vector<host::ViewItem> items = host::viewItems(application.scene());
@@ -152,7 +153,7 @@ int runCreate(const CreateOptions& options) {
   Findings findings;
   for (const std::string& note : choice.notes) findings.add(note);
   const int status = build(options, findings);
-  for (const std::string& finding : findings.lines()) std::cerr << "finding: " << finding << '\n';
+  for (const std::string& finding : findings.lines()) std::cerr << "finding: " << check::printable(finding) << '\n';
   // The scene's objects name files of this repository; nothing of them may outlive it.
   host::Application::instance().reset();
   return status == EXIT_CLEAN && !findings.lines().empty() ? EXIT_FINDINGS : status;

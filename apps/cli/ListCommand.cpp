@@ -8,6 +8,7 @@
 #include "apps/support/LoadedRepository.h"
 #include "apps/support/ModelText.h"
 #include "apps/support/ParseNoteText.h"
+#include "check/PrintableText.h"
 #include "host/files/Paths.h"
 #include "model/Data2.h"
 #include "model/RepositoryFormat.h"
@@ -113,17 +114,21 @@ Json describe(const CharacterData& character) {
 
 Json describeAll(const std::filesystem::path& repository) {
   Json json;
-  json["repository"] = std::filesystem::absolute(repository).string();
+  std::error_code error;
+  json["repository"] = std::filesystem::absolute(repository, error).string();
   json["characters"] = Json::array();
   for (const CharacterData* character : characters()) json["characters"].push_back(describe(*character));
   json["globalAssets"] = assets(globalAssets(), nullptr);
   return json;
 }
 
+/// What the repository says may not steer the terminal.
+std::string shown(const Json& text) { return check::printable(text.get_ref<const std::string&>()); }
+
 std::string joined(const Json& entries, const char* key) {
   std::string text;
   for (const Json& entry : entries) {
-    const std::string one = entry.is_object() ? entry.at(key).get<std::string>() : entry.get<std::string>();
+    const std::string one = shown(entry.is_object() ? entry.at(key) : entry);
     text += (text.empty() ? "" : ", ") + one;
   }
   return text;
@@ -132,9 +137,9 @@ std::string joined(const Json& entries, const char* key) {
 std::string details(const Json& element) {
   std::string text;
   const auto add = [&text](const std::string& part) { text += "  " + part; };
-  if (!element.value("type", "").empty()) add(element["type"].get<std::string>());
-  if (element.contains("category")) add("in " + element["category"].get<std::string>());
-  if (element.contains("globalID")) add("stands for " + element["globalID"].get<std::string>());
+  if (!element.value("type", "").empty()) add(shown(element["type"]));
+  if (element.contains("category")) add("in " + shown(element["category"]));
+  if (element.contains("globalID")) add("stands for " + shown(element["globalID"]));
   if (element.value("multiple", false)) add("several");
   if (element.value("required", false)) add("required");
   for (const char* key : {"styles", "materials", "excludes", "selects", "mandatory"}) {
@@ -144,23 +149,23 @@ std::string details(const Json& element) {
 }
 
 std::string whyNot(const Json& element) {
-  return element.contains("whyNot") ? "  (not usable: " + element["whyNot"].get<std::string>() + ")" : "";
+  return element.contains("whyNot") ? "  (not usable: " + shown(element["whyNot"]) + ")" : "";
 }
 
 void printElements(const char* title, const Json& elements) {
   if (elements.empty()) return;
   std::cout << "  " << title << '\n';
   for (const Json& element : elements) {
-    std::cout << "    " << (element.value("usable", true) ? ' ' : '!') << ' ' << element["id"].get<std::string>()
-              << "  " << element["name"].get<std::string>() << details(element) << whyNot(element) << '\n';
+    std::cout << "    " << (element.value("usable", true) ? ' ' : '!') << ' ' << shown(element["id"]) << "  "
+              << shown(element["name"]) << details(element) << whyNot(element) << '\n';
   }
 }
 
 void print(const Json& repository) {
-  std::cout << "Repository " << repository["repository"].get<std::string>() << '\n';
+  std::cout << "Repository " << shown(repository["repository"]) << '\n';
   for (const Json& character : repository["characters"]) {
-    std::cout << "Character " << character["id"].get<std::string>() << "  " << character["name"].get<std::string>()
-              << whyNot(character) << '\n';
+    std::cout << "Character " << shown(character["id"]) << "  " << shown(character["name"]) << whyNot(character)
+              << '\n';
     for (const char* list : {"skins", "clothing", "poses", "categories", "assets"}) {
       printElements(list, character[list]);
     }
@@ -172,7 +177,7 @@ void print(const Json& repository) {
 
 /// False when something that the description has is gone.
 bool reportNotes(const std::vector<ZORVEL::ParseNote>& notes, const std::filesystem::path& repository) {
-  for (const ZORVEL::ParseNote& note : notes) std::cerr << apps::lineOf(note, repository) << '\n';
+  for (const ZORVEL::ParseNote& note : notes) std::cerr << check::printable(apps::lineOf(note, repository)) << '\n';
   return std::none_of(notes.begin(), notes.end(), apps::isLoss);
 }
 
@@ -181,7 +186,7 @@ bool reportNotes(const std::vector<ZORVEL::ParseNote>& notes, const std::filesys
 int runList(const std::filesystem::path& repository, bool asJson) {
   const apps::LoadedRepository loaded(repository);
   if (!loaded.error().empty()) {
-    std::cerr << "zorvel list: " << loaded.error() << '\n';
+    std::cerr << "zorvel list: " << check::printable(loaded.error()) << '\n';
     return EXIT_UNREADABLE;
   }
   const Json json = describeAll(repository);

@@ -33,6 +33,9 @@ void FileRules::run(const std::string& targetRoot) {
   lookAtOverlays();
   lookAtLetterCase();
   lookAtUnreferenced();
+  for (const auto& [link, target] : survey_.files.linksOut()) {
+    survey_.findings.addToFile(RuleId::FolderOutside, link, {link, target});
+  }
   for (const auto& [folder, problem] : survey_.files.unreadableFolders()) {
     survey_.findings.addToFile(RuleId::FileUnreadable, folder, {folder.empty() ? "the folder" : folder, problem});
   }

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "host/files/JsonBounds.h"
 #include "host/files/Paths.h"
 #include "host/formats/MaterialReader.h"
 #include "host/formats/Unreadable.h"
@@ -31,6 +32,7 @@ std::string contentOf(const std::filesystem::path& file) {
 }
 
 std::vector<Ref<Mtl>> materialsIn(std::string_view text) {
+  if (!isWithinBounds(text)) throw Unreadable("is too large for a material library");
   const Json document = Json::parse(text, nullptr, false);
   if (!document.is_object() || document.value("format", "") != "zorvel-material-library") {
     throw Unreadable("is no material library that this host reads");

@@ -14,11 +14,19 @@ using Json = nlohmann::ordered_json;
 
 constexpr int MAXIMUM_DEPTH = 32;
 constexpr std::size_t MAXIMUM_SLOTS = 1000;
+constexpr std::size_t LONGEST_TEXT = 100'000;
+
+/// A name or a path, which are far shorter.
+std::wstring shortText(const Json& value) {
+  const auto& text = value.get_ref<const std::string&>();
+  if (text.size() > LONGEST_TEXT) throw Unreadable("a text is too long");
+  return toWide(text);
+}
 
 MSTR text(const Json& object, const char* key) {
   const auto found = object.find(key);
   if (found == object.end()) return {};
-  return toWide(found->get<std::string>()).c_str();
+  return shortText(*found).c_str();
 }
 
 Class_ID classOf(const Json& object) {
@@ -130,7 +138,7 @@ ParameterBlock::Parameter MaterialReader::parameter(const Json& entry) {
   if (type == "float") return {id, TYPE_FLOAT, number(value)};
   if (type == "int") return {id, TYPE_INT, value.get<int>()};
   if (type == "color") return {id, TYPE_RGBA, Color(number(value.at(0)), number(value.at(1)), number(value.at(2)))};
-  if (type == "text") return {id, TYPE_STRING, toWide(value.get<std::string>())};
+  if (type == "text") return {id, TYPE_STRING, shortText(value)};
   if (type == "material") return {id, TYPE_MTL, material(value)};
   if (type == "texmap") return {id, TYPE_TEXMAP, map(value)};
   throw Unreadable("unknown parameter type \"" + type + "\"");

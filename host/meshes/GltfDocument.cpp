@@ -4,6 +4,7 @@
 #include <cstring>
 #include <string>
 
+#include "host/files/JsonBounds.h"
 #include "host/meshes/UnreadableMesh.h"
 
 namespace host {
@@ -118,7 +119,8 @@ GltfDocument::GltfDocument(std::string_view glb) {
   std::size_t offset = HEADER_SIZE;
   const std::optional<Chunk> json = nextChunk(glb, offset);
   if (!json || json->type != JSON_CHUNK) throw UnreadableMesh("the glTF file is cut short");
-  if (json->bytes.size() > LONGEST_JSON) throw UnreadableMesh("the glTF file describes too much");
+  if (json->bytes.size() > LONGEST_JSON || !isWithinBounds(json->bytes))
+    throw UnreadableMesh("the glTF file describes too much");
   root_ = Json::parse(json->bytes.begin(), json->bytes.end(), nullptr, false);
   if (!root_.is_object()) throw UnreadableMesh("the glTF file's description is not valid JSON");
   const std::optional<Chunk> binary = nextChunk(glb, offset);
@@ -191,6 +193,10 @@ GltfDocument::Elements GltfDocument::elements(std::size_t accessor, const char* 
   const auto normalized = description.find("normalized");
   return {reinterpret_cast<const unsigned char*>(bytes.data()) + (count == 0 ? 0 : offset), stride, count,
           static_cast<unsigned>(component), normalized != description.end() && *normalized == true};
+}
+
+std::size_t GltfDocument::count(std::size_t accessor) const {
+  return std::min(requiredIndex(item("accessors", accessor), "count"), binary_.size());
 }
 
 std::vector<Point3> GltfDocument::points(std::size_t accessor) const {

@@ -22,6 +22,8 @@ class GltfDocument {
   /// Item `index` of the top-level array `name`.
   const Json& item(const char* name, std::size_t index) const;
 
+  /// How many elements an accessor claims to have, or more than there can be where it claims too much.
+  std::size_t count(std::size_t accessor) const;
   std::vector<Point3> points(std::size_t accessor) const;
   /// v still downward, as in the file.
   std::vector<TexCoord> texCoords(std::size_t accessor) const;

@@ -162,9 +162,16 @@ class SceneMerger {
     appendMaterial(before, static_cast<std::uint16_t>(material));
   }
 
+  /// Before room is made for them.
+  static void requireFit(std::size_t added, std::size_t there, std::size_t most) {
+    if (there > most || added > most - there) throw UnreadableMesh("the mesh is too large");
+  }
+
   std::vector<std::uint32_t> corners(const Json& primitive, std::size_t count) const {
     const auto indices = GltfDocument::optionalIndex(primitive, "indices");
-    return indices ? document_.indices(*indices) : consecutive(count);
+    if (!indices) return consecutive(count);
+    requireFit(document_.count(*indices), 3 * mesh_.triangles.size(), 3 * MOST_TRIANGLES);
+    return document_.indices(*indices);
   }
 
   std::size_t appendVertices(const Json& primitive, const Matrix3& transform) {
@@ -172,8 +179,8 @@ class SceneMerger {
     if (attributes == primitive.end()) throw UnreadableMesh("the glTF file has triangles without positions");
     const auto positions = GltfDocument::optionalIndex(*attributes, "POSITION");
     if (!positions) throw UnreadableMesh("the glTF file has triangles without positions");
+    requireFit(document_.count(*positions), mesh_.positions.size(), MOST_VERTICES);
     const std::vector<Point3> points = document_.points(*positions);
-    if (mesh_.positions.size() + points.size() > 3 * MOST_TRIANGLES) throw UnreadableMesh("the mesh is too large");
     for (const Point3& p : points) mesh_.positions.push_back(transform.PointTransform(p));
     appendNormals(*attributes, transform);
     appendTexCoords(*attributes);
@@ -208,7 +215,7 @@ class SceneMerger {
   }
 
   void appendTriangles(const std::vector<Mesh::Triangle>& triangles, std::size_t first, std::size_t count, bool flip) {
-    if (mesh_.triangles.size() + triangles.size() > MOST_TRIANGLES) throw UnreadableMesh("the mesh is too large");
+    requireFit(triangles.size(), mesh_.triangles.size(), MOST_TRIANGLES);
     for (const Mesh::Triangle& triangle : triangles) {
       const bool inside = triangle[0] < count && triangle[1] < count && triangle[2] < count;
       if (!inside) throw UnreadableMesh("the glTF file has triangles without positions");

@@ -69,6 +69,7 @@ class ObjReader {
   void readLine(std::string_view line) {
     const std::string_view word = nextWord(line);
     if (word == "v") {
+      if (positions_.size() == MOST_VERTICES) fail("the mesh is too large");
       positions_.push_back(nextPoint(line));
       firstVertex_.push_back(NONE);
     } else if (word == "vn") {
@@ -83,9 +84,10 @@ class ObjReader {
     }
   }
 
-  static Point3 nextPoint(std::string_view& line) {
+  Point3 nextPoint(std::string_view& line) const {
     const float x = nextNumber(line);
     const float y = nextNumber(line);
+    if (line.empty()) fail("a position is not a usable number");
     return {x, y, nextNumber(line)};
   }
 
@@ -102,12 +104,22 @@ class ObjReader {
     polygon_.clear();
     for (std::string_view word = nextWord(line); !word.empty(); word = nextWord(line)) {
       if (word.front() == '#') break;
+      if (face_.size() > MOST_TRIANGLES) fail("the mesh is too large");
       const Corner corner = readCorner(word);
       face_.push_back(vertexFor(corner));
       polygon_.push_back(positions_[corner.position]);
     }
     if (mesh_.triangles.size() + face_.size() > MOST_TRIANGLES) fail("the mesh is too large");
-    for (const auto& [a, b, c] : triangulated(polygon_)) appendTriangle({face_[a], face_[b], face_[c]});
+    for (const auto& [a, b, c] : triangulated(polygon_, mostToClip())) appendTriangle({face_[a], face_[b], face_[c]});
+  }
+
+  /// Many polygons of many corners are no mesh of a person.
+  std::size_t mostToClip() {
+    constexpr std::size_t always = 32;
+    constexpr double mostWork = 1e9;
+    const auto count = static_cast<double>(polygon_.size());
+    if (polygon_.size() > always) clipWork_ += count * count * count;
+    return clipWork_ > mostWork ? always : 512;
   }
 
   Corner readCorner(std::string_view word) const {
@@ -142,6 +154,7 @@ class ObjReader {
       if (other.texCoord == corner.texCoord && other.normal == corner.normal) return i;
     }
     const auto index = static_cast<std::uint32_t>(vertices_.size());
+    if (index == MOST_VERTICES) fail("the mesh is too large");
     vertices_.push_back({corner, first});
     first = index;
     appendVertex(corner);
@@ -195,6 +208,7 @@ class ObjReader {
   std::map<std::string, std::uint16_t, std::less<>> materials_;
   std::uint16_t material_ = 0;
   std::size_t lineNumber_ = 0;
+  double clipWork_ = 0;
   bool missesNormals_ = false;
 };
 

@@ -9,9 +9,6 @@ namespace {
 
 using Corners = std::vector<std::size_t>;
 
-// Clipping ears takes the square of the corners; a polygon of more is a fan, which is right wherever it is convex.
-constexpr std::size_t MOST_CORNERS_TO_CLIP = 512;
-
 Point3 normalOf(const std::vector<Point3>& points) {
   Point3 sum;
   for (std::size_t i = 2; i < points.size(); ++i) sum += (points[i - 1] - points[0]) ^ (points[i] - points[0]);
@@ -46,14 +43,18 @@ class EarClipper {
 
 }  // namespace
 
-std::vector<std::array<std::size_t, 3>> triangulated(const std::vector<Point3>& points) {
+std::vector<std::array<std::size_t, 3>> triangulated(const std::vector<Point3>& points, std::size_t mostToClip) {
   std::vector<std::array<std::size_t, 3>> triangles;
+  if (points.size() > mostToClip) {
+    for (std::size_t i = 2; i < points.size(); ++i) triangles.push_back({0, i - 1, i});
+    return triangles;
+  }
   Corners corners(points.size());
   std::iota(corners.begin(), corners.end(), std::size_t{0});
   const EarClipper clipper(points);
   while (corners.size() >= 3) {
     std::size_t ear = 1;
-    if (corners.size() > 3 && points.size() <= MOST_CORNERS_TO_CLIP) {
+    if (corners.size() > 3) {
       // A quad that is convex is cut from its first corner, as everyone expects; without any ear, it is cut anyhow.
       for (std::size_t tried = 0; tried < corners.size() && !clipper.isEar(corners, ear); ++tried) {
         ear = (ear + 1) % corners.size();

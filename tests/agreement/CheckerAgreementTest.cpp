@@ -295,7 +295,7 @@ class CheckedRepository {
     alone.pieces = {piece};
     for (const ZORVEL::BuildFinding& finding : ZORVEL::BuildFindings::Describe(alone)) {
       const auto isUnread = [this](const ZORVEL::LibrarySearch& search) {
-        return hasFinding(RuleId::LibraryUnreadable, shown(search.file));
+        return hasFinding(RuleId::LibraryUnreadable, shown(search.file)) || hasFinding(RuleId::LibraryNotChecked);
       };
       const auto& searches = piece.material.searches;
       if (std::any_of(searches.begin(), searches.end(), isUnread)) continue;

@@ -8,6 +8,7 @@
 #include "apps/cli/author/DescriptionFile.h"
 #include "apps/cli/author/NeededFiles.h"
 #include "apps/cli/author/NewEntry.h"
+#include "check/PrintableText.h"
 #include "host/files/Paths.h"
 #include "model/RepositoryFormat.h"
 
@@ -19,23 +20,26 @@ using namespace ZORVEL::RepositoryFormat;
 namespace {
 
 int complain(const std::string& text, ExitStatus status) {
-  std::cerr << "zorvel add: " << text << '\n';
+  std::cerr << "zorvel add: " << check::printable(text) << '\n';
   return status;
 }
 
-std::string attribute(const Element& element, const wchar_t* name) { return host::toUtf8(element.text(name)); }
+/// What the description says may not steer the terminal.
+std::string shown(const std::wstring& text) { return check::printable(host::toUtf8(text)); }
+
+std::string attribute(const Element& element, const wchar_t* name) { return shown(element.text(name)); }
 
 void printEntry(const AddOptions& options, const NewEntry& entry) {
-  std::cout << "Added the " << options.kind << " \"" << options.id << '"';
+  std::cout << "Added the " << options.kind << " \"" << check::printable(options.id) << '"';
   const std::string name = attribute(entry.element, FIELD_NAME);
   if (!name.empty()) std::cout << " (" << name << ')';
-  if (!entry.clothing.empty()) std::cout << " to the clothing \"" << host::toUtf8(entry.clothing) << "\" of";
+  if (!entry.clothing.empty()) std::cout << " to the clothing \"" << shown(entry.clothing) << "\" of";
   if (!entry.character.empty())
-    std::cout << (entry.clothing.empty() ? " to" : "") << " \"" << host::toUtf8(entry.character) << '"';
+    std::cout << (entry.clothing.empty() ? " to" : "") << " \"" << shown(entry.character) << '"';
   std::cout << ".\n";
   for (const auto& [field, value] : entry.element.attributes) {
     if (field != FIELD_ID && field != FIELD_NAME) {
-      std::cout << "  " << host::toUtf8(field) << "  " << host::toUtf8(value) << '\n';
+      std::cout << "  " << shown(field) << "  " << shown(value) << '\n';
     }
   }
   for (const Element& child : entry.element.children) {
@@ -53,7 +57,8 @@ void printFiles(const fs::path& repository, const std::wstring& root, const std:
   std::cout << "Still to be put into " << repository.string() << ":\n";
   std::vector<std::string> names;
   for (const NeededFile& file : files) {
-    names.push_back(host::nativePath(file.path).lexically_relative(host::nativePath(root)).string());
+    const fs::path path = host::nativePath(file.path).lexically_relative(host::nativePath(root));
+    names.push_back(check::printable(path.string()));
   }
   std::size_t width = 0;
   for (const std::string& name : names) width = std::max(width, name.size());

@@ -1,13 +1,12 @@
 #include "apps/cli/author/DescriptionFile.h"
 
 #include <algorithm>
-#include <fstream>
-#include <sstream>
 
 #include "apps/cli/author/XmlInsertion.h"
 #include "apps/support/ParseNoteText.h"
 #include "core/Disk.h"
 #include "host/files/Paths.h"
+#include "host/files/RegularFile.h"
 #include "host/files/TemporaryFolder.h"
 #include "host/files/WholeFile.h"
 #include "model/RepositoryFormat.h"
@@ -33,11 +32,19 @@ class Complaint : public ZORVEL::ParseObserver {
   std::string text_;
 };
 
-std::string bytesOf(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream content;
-  content << stream.rdbuf();
-  return content.str();
+/// What is edited is held several times over, to be compared.
+ZORVEL::XmlOptions bounds() {
+  ZORVEL::XmlOptions options = ZORVEL::XmlOptions::Bounded();
+  options.mostElements = 150'000;
+  options.mostMemory = std::size_t{64} << 20U;
+  return options;
+}
+
+/// Of a file that was parsed, which bounds it.
+std::string bytesOf(const fs::path& path) {
+  host::RegularFile file(path);
+  std::string bytes;
+  return file.readUpTo(ZORVEL::XmlOptions().largestFile, bytes) ? bytes : std::string();
 }
 
 bool haveSameShape(const XmlSpan& span, const Element& element) {
@@ -59,7 +66,8 @@ std::optional<Element> parsed(const std::string& text) {
   const fs::path file = folder.path() / "description.xml";
   if (folder.path().empty() || !host::writeWholeFile(file, text).empty()) return std::nullopt;
   ZORVEL::XmlError error;
-  const auto document = ZORVEL::XmlDocument::Load(host::toWide(file.string()).c_str(), error);
+  const auto document =
+      ZORVEL::XmlDocument::Load(host::toWide(file.string()).c_str(), error, bounds());
   return document ? std::optional(elementOf(document->GetRoot())) : std::nullopt;
 }
 
@@ -78,7 +86,7 @@ std::string DescriptionFile::read(const fs::path& repository) {
     return complaint.text();
   }
   ZORVEL::XmlError error;
-  const auto document = ZORVEL::XmlDocument::Load(path.c_str(), error);
+  const auto document = ZORVEL::XmlDocument::Load(path.c_str(), error, bounds());
   if (!document) {
     ZORVEL::ParseNotes::TellUnreadable(path, error);
     return complaint.text();

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "apps/cli/ExitStatus.h"
+#include "check/PrintableText.h"
 #include "host/files/TemporaryFolder.h"
 #include "samples/repository/StarterRepository.h"
 
@@ -14,7 +15,7 @@ namespace fs = std::filesystem;
 namespace {
 
 int complain(const std::string& text, ExitStatus status) {
-  std::cerr << "zorvel init: " << text << '\n';
+  std::cerr << "zorvel init: " << check::printable(text) << '\n';
   return status;
 }
 
