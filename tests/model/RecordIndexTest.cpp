@@ -76,9 +76,10 @@ TEST_F(RecordIndexTest, FindsAssetsOfCategoriesAndStandInsInTheOrderOfTheList) {
   std::vector<DataContainer*> hats;
   for (int i = 0; i < LONG_LIST; ++i) {
     const std::wstring global = L"g" + std::to_wstring(i / 3);
-    DataContainer* asset = add(character, ASSETS, {{L"category", i % 2 == 0 ? L"hats" : L"bags"},
-                                                   {L"type", i % 3 == 0 ? L"specific" : L"global"},
-                                                   {L"globalID", global.c_str()}});
+    DataContainer* asset = add(character, ASSETS,
+                               {{L"category", i % 2 == 0 ? L"hats" : L"bags"},
+                                {L"type", i % 3 == 0 ? L"specific" : L"global"},
+                                {L"globalID", global.c_str()}});
     if (i % 2 == 0) hats.push_back(asset);
     addGlobalAsset({{L"id", global.c_str()}});
   }
