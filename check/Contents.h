@@ -93,9 +93,8 @@ const Content* Contents::want(WantedFiles<Content>& wanted, const std::wstring& 
 
 template <class Content>
 int Contents::countClosed(const WantedFiles<Content>& wanted) {
-  return static_cast<int>(std::count_if(wanted.begin(), wanted.end(), [](const auto& entry) {
-    return entry.second.content.form == Form::Closed;
-  }));
+  return static_cast<int>(std::count_if(wanted.begin(), wanted.end(),
+                                        [](const auto& entry) { return entry.second.content.form == Form::Closed; }));
 }
 
 }  // namespace check

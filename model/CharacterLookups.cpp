@@ -105,7 +105,8 @@ std::vector<DataContainer*> CharacterData::AssetsWith(IndexedField indexed, cons
                                                       const wchar_t* text) const {
   std::vector<DataContainer*> assets;
   if (const RecordIndex* index = m_containers[ASSETS].GetChildIndex(indexed)) {
-    for (const RecordIndex::Entry& entry : index->Find(text)) assets.push_back(GetContainerElement(ASSETS, entry.place));
+    for (const RecordIndex::Entry& entry : index->Find(text))
+      assets.push_back(GetContainerElement(ASSETS, entry.place));
     return assets;
   }
   for (int i = 0; i < GetCount(ASSETS); ++i) {

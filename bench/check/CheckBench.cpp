@@ -46,7 +46,11 @@ void check(benchmark::State& state, const std::string& shape) {
   }
   state.counters["elements"] = repository.elements;
 }
-BENCHMARK_CAPTURE(check, typical, std::string("typical"))->Arg(3)->Arg(TYPICAL)->Arg(320)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(check, typical, std::string("typical"))
+    ->Arg(3)
+    ->Arg(TYPICAL)
+    ->Arg(320)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(check, poses, std::string("poses"))->Arg(100)->Arg(400)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(check, assets, std::string("assets"))->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(check, rows, std::string("rows"))->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);

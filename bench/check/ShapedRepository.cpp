@@ -143,7 +143,8 @@ class Writer {
       addMaterials(folder_ / id, shape_.styles, pose_);
       close("clothing");
       files_.write(folder_ / "previews" / ("preview_" + id + ".png"), clothing_);
-      for (int j = 0; j < shape_.poses; ++j) files_.write(folder_ / "previews" / (id + '_' + name("p", j) + ".png"), pose_);
+      for (int j = 0; j < shape_.poses; ++j)
+        files_.write(folder_ / "previews" / (id + '_' + name("p", j) + ".png"), pose_);
       for (int j = 0; j < shape_.poses; ++j) files_.write(folder_ / id / (id + '_' + name("p", j) + ".vrmesh"), mesh_);
     }
     close("cloth");

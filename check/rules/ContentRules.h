@@ -14,7 +14,8 @@ namespace check {
 /// What is in the pictures, meshes and material libraries that the rules before have met.
 class ContentRules {
  public:
-  explicit ContentRules(Survey& survey) : survey_(survey), contents_(survey.files), libraries_(survey.files, contents_) {}
+  explicit ContentRules(Survey& survey)
+      : survey_(survey), contents_(survey.files), libraries_(survey.files, contents_) {}
 
   void run(const std::function<void(std::size_t done, std::size_t known)>& progress);
   /// Those of the materials that the survey knows.

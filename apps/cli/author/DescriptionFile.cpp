@@ -66,8 +66,7 @@ std::optional<Element> parsed(const std::string& text) {
   const fs::path file = folder.path() / "description.xml";
   if (folder.path().empty() || !host::writeWholeFile(file, text).empty()) return std::nullopt;
   ZORVEL::XmlError error;
-  const auto document =
-      ZORVEL::XmlDocument::Load(host::toWide(file.string()).c_str(), error, bounds());
+  const auto document = ZORVEL::XmlDocument::Load(host::toWide(file.string()).c_str(), error, bounds());
   return document ? std::optional(elementOf(document->GetRoot())) : std::nullopt;
 }
 
