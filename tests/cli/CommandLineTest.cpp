@@ -102,7 +102,7 @@ TEST_F(CommandLine, ListNamesWhatWasLeftOutOrSkippedWithItsPlace) {
 }
 
 TEST_F(CommandLine, WhatARepositorySaysSteersNoTerminal) {
-  repository_.edit("<zorvel>", "<zorvel><un\u202eknown/>");
+  repository_.edit("<zorvel>", "<zorvel><character id=\"un\u202eknown\"/>");
   repository_.edit("name=\"Anna\"", "name=\"An\u009b31mna\"");
   const Outcome listed = run({"list", root()});
   EXPECT_THAT(listed.out, HasSubstr("An\\u009b31mna"));
