@@ -1,5 +1,9 @@
 #include "check/rules/FolderRules.h"
 
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
 #include "apps/support/ModelText.h"
 #include "core/WindowsNames.h"
 #include "model/Data2.h"
@@ -27,27 +31,25 @@ std::wstring writtenAttribute(const XmlElement* element, const wchar_t* name) {
   return text != nullptr ? text : L"";
 }
 
-std::vector<std::wstring> namesIn(const std::wstring& path) {
-  std::vector<std::wstring> names(1);
-  for (const wchar_t c : path) {
-    if (c == L'\\' || c == L'/') {
-      names.emplace_back();
-    } else {
-      names.back() += c;
-    }
-  }
-  return names;
+bool isSeparator(wchar_t c) { return c == L'\\' || c == L'/'; }
+
+/// Of a path the first name, which it is shortened by.
+std::wstring_view nextName(std::wstring_view& path) {
+  const auto end = static_cast<std::size_t>(std::find_if(path.begin(), path.end(), &isSeparator) - path.begin());
+  const std::wstring_view name = path.substr(0, end);
+  path.remove_prefix(std::min(path.size(), end + 1));
+  return name;
 }
 
-/// `around` is the folder below the root that the path is joined to.
-bool leadsOut(const std::wstring& around, const std::wstring& path) {
-  int depth = 0;
-  for (const std::wstring& name : namesIn(around + L'\\' + path)) {
+/// How many folders below the one that it begins in the path ends; nothing when it leaves that on the way.
+std::optional<int> depthOf(std::wstring_view path, int depth) {
+  while (!path.empty()) {
+    const std::wstring_view name = nextName(path);
     if (name == L"..") --depth;
     if (name != L".." && name != L"." && !name.empty()) ++depth;
-    if (depth < 0) return true;
+    if (depth < 0) return std::nullopt;
   }
-  return path.size() > 1 && path[1] == L':';
+  return depth;
 }
 
 }  // namespace
@@ -107,11 +109,22 @@ void FolderRules::lookAtPictures(const DataContainer& owner, const std::vector<D
   for (const DataContainer* material : materials) lookAtName(*material, FIELD_PREVIEW, folder);
 }
 
+/// `around` is the folder below the root that the path is joined to; most paths are joined to the one before.
+bool FolderRules::leadsOut(const std::wstring& around, const std::wstring& path) {
+  if (around != around_) {
+    around_ = around;
+    depth_ = depthOf(around, 0);
+  }
+  if (!depth_ || !depthOf(path, *depth_)) return true;
+  return path.size() > 1 && path[1] == L':';
+}
+
 void FolderRules::lookAtName(const DataContainer& record, const wchar_t* attribute, const std::wstring& around) {
   const std::wstring path = writtenAttribute(survey_.elementOf(&record), attribute);
   if (path.empty()) return;
   if (leadsOut(around, path)) return survey_.findings.add(RuleId::FolderOutside, &record, {attribute, path});
-  for (const std::wstring& name : namesIn(path)) {
+  for (std::wstring_view rest = path; !rest.empty();) {
+    const std::wstring name(nextName(rest));
     if (name.empty() || name == L"." || name == L"..") continue;
     const ZORVEL::NameRefusal refusal = ZORVEL::WindowsNames::WhyRefused(name);
     if (refusal.fault == ZORVEL::NameFault::None) continue;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "check/rules/Survey.h"
 
 namespace check {
@@ -16,9 +19,12 @@ class FolderRules {
               EntryKind kind);
   void lookAtPictures(const ZORVEL::DataContainer& owner, const std::vector<ZORVEL::DataContainer*>& materials,
                       const std::wstring& around);
+  bool leadsOut(const std::wstring& around, const std::wstring& path);
   void lookAtName(const ZORVEL::DataContainer& record, const wchar_t* attribute, const std::wstring& around);
 
   Survey& survey_;
+  std::wstring around_;
+  std::optional<int> depth_ = 0;
 };
 
 }  // namespace check

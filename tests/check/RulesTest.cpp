@@ -44,6 +44,13 @@ Edit folder(const std::string& file) {
     repository.folder().makeFolder(file);
   };
 }
+/// A link to what would be read, were it followed.
+Edit linkOut(const std::string& file) {
+  return [=](const CompleteRepository& repository) {
+    repository.remove(file);
+    std::filesystem::create_symlink("/proc/self/mem", repository.folder().path() / file);
+  };
+}
 Edit pipe(const std::string& file) {
   return [=](const CompleteRepository& repository) { repository.replaceByPipe(file); };
 }
@@ -76,6 +83,7 @@ std::vector<Case> readingCases() {
       {{remove("zorvel.xml")}, {"ZV101 "}},
       {{folder("zorvel.xml")}, {"ZV101 "}},
       {{pipe("zorvel.xml")}, {"ZV102 zorvel.xml: not readable"}},
+      {{linkOut("zorvel.xml")}, {"ZV102 zorvel.xml: it is a link that leads out of the repository"}},
       {{edit("</character>", "")}, {"ZV103 zorvel.xml: Opening and ending tag mismatch: character line 9 and zorvel"}},
       {{edit("<zorvel>", "<zorvel" + manyAttributes() + ">")}, {"ZV104 zorvel.xml: too many attributes"}},
       {{edit("<zorvel>", "<zorvel xmlns=\"urn:x\">")}, {"ZV105 zorvel.xml: zorvel"}},

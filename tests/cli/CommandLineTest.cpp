@@ -101,6 +101,15 @@ TEST_F(CommandLine, ListNamesWhatWasLeftOutOrSkippedWithItsPlace) {
                                                         root() + "/anna/previews/preview_k9.png.\n"));
 }
 
+TEST_F(CommandLine, WhatARepositorySaysSteersNoTerminal) {
+  repository_.edit("<zorvel>", "<zorvel><character id=\"un\u202eknown\"/>");
+  repository_.edit("name=\"Anna\"", "name=\"An\u009b31mna\"");
+  const Outcome listed = run({"list", root()});
+  EXPECT_THAT(listed.out, HasSubstr("An\\u009b31mna"));
+  EXPECT_THAT(listed.err, HasSubstr("un\\u202eknown"));
+  EXPECT_THAT(run({"create", root(), "--bare"}).out, Not(HasSubstr("\u009b")));
+}
+
 TEST_F(CommandLine, BuildsTheFirstUsableChoiceCleanlyAndWritesItsFiles) {
   repository_.mend();
   const Outcome outcome = run({"create", root(), "--picture", file("a.png"), "--width", "64", "--height", "48",

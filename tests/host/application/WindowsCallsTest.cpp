@@ -59,7 +59,7 @@ TEST(WindowsCalls, AttributesHoldSizeAndTimeOfTheLastWrite) {
   EXPECT_EQ(GetFileAttributesExW(folder.wide().c_str(), GetFileExInfoStandard, nullptr), FALSE);
 }
 
-TEST(WindowsCalls, FilesAreOpenedWithoutRegardToCaseAndFoldersNever) {
+TEST(WindowsCalls, FilesAreOpenedWithoutRegardToCaseAndNothingElseIs) {
   const support::TemporaryFolder folder;
   folder.write("Sub/File.txt", "old");
   const std::wstring root = folder.wide();
@@ -69,6 +69,8 @@ TEST(WindowsCalls, FilesAreOpenedWithoutRegardToCaseAndFoldersNever) {
   std::fclose(file);
   EXPECT_EQ(folder.read("Sub/File.txt"), "new");
   EXPECT_EQ(_wfopen((root + L"\\sub").c_str(), L"rb"), nullptr);
+  ASSERT_EQ(::mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(_wfopen((root + L"\\pipe").c_str(), L"rb"), nullptr) << "which would wait for its other end";
   EXPECT_EQ(_wfopen((root + L"\\missing\\x").c_str(), L"wb"), nullptr);
   EXPECT_EQ(_wfopen(nullptr, L"r"), nullptr);
   EXPECT_EQ(_wfopen(root.c_str(), nullptr), nullptr);
