@@ -52,9 +52,25 @@ std::filesystem::path linkedFile(const std::filesystem::path& file) {
   return error ? file : target;
 }
 
+/// A device or a pipe, in whose place no file may come.
+bool isSpecial(const std::filesystem::path& file) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(file, error);
+  return std::filesystem::is_other(status);
+}
+
+std::string writeInto(const std::filesystem::path& file, std::string_view content) {
+  const int descriptor = ::open(file.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+  if (descriptor < 0) return errorText(file, errno);
+  int error = writeAll(descriptor, content);
+  if (::close(descriptor) != 0 && error == 0) error = errno;
+  return error == 0 ? std::string() : errorText(file, error);
+}
+
 }  // namespace
 
 std::string writeWholeFile(const std::filesystem::path& file, std::string_view content) {
+  if (isSpecial(file)) return writeInto(file, content);
   const std::filesystem::path target = linkedFile(file);
   std::filesystem::path temporary;
   const int descriptor = createBeside(target, temporary);

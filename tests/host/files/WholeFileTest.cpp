@@ -1,7 +1,9 @@
 #include "host/files/WholeFile.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "tests/support/TemporaryFolder.h"
 
@@ -25,6 +27,19 @@ TEST(WholeFile, ReplacesAFileAndKeepsItsPermissionsAndLinks) {
   EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_TRUE(fs::is_symlink(folder.path() / "link"));
   EXPECT_EQ(entryCount(folder.path()), 2);
+}
+
+TEST(WholeFile, WritesIntoAPipeAndLeavesItThere) {
+  const support::TemporaryFolder folder;
+  const fs::path pipe = folder.path() / "pipe";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const int end = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+  EXPECT_EQ(writeWholeFile(pipe, "text"), "");
+  char text[8] = {};
+  EXPECT_EQ(::read(end, text, sizeof text), 4);
+  ::close(end);
+  EXPECT_TRUE(fs::is_fifo(pipe));
+  EXPECT_EQ(entryCount(folder.path()), 1);
 }
 
 TEST(WholeFile, LeavesNothingBehindWhenItFails) {
