@@ -8,6 +8,7 @@
 #include <exception>
 #include <functional>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -31,6 +32,7 @@ class ParallelWork {
     waiting_ = std::move(items);
     known_ = waiting_.size();
     startThreads(std::max(2U, std::thread::hardware_concurrency()));
+    if (threads_.empty()) workOn();
     watch();
     for (std::thread& thread : threads_) thread.join();
     if (thrown_) std::rethrow_exception(thrown_);
@@ -44,8 +46,13 @@ class ParallelWork {
 
   bool isFinished() const { return done_ == known_ || thrown_; }
 
+  /// As many as the machine allows, where it allows fewer.
   void startThreads(std::size_t count) {
-    while (threads_.size() < count) threads_.emplace_back([this] { workOn(); });
+    try {
+      while (threads_.size() < count && !isRefused_) threads_.emplace_back([this] { workOn(); });
+    } catch (const std::system_error&) {
+      isRefused_ = true;
+    }
   }
 
   void watch() {
@@ -108,6 +115,7 @@ class ParallelWork {
   std::condition_variable changed_;
   std::condition_variable finished_;
   std::vector<std::thread> threads_;
+  bool isRefused_ = false;
   std::vector<Item> waiting_;
   std::size_t known_ = 0;
   std::size_t done_ = 0;

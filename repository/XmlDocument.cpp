@@ -350,11 +350,11 @@ class XmlTreeBuilder {
 
 XmlOptions XmlOptions::Bounded() {
   XmlOptions options;
-  options.mostElements = 250000;
+  options.mostElements = 1250000;
   options.mostNames = 10000;
   options.mostAttributes = 100;
-  options.mostAttributesInAll = 3000000;
-  options.mostMemory = std::size_t{128} << 20;
+  options.mostAttributesInAll = 10000000;
+  options.mostMemory = std::size_t{640} << 20;
   options.longestText = 4096;
   options.longestMarkup = std::size_t{1} << 20;
   return options;

@@ -56,12 +56,11 @@ TEST_F(HostileRepository, DescriptionsThatAreTooMuchAreRefused) {
   const struct {
     std::string description;
     const char* why;
-  } cases[] = {{"<zorvel>" + repeated("<a/>", 250001) + "</zorvel>", "too many elements"},
+  } cases[] = {{"<zorvel>" + repeated("<a/>", 1250001) + "</zorvel>", "too many elements"},
                {"<zorvel " + numbered("a@='' ", 101) + "/>", "too many attributes"},
                {"<zorvel " + numbered("a@='' ", 150000) + "/>", "a tag or comment is too long"},
                {"<zorvel>" + numbered("<a@/>", 10002) + "</zorvel>", "too many different names"},
                {"<zorvel a='" + std::string(5000, 'x') + "'/>", "an attribute is too long"},
-               {"<zorvel>" + repeated("<a b='" + std::string(4000, 'x') + "'/>", 9000) + "</zorvel>", "too large"},
                {"<!DOCTYPE z [" + numbered("<!ENTITY e@ 'x'>", 1001) + "]><zorvel/>", "too many entities"}};
   for (const auto& one : cases) {
     repository_.write("zorvel.xml", one.description);

@@ -76,10 +76,11 @@ DescriptionFile::DescriptionFile(const fs::path& repository) { error_ = read(rep
 
 std::string DescriptionFile::read(const fs::path& repository) {
   std::error_code ignored;
-  if (!fs::is_directory(repository, ignored)) return repository.string() + " is not a folder.";
+  const fs::path root = fs::absolute(repository, ignored);
+  if (root.empty() || !fs::is_directory(repository, ignored)) return repository.string() + " is not a folder.";
   Complaint complaint(repository);
   const ZORVEL::ObservedParsing observed(complaint);
-  const std::wstring path = ZORVEL::RepositoryPaths::Description(host::toWide(fs::absolute(repository).string()));
+  const std::wstring path = ZORVEL::RepositoryPaths::Description(host::toWide(root.string()));
   if (!ZORVEL::Disk::FileExists(path)) {
     ZORVEL::ParseNotes::TellMissing(path);
     return complaint.text();
