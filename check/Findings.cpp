@@ -40,6 +40,47 @@ std::string filledIn(const std::string& sentence, const std::vector<Value>& valu
   return text;
 }
 
+/// What a finding says that the element lacks; empty for one that says something else.
+std::string missingAttribute(const Finding& finding) {
+  switch (finding.rule) {
+    case RuleId::ClothingPreviewMissing:
+    case RuleId::IdMissing:
+    case RuleId::ChoiceIdMissing:
+    case RuleId::CategoryWithoutId:
+    case RuleId::ExcludeWithoutId:
+    case RuleId::MandatoryWithoutId:
+      return "id";
+    case RuleId::ListWithoutName:
+    case RuleId::ElementWithoutName:
+    case RuleId::PoseWithoutName:
+    case RuleId::ClothingWithoutName:
+      return "name";
+    case RuleId::CharacterFolderUnnamed:
+    case RuleId::FolderUnnamed:
+    case RuleId::ClothingFolderUnnamed:
+      return "folder";
+    case RuleId::PreviewUnnamed:
+      return "preview";
+    case RuleId::MaterialUnnamed:
+      return "material";
+    case RuleId::AssetCategoryUnnamed:
+      return "category";
+    case RuleId::GlobalUnnamed:
+      return "globalID";
+    case RuleId::GlobalWithoutType:
+      return "type";
+    case RuleId::SelectWithoutAsset:
+      return "asset_id";
+    case RuleId::SelectWithoutMaterial:
+      return "material_id";
+    case RuleId::MatrixRowIncomplete:
+    case RuleId::AssetUnbuildable:
+      return finding.subject;
+    default:
+      return "";
+  }
+}
+
 }  // namespace
 
 Value::Value(std::string text) : text_(shortened(std::move(text))) {}
@@ -52,17 +93,39 @@ bool Findings::InOrder::operator()(const Finding& left, const Finding& right) co
   return key(left) < key(right);
 }
 
-void Findings::add(RuleId rule, const XmlElement* element, std::vector<Value> values) {
+Finding Findings::at(RuleId rule, const XmlElement* element) const {
   Finding finding;
   finding.rule = rule;
   finding.file = DESCRIPTION;
-  if (element != nullptr) {
-    finding.line = element->line;
-    finding.column = element->column;
-    finding.element = description_.pathOf(*element);
-    told_.emplace(rule, element);
+  if (element == nullptr) return finding;
+  finding.line = element->line;
+  finding.column = element->column;
+  finding.element = description_.pathOf(*element);
+  return finding;
+}
+
+void Findings::add(RuleId rule, const XmlElement* element, std::vector<Value> values) {
+  if (element != nullptr) told_.emplace(rule, element);
+  insert(at(rule, element), values, element);
+}
+
+void Findings::addMisspelt(RuleId rule, const XmlElement& element, const std::wstring& meant,
+                           std::vector<Value> values) {
+  if (++counts_[rule].misspellings > MOST_OF_A_RULE) return insert(at(rule, &element), values);
+  Misspelling misspelling = {host::toUtf8(meant), values.front().text(), at(rule, &element)};
+  fillIn(misspelling.finding, values);
+  misspellings_[&element].push_back(std::move(misspelling));
+}
+
+/// The sentence says why the attribute is missing, and nothing else does.
+void Findings::takeMisspelling(Finding& finding, const XmlElement* element) {
+  const auto known = misspellings_.find(element);
+  if (known == misspellings_.end()) return;
+  for (Misspelling& one : known->second) {
+    if (one.meant != missingAttribute(finding)) continue;
+    one.isTold = true;
+    finding.message += printable("; \"" + one.attribute + "\" is written \"" + one.meant + '"');
   }
-  insert(std::move(finding), values);
 }
 
 void Findings::add(RuleId rule, const ZORVEL::DataContainer* record, std::vector<Value> values) {
@@ -91,29 +154,37 @@ bool Findings::has(RuleId rule, const ZORVEL::DataContainer* record) const {
 }
 
 bool Findings::hasAny(std::initializer_list<RuleId> rules) const {
-  return std::any_of(findings_.begin(), findings_.end(), [rules](const Finding& finding) {
-    return std::find(rules.begin(), rules.end(), finding.rule) != rules.end();
-  });
+  return std::any_of(rules.begin(), rules.end(), [this](RuleId rule) { return counts_.count(rule) > 0; });
 }
 
 bool Findings::hasOtherThanHints() const {
-  return std::any_of(findings_.begin(), findings_.end(), [](const Finding& finding) {
-    return finding.severity != Severity::Hint || finding.rule == RuleId::LibraryNotChecked;
+  return std::any_of(counts_.begin(), counts_.end(), [](const auto& entry) {
+    return ruleOf(entry.first).severity != Severity::Hint || entry.first == RuleId::LibraryNotChecked;
   });
 }
 
-void Findings::insert(Finding finding, const std::vector<Value>& values) {
-  Counts& counts = counts_[finding.rule];
-  if (counts.taken == MOST_OF_A_RULE) {
-    ++counts.leftOut;
-    return;
-  }
+void Findings::fillIn(Finding& finding, const std::vector<Value>& values) {
   const Rule& rule = ruleOf(finding.rule);
   finding.severity = rule.severity;
   finding.file = printable(shortened(std::move(finding.file)));
   finding.element = printable(shortened(std::move(finding.element)));
   if (!values.empty()) finding.subject = printable(values.front().text());
   finding.message = printable(filledIn(rule.sentence, values));
+}
+
+void Findings::insert(Finding finding, const std::vector<Value>& values, const XmlElement* element) {
+  Counts& counts = counts_[finding.rule];
+  if (counts.taken == MOST_OF_A_RULE) {
+    ++counts.leftOut;
+    return;
+  }
+  fillIn(finding, values);
+  takeMisspelling(finding, element);
+  keep(std::move(finding));
+}
+
+void Findings::keep(Finding finding) {
+  Counts& counts = counts_[finding.rule];
   if (findings_.insert(std::move(finding)).second) ++counts.taken;
 }
 
@@ -129,6 +200,12 @@ void Findings::tellLeftOut(RuleId rule, int count) {
 }
 
 std::vector<Finding> Findings::takeAll() {
+  for (auto& [element, misspellings] : misspellings_) {
+    for (Misspelling& one : misspellings) {
+      if (!one.isTold) keep(std::move(one.finding));
+    }
+  }
+  misspellings_.clear();
   for (const auto& [rule, counts] : counts_) tellLeftOut(rule, counts.leftOut);
   counts_.clear();
   std::vector<Finding> all(findings_.begin(), findings_.end());

@@ -37,6 +37,10 @@ class Findings {
   /// the whole description.
   void add(RuleId rule, const ZORVEL::XmlElement* element, std::vector<Value> values);
   void add(RuleId rule, const ZORVEL::DataContainer* record, std::vector<Value> values);
+  /// Of an attribute that nobody reads, where another is meant. When the other is told to be missing, the two are one
+  /// finding; so misspellings come before what follows from them.
+  void addMisspelt(RuleId rule, const ZORVEL::XmlElement& element, const std::wstring& meant,
+                   std::vector<Value> values);
   /// At a place of the description that is no element.
   void addAt(RuleId rule, int line, int column, std::vector<Value> values);
   /// About a file below the root, or about the root itself when `file` is empty.
@@ -52,20 +56,32 @@ class Findings {
   std::vector<Finding> takeAll();
 
  private:
+  struct Misspelling {
+    std::string meant;
+    std::string attribute;
+    Finding finding;
+    bool isTold = false;
+  };
   struct InOrder {
     bool operator()(const Finding& left, const Finding& right) const;
   };
   struct Counts {
     int taken = 0;
     int leftOut = 0;
+    int misspellings = 0;
   };
 
-  void insert(Finding finding, const std::vector<Value>& values);
+  Finding at(RuleId rule, const ZORVEL::XmlElement* element) const;
+  static void fillIn(Finding& finding, const std::vector<Value>& values);
+  void insert(Finding finding, const std::vector<Value>& values, const ZORVEL::XmlElement* element = nullptr);
+  void keep(Finding finding);
+  void takeMisspelling(Finding& finding, const ZORVEL::XmlElement* element);
   void tellLeftOut(RuleId rule, int count);
 
   const Description& description_;
   std::set<Finding, InOrder> findings_;
   std::map<RuleId, Counts> counts_;
+  std::map<const ZORVEL::XmlElement*, std::vector<Misspelling>> misspellings_;
   std::set<std::pair<RuleId, const ZORVEL::XmlElement*>> told_;
 };
 

@@ -39,7 +39,7 @@ class ParallelWork {
   }
 
  private:
-  static constexpr std::size_t MANY = 64;
+  static constexpr std::size_t MANY = 128;
 
   using Lock = std::unique_lock<std::mutex>;
   using Clock = std::chrono::steady_clock;

@@ -117,12 +117,10 @@ const std::vector<Rule> RULES = {
     {RuleId::IdsDifferInCase, "ZV209", "ids-differ-in-case", WARNING,
      "the \"id\" differs from \"{other}\" in line {line} only in letter case: their files are the same on Windows",
      "Choose ids that differ in more than letter case."},
-    {RuleId::FileNamesMeet, "ZV210", "file-names-meet", HINT,
-     "clothing \"{clothing}\" in pose \"{pose}\" and clothing \"{other}\" in pose \"{otherPose}\" name the same file "
-     "{file}",
+    {RuleId::FileNamesMeet, "ZV210", "file-names-meet", HINT, "{one} and {other} name the same file {file}",
      "Choose ids so that clothing and pose together name one file only."},
     {RuleId::NameRefusedByWindows, "ZV211", "name-refused-by-windows", ERROR,
-     "\"{attribute}\" is \"{value}\", which is no name of a file in Windows: {why}", "Choose another name."},
+     "\"{attribute}\" is \"{value}\", which {why}", "Choose another name."},
     {RuleId::CategoryWithoutId, "ZV212", "category-without-id", ERROR,
      "the category has no \"id\": it has no tab and lists nothing", "Give it an \"id\" that no other has."},
 
@@ -278,8 +276,9 @@ const std::vector<Rule> RULES = {
      "the shared asset that the clothing selects is dropped again when the category \"{category}\" chooses one",
      "Put shared assets into the last category, or make the later one's \"selection\" \"multiple\"."},
     {RuleId::ValueNotUnderstood, "ZV425", "value-not-understood", WARNING,
-     "\"{attribute}\" is \"{value}\", which is not understood: {meaning}",
-     "Write exactly \"{right}\" if that is meant."},
+     "\"{attribute}\" is \"{value}\", which is not understood: {meaning}; it takes \"{one}\" "
+     "and \"{other}\"",
+     "Write the text exactly as it is read; letter case counts."},
     {RuleId::RequiredCategoryEmpty, "ZV426", "required-category-empty", WARNING,
      "the category is required, and nothing of it is offered in the pose \"{pose}\"",
      "Add rows to the asset matrix, so that something is offered in each pose."},

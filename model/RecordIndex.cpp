@@ -27,14 +27,14 @@ struct TextOrder {
 
 }  // namespace
 
-std::uint64_t RecordIndex::s_changes = 0;
+std::uint64_t RecordIndex::m_changes = 0;
 
 const RecordIndex* RecordIndex::Of(const void* list, int count, const At& at, IndexedField field) {
   static std::map<std::pair<const void*, IndexedField>, RecordIndex> made;
   static std::uint64_t madeAt = 0;
   if (count < SHORTEST_LIST) return nullptr;
-  if (madeAt != s_changes) made.clear();
-  madeAt = s_changes;
+  if (madeAt != m_changes) made.clear();
+  madeAt = m_changes;
   const auto key = std::make_pair(list, field);
   const auto found = made.find(key);
   return found != made.end() ? &found->second : &made.emplace(key, RecordIndex(count, at, field)).first->second;

@@ -23,8 +23,9 @@ class RecordIndex {
   struct Entries {
     const Entry* first;
     const Entry* last;
-    const Entry* begin() const { return first; }
-    const Entry* end() const { return last; }
+    // The names that a loop over them asks for.
+    const Entry* begin() const { return first; }  // NOLINT(readability-identifier-naming)
+    const Entry* end() const { return last; }     // NOLINT(readability-identifier-naming)
   };
   /// The record at a place of the list, which may be null.
   using At = std::function<const DataContainer*(int place)>;
@@ -39,12 +40,12 @@ class RecordIndex {
 
   static bool IsIndexed(const wchar_t* field);
   /// A list of records, or such a field of a record, has changed.
-  static void NoteChange() { ++s_changes; }
+  static void NoteChange() { ++m_changes; }
 
  private:
   RecordIndex(int count, const At& at, IndexedField field);
 
-  static std::uint64_t s_changes;
+  static std::uint64_t m_changes;
 
   const wchar_t* m_field;
   std::vector<Entry> m_entries;  // by text, then by place

@@ -64,6 +64,7 @@ void BuildRules::lookAtMandatory(const DataContainer& pose, const DataContainer&
   if (plan.canBeBuilt) return lookAtMandatoryAsset(pose, entry, plan);
   switch (plan.omission.reason) {
     case OmissionReason::UnknownId: {
+      if (survey_.isLost(character_, EntryKind::Assets)) return;
       const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::ASSETS)); };
       return survey_.findings.add(RuleId::MandatoryUnknown, &entry, {id, survey_.hintAt(id, known)});
     }
@@ -82,7 +83,8 @@ void BuildRules::lookAtMandatoryAsset(const DataContainer& pose, const DataConta
   const DataContainer& asset = *plan.record;
   const std::wstring id = idOf(&entry);
   const bool isPlaced = plan.placing == PlacingState::NotNeeded || plan.placing == PlacingState::ByRow;
-  if (!isPlaced) survey_.findings.add(RuleId::MandatoryNotPlaced, &entry, {id});
+  const bool isTold = survey_.isLost(character_, EntryKind::AssetMatrix);
+  if (!isPlaced && !isTold) survey_.findings.add(RuleId::MandatoryNotPlaced, &entry, {id});
   const bool hasMaterial = asset.CheckDatafield(FIELD_MATERIAL);
   if (isPlaced && !hasMaterial && asset.GetChildCount() > 0) {
     survey_.findings.add(RuleId::MandatoryWithoutMaterial, &entry, {id});

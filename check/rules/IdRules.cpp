@@ -5,6 +5,7 @@
 #include "apps/support/ModelText.h"
 #include "core/WindowsNames.h"
 #include "host/files/NameCase.h"
+#include "host/files/Paths.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
@@ -30,6 +31,13 @@ RuleId duplicateRule(EntryKind kind) {
     default:
       return RuleId::IdDuplicate;
   }
+}
+
+/// With this id the pictures in poses are named like those of whole clothes.
+const wchar_t* const PREVIEW_ID = L"preview";
+
+std::string inPose(const std::wstring& clothing, const std::wstring& pose) {
+  return "clothing \"" + host::toUtf8(clothing) + "\" in pose \"" + host::toUtf8(pose) + '"';
 }
 
 /// Whether files are named after the id: of the others none is in danger of being another's.
@@ -104,6 +112,19 @@ void IdRules::lookAtMissing(const DataContainer& record, EntryKind kind) {
   }
 }
 
+/// The picture of a clothing in the strip has a name like those of clothes in poses.
+void IdRules::lookAtPreviewNames(const CharacterData& character, const std::wstring& folder) {
+  for (const DataContainer* pose : apps::elementsOf(character, ZORVEL::POSES)) {
+    const std::wstring id = Fields::TextOrEmpty(pose, FIELD_ID);
+    const DataContainer* cloth = character.GetCloth(PREVIEW_ID);
+    const DataContainer* other = character.GetCloth(id.c_str());
+    if (cloth == nullptr || other == nullptr) continue;
+    survey_.findings.add(RuleId::FileNamesMeet, cloth,
+                         {inPose(PREVIEW_ID, id), "clothing \"" + apps::field(other, FIELD_ID) + "\" by itself",
+                          survey_.shown(ZORVEL::RepositoryPaths::ClothPreview(folder, other))});
+  }
+}
+
 /// Clothing and pose together name files: different pairs may name the same.
 void IdRules::lookAtFileNames(const CharacterData& character) {
   struct Pair {
@@ -121,8 +142,9 @@ void IdRules::lookAtFileNames(const CharacterData& character) {
       files.emplace(pair.clothing + COMBINED + pair.pose, pair);
     }
   }
-  if (files.empty()) return;
   const std::wstring folder = Fields::TextOrEmpty(&character, FIELD_FOLDER);
+  lookAtPreviewNames(character, folder);
+  if (files.empty()) return;
   for (const DataContainer* cloth : apps::elementsOf(character, ZORVEL::CLOTH)) {
     const std::wstring clothing = Fields::TextOrEmpty(cloth, FIELD_ID);
     for (const DataContainer* pose : poses) {
@@ -130,7 +152,7 @@ void IdRules::lookAtFileNames(const CharacterData& character) {
       const auto other = files.find(clothing + COMBINED + poseId);
       if (other == files.end() || other->second.clothing == clothing) continue;
       survey_.findings.add(RuleId::FileNamesMeet, cloth,
-                           {clothing, poseId, other->second.clothing, other->second.pose,
+                           {inPose(clothing, poseId), inPose(other->second.clothing, other->second.pose),
                             survey_.shown(ZORVEL::RepositoryPaths::PosePicture(folder, clothing, pose))});
     }
   }

@@ -16,6 +16,7 @@ class IdRules {
   void lookAt(const Records& records, EntryKind kind);
   void lookAtMissing(const ZORVEL::DataContainer& record, EntryKind kind);
   void lookAtCharacter(const ZORVEL::CharacterData& character);
+  void lookAtPreviewNames(const ZORVEL::CharacterData& character, const std::wstring& folder);
   void lookAtFileNames(const ZORVEL::CharacterData& character);
 
   Survey& survey_;

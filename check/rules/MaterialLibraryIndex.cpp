@@ -57,7 +57,8 @@ std::unique_ptr<MaterialLibraryIndex::Library> MaterialLibraryIndex::load(const 
   library->problem = content->problem;
   if (content->form != Form::Open) return library;
   host::MaterialLibraryContent read = host::readMaterialLibraryText(content->text);
-  library->problem = read.error;
+  // Some of the reasons go on from the name of the file.
+  library->problem = (read.error.compare(0, 3, "is ") == 0 ? "it " : "") + read.error;
   library->isLoaded = read.error.empty();
   for (const host::Ref<Mtl>& material : read.materials) library->materials.Add(material.get());
   return library;

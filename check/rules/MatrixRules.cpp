@@ -65,11 +65,13 @@ void MatrixRules::lookAt(const CharacterData& character, const XmlElement& eleme
     if (!isNew) {
       findings.add(RuleId::MatrixRowDuplicate, &row, {first->second});
     } else if (poses.find(poseId) == nullptr) {
+      if (survey_.isLost(character, EntryKind::Poses)) return;
       const auto known = [&] { return apps::idsOf(apps::elementsOf(character, ZORVEL::POSES)); };
       const std::wstring nearest = survey_.nearestTo(poseId, known);
       findings.add(RuleId::MatrixRowUnknownPose, &row, {poseId, hintAt(nearest)});
       if (!nearest.empty()) survey_.missedPairs.emplace(&character, nearest, assetId);
     } else if (asset == nullptr) {
+      if (survey_.isLost(character, EntryKind::Assets)) return;
       const auto known = [&] { return apps::idsOf(apps::elementsOf(character, ZORVEL::ASSETS)); };
       const std::wstring nearest = survey_.nearestTo(assetId, known);
       findings.add(RuleId::MatrixRowUnknownAsset, &row, {assetId, hintAt(nearest)});

@@ -67,14 +67,18 @@ void OfferRules::lookAtLists() {
   struct List {
     ZORVEL::CONTAINER container;
     EntryKind kind;
+    EntryKind list;
   };
-  for (const List list : {List{ZORVEL::SKINS, EntryKind::Skin}, List{ZORVEL::CLOTH, EntryKind::Clothing},
-                          List{ZORVEL::POSES, EntryKind::Pose}}) {
+  for (const List list : {List{ZORVEL::SKINS, EntryKind::Skin, EntryKind::Skins},
+                          List{ZORVEL::CLOTH, EntryKind::Clothing, EntryKind::Cloth},
+                          List{ZORVEL::POSES, EntryKind::Pose, EntryKind::Poses}}) {
     if (character_.GetCount(list.container) > 0) continue;
     // A clothing that was dropped while reading is told of already.
-    if (list.container != ZORVEL::CLOTH || !hasDroppedClothes())
-      survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
+    const bool isTold =
+        survey_.isLost(character_, list.list) || (list.container == ZORVEL::CLOTH && hasDroppedClothes());
+    if (!isTold) survey_.findings.add(RuleId::CharacterIncomplete, &character_, {wordFor(list.kind)});
   }
+  if (survey_.isLost(character_, EntryKind::Assets)) return;
   std::set<const DataContainer*> used;
   for (const DataContainer* asset : apps::elementsOf(character_, ZORVEL::ASSETS)) {
     used.insert(character_.GetCategory(asset));
@@ -223,7 +227,8 @@ void OfferRules::takeAssets(const PageOffer& page) {
   const bool hasReason = std::any_of(page.hidden.begin(), page.hidden.end(), [](const OfferedElement& element) {
     return element.refusal.why == WhyNot::NoMatrixRow;
   });
-  if (isEmpty && hasReason) survey_.findings.add(RuleId::RequiredCategoryEmpty, page.category, {idOf(pose_)});
+  if (isEmpty && hasReason && !survey_.isLost(character_, EntryKind::AssetMatrix))
+    survey_.findings.add(RuleId::RequiredCategoryEmpty, page.category, {idOf(pose_)});
 }
 
 void OfferRules::noteWithoutRow(const DataContainer& category) {
@@ -300,13 +305,15 @@ OfferRules::AskedFor OfferRules::askedForByPoses() const {
   return asked;
 }
 
-/// Such an asset needs no page.
+/// Such an asset needs no page. An entry that names none may mean it.
 bool OfferRules::isAskedForByAPose(const std::wstring& id) {
+  if (survey_.isLost(character_, EntryKind::Poses)) return true;
   if (!askedFor_) askedFor_ = askedForByPoses();
   return askedFor_->isAny || askedFor_->ids.count(id) > 0;
 }
 
 void OfferRules::tellAssetsWithoutPage() {
+  if (survey_.isLost(character_, EntryKind::Categories)) return;
   const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES)); };
   for (const OfferedElement& element : offers_.GetAssetsWithoutPage()) {
     const std::wstring& id = element.refusal.concerned;
@@ -337,7 +344,7 @@ void OfferRules::tellNeverOffered() {
 
 void OfferRules::tellWithoutRow(const DataContainer& asset) {
   const std::set<const DataContainer*>& poses = withoutRow_[&asset];
-  if (poses.empty()) return;
+  if (poses.empty() || survey_.isLost(character_, EntryKind::AssetMatrix)) return;
   if (poses.size() == visitedPoses_.size()) return survey_.findings.add(RuleId::AssetInNoPose, &asset, {});
   const auto& missed = survey_.missedPairs;
   for (const DataContainer* pose : poses) {

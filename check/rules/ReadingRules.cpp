@@ -102,6 +102,9 @@ void ReadingRules::tellSkipped(const ZORVEL::ParseNote& note) {
   const auto around = entries_.find(parent);
   if (around == entries_.end()) return;
   const ElementLookup lookup = elementAt(around->second->kind, note.element);
+  if (lookup.answer != Answer::Elsewhere && lookup.entry != nullptr) {
+    survey_.lostLists.emplace(parent, lookup.entry->kind);
+  }
   Findings& findings = survey_.findings;
   if (lookup.answer == Answer::LetterCase) {
     findings.add(RuleId::ElementLetterCase, note.source, {note.element, lookup.entry->name});
@@ -115,8 +118,8 @@ void ReadingRules::tellSkipped(const ZORVEL::ParseNote& note) {
 
 void ReadingRules::walk(const XmlElement& element, const ElementEntry& entry) {
   entries_[&element] = &entry;
-  if (refused_.count(&element) > 0) return;
   lookAtAttributes(element, entry);
+  if (refused_.count(&element) > 0) return;
   lookAtName(element, entry);
   for (const XmlElement* child = element.firstChild; child != nullptr; child = child->nextSibling) {
     const ElementLookup lookup = elementAt(entry.kind, child->name);
@@ -141,10 +144,12 @@ void ReadingRules::lookAtAttributes(const XmlElement& element, const ElementEntr
     const wchar_t* name = element.attributes[i].name.GetText();
     const AttributeLookup lookup = lookUp(entry, name);
     if (lookup.answer == AttributeLookup::Answer::LetterCase) {
-      survey_.findings.add(RuleId::AttributeLetterCase, &element, {name, lookup.entry->name});
+      survey_.findings.addMisspelt(RuleId::AttributeLetterCase, element, lookup.entry->name,
+                                   {name, lookup.entry->name});
     } else if (lookup.answer == AttributeLookup::Answer::Unknown) {
       const wchar_t* nearest = lookup.entry != nullptr ? lookup.entry->name : nullptr;
-      survey_.findings.add(RuleId::UnknownAttribute, &element, {name, hintFor(nearest)});
+      survey_.findings.addMisspelt(RuleId::UnknownAttribute, element, nearest != nullptr ? nearest : L"",
+                                   {name, hintFor(nearest)});
     } else if (lookup.answer == AttributeLookup::Answer::Known) {
       lookAtValue(element, entry, *lookup.entry, element.attributes[i].text);
     }
@@ -169,8 +174,9 @@ void ReadingRules::lookAtValue(const XmlElement& element, const ElementEntry& en
     survey_.findings.add(RuleId::TypeSpelling, &element, {value, hintAt(nearest)});
     if (nearest != VALUE_COMMON && !nearest.empty()) survey_.misread.insert(&element);
   } else {
-    survey_.findings.add(RuleId::ValueNotUnderstood, &element,
-                         {attribute.name, value, attribute.without, attribute.values.front().text});
+    survey_.findings.add(
+        RuleId::ValueNotUnderstood, &element,
+        {attribute.name, value, attribute.without, attribute.values.front().text, attribute.values.back().text});
   }
 }
 

@@ -92,7 +92,7 @@ void ReferenceRules::lookAtExcludes(const CharacterData& character, const DataCo
     const wchar_t* id = Fields::OptionalText(exclude, FIELD_ID);
     if (id == nullptr) {
       survey_.findings.add(RuleId::ExcludeWithoutId, exclude, {});
-    } else if (character.GetAsset(id) == nullptr) {
+    } else if (character.GetAsset(id) == nullptr && !survey_.isLost(character, EntryKind::Assets)) {
       survey_.findings.add(RuleId::ExcludeUnknown, exclude,
                            {id, survey_.hintAt(id, [&] { return assetIds(character); })});
     }
@@ -110,6 +110,7 @@ void ReferenceRules::lookAtSelect(const CharacterData& character, const DataCont
   const wchar_t* id = Fields::OptionalText(&select, FIELD_ASSET_ID);
   if (id == nullptr) return survey_.findings.add(RuleId::SelectWithoutAsset, &select, {});
   const DataContainer* asset = character.GetAsset(id);
+  if (asset == nullptr && survey_.isLost(character, EntryKind::Assets)) return;
   if (asset == nullptr) {
     return survey_.findings.add(RuleId::SelectUnknownAsset, &select,
                                 {id, survey_.hintAt(id, [&] { return assetIds(character); })});

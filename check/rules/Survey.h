@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "check/Findings.h"
@@ -55,6 +56,8 @@ struct Survey {
   std::vector<ShownPicture> pictures;
   std::vector<UsedMesh> meshes;
   std::vector<UsedMaterial> materials;
+  /// Elements that were skipped and hold what the other elements refer to: the element around them and their kind.
+  std::set<std::pair<const ZORVEL::XmlElement*, EntryKind>> lostLists = {};
   /// Assets that another type is meant for than they are read with.
   std::set<const ZORVEL::XmlElement*> misread = {};
   /// Pose and asset of a character that a row of the asset matrix seems to mean and misses; empty for any.
@@ -71,6 +74,10 @@ struct Survey {
     return element != nullptr ? element->line : 0;
   }
   std::string shown(const std::wstring& path) const { return files.shown(path); }
+  /// Whether a list of the character is misspelt: that explains what is not found in it.
+  bool isLost(const ZORVEL::CharacterData& character, EntryKind list) const {
+    return lostLists.count({elementOf(&character), list}) > 0;
+  }
   /// What is told of the record explains whatever else is wrong with its files and its places.
   bool isExplained(const ZORVEL::DataContainer* record) const {
     return misread.count(elementOf(record)) > 0 || findings.has(RuleId::GlobalWithoutType, record) ||

@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <functional>
 #include <set>
 
@@ -97,6 +96,14 @@ std::vector<Case> readingCases() {
       {{edit("<categories>", "<light/><categories>")}, {"ZV110 character[anna]/light: light"}},
       {{edit("<categories>", R"(<skin id="third"/><categories>)")}, {"ZV111 character[anna]/skin[third]: skin"}},
       {{edit("<categories>", R"(<Poses name="Pose"/><categories>)")}, {"ZV112 character[anna]/Poses: Poses"}},
+      {{edit("<skins ", "<Skins "), edit("</skins>", "</Skins>")}, {"ZV112 character[anna]/Skins: Skins"}},
+      {{edit("<cloth ", "<Cloth "), edit("</cloth>", "</Cloth>")}, {"ZV112 character[anna]/Cloth: Cloth"}},
+      {{edit("<poses ", "<Poses "), edit("</poses>", "</Poses>")}, {"ZV112 character[anna]/Poses: Poses"}},
+      {{edit("<categories>", "<category_>"), edit("</categories>", "</category_>")},
+       {"ZV110 character[anna]/category_: category_"}},
+      {{edit("<assets>", "<Assets>"), edit("</assets>", "</Assets>")}, {"ZV112 character[anna]/Assets: Assets"}},
+      {{edit("<AssetMatrix>", "<assetMatrix>"), edit("</AssetMatrix>", "</assetMatrix>")},
+       {"ZV112 character[anna]/assetMatrix: assetMatrix"}},
       {{edit(R"(id="light")", R"(id="light" colour="pale")")}, {"ZV113 character[anna]/skins/skin[light]: colour"}},
       {{edit(R"(folder="standing" url)", R"(folder="standing" URL)")},
        {"ZV114 character[anna]/poses/pose[standing]: URL"}},
@@ -131,6 +138,15 @@ std::vector<Case> readingCases() {
 std::vector<Case> idCases() {
   return {
       {{without(R"( id="anna")")}, {"ZV201 character"}},
+      {{edit(R"(id="red")", R"(ID="red")")}, {"ZV202 character[anna]/cloth/clothing[coat]/material: style"}},
+      {{edit(R"(<exclude id=)", R"(<exclude asset_id=)")},
+       {"ZV113 character[anna]/cloth/clothing[dress]/exclude: asset_id",
+        "ZV416 character[anna]/cloth/clothing[dress]/exclude"}},
+      {{edit(R"(clothing id="coat")", R"(clothing ID="coat")")},
+       {"ZV121 character[anna]/cloth/clothing: anna/previews/preview_.png"}},
+      {{edit(R"(folder="hat")", R"(Folder="hat")")}, {"ZV305 character[anna]/assets/asset[hat]: asset"}},
+      {{edit(R"(id="anna" name="Anna" folder)", R"(id="anna" name="Anna" folders)")},
+       {"ZV321 anna/: anna/ (34 files)", "ZV107 character[anna]"}},
       {{without(R"( id="red")")}, {"ZV202 character[anna]/cloth/clothing[coat]/material: style"}},
       {{edit(R"(id="dark")", R"(id="")")}, {"ZV203 character[anna]/skins/skin[]: skin"}},
       {{edit(R"(id="dark")", R"(id="light")")}, {"ZV204 character[anna]/skins/skin[light]: skin"}},
@@ -148,7 +164,11 @@ std::vector<Case> idCases() {
       {{edit("</skins>", R"(<skin id="Light" name="Pale" preview="light.png" material="Light"/></skins>)")}, {}},
       {{renameAll("dress_", "coat_a_"), renameAll("preview_dress", "preview_coat_a"),
         renameAll("sitting", "a_standing"), edit(R"(clothing id="dress")", R"(clothing id="coat_a")")},
-       {"ZV210 character[anna]/cloth/clothing[coat]: coat"}},
+       {"ZV210 character[anna]/cloth/clothing[coat]: clothing \"coat\" in pose \"a_standing\""}},
+      {{renameAll("coat", "preview"), renameAll("_sitting", "_dress"), renameAll("sitting\\.vrmesh", "dress.vrmesh"),
+        renameAll("(poseID|pose id)=\"sitting\"", "$1=\"dress\"")},
+       {"ZV210 character[anna]/cloth/clothing[preview]: clothing \"preview\" in pose \"dress\"",
+        "ZV310 character[anna]/cloth/clothing[dress]: anna/previews/preview_dress.png"}},
       {{renameAll("standing", "con")},
        {"ZV211 character[anna]/poses/pose[con]: folder", "ZV211 character[anna]/poses/pose[con]: id"}},
       {{edit(R"(folder="bag")", R"(folder="bag.")"), rename("anna/bag", "anna/bag.")},
@@ -357,7 +377,10 @@ TEST(Rules, AllHaveACase) {
   for (const Case& one : allCases()) {
     for (const std::string& finding : one.findings) found.insert(finding.substr(0, 5));
   }
-  for (const check::Rule& rule : check::allRules()) EXPECT_EQ(found.count(rule.code), 1U) << rule.code;
+  for (const check::Rule& rule : check::allRules()) {
+    EXPECT_EQ(found.count(rule.code), 1U) << rule.code;
+    EXPECT_EQ(std::string(rule.remedy).find('{'), std::string::npos) << "nothing fills it in: " << rule.remedy;
+  }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "tests/check/SampleFindings.h"
 
 #include "check/Judgement.h"
+#include "tests/check/CompleteRepository.h"
 
 namespace support {
 
@@ -23,82 +24,65 @@ Finding finding(RuleId rule, const std::string& element, const std::string& mess
 
 namespace {
 
-/// Fourteen clothes of three characters.
-void addMissingPreviews(CheckResult& result) {
-  for (int i = 0; i < 14; ++i) {
-    const std::string character = i < 5 ? "anna" : i < 9 ? "bruno" : "zoë";
-    const std::string id = "dress" + std::to_string(i);
-    const std::string file = character + "/previews/preview_" + id + ".png";
-    Finding one = finding(RuleId::ClothingPreviewMissing, "character[" + character + "]/cloth/clothing[" + id + "]",
-                          "there is no picture " + file + ": the clothing is dropped when the repository loads, " +
-                              "with its styles, excludes and selects");
-    one.line += i;
-    one.subject = file;
-    result.findings.push_back(one);
+void breakMuch(const CompleteRepository& repository) {
+  for (const char* id : {"wool", "silk", "zo\u00eb", "cord", "jeans", "felt"}) {
+    const std::string text = id;
+    repository.edit("    </cloth>", "      <clothing id=\"" + text + "\" name=\"x\" folder=\"dress\"/>\n    </cloth>");
+  }
+  repository.edit(R"(preview="leather.png")", R"(preview="50 % Müller, &quot;new&quot;.png")");
+  repository.rename("anna/bag/leather.png", "anna/bag/50 % M\u00fcller, \"new\".png");
+  repository.writePicture("anna/bag/50 % M\u00fcller, \"new\".png", 10, 10);
+  repository.edit(R"(id="dark")", R"(id="dark" colour="brown")");
+  repository.edit(R"(id="red")", R"(ID="red")");
+  repository.edit("</poses>", R"(</poses><poses name="winter"/>)");
+  repository.edit(R"(zpos="80.5")", R"(zpos="80,5")");
+  repository.edit(R"(poseID="sitting" assetID="hat")", R"(poseID="sitting" assetID="hats")");
+  repository.edit(R"(material="Felt")", R"(material="Silk")");
+  repository.edit(R"(required="true")", R"(required="yes")");
+  repository.write("anna/dress/materials.mat", "{");
+  for (const char* file : {"overlay100x300.png", "anna/coat/coat_sitting.vrmesh", "anna/previews/dress_standing.png",
+                           "anna/sitting/pose.vrmesh", "maps/Light.png"}) {
+    repository.remove(file);
   }
 }
 
 CheckResult people() {
-  CheckResult result;
+  const CompleteRepository repository;
+  breakMuch(repository);
+  CheckResult result = repository.check();
   result.root = "people";
-  result.characterCount = 6;
-  result.elementCount = 412;
-  result.fileCount = 230;
-  Finding folder =
-      finding(RuleId::RootNotKept, "", "the folder's name is not kept by the settings: it ends in a blank");
-  folder.file.clear();
-  folder.line = folder.column = 0;
-  Finding picture = finding(RuleId::PictureSize, "", "the picture is 10 x 10 pixels, and is shown at 110 x 330");
-  picture.file = "anna/previews/50 % Müller, \"new\".png";
-  picture.line = picture.column = 0;
-  Finding attribute = finding(RuleId::UnknownAttribute, "character[anna]/assets/asset[bag]",
-                              "nothing reads the attribute \"catgory\"; \"category\" is read");
-  attribute.subject = "catgory";
-  attribute.line = 77;
-  attribute.column = 0;
-  Finding again = attribute;
-  again.line = 78;
-  const Finding order = finding(RuleId::ListNameExtended, "character[anna]/cloth",
-                                "\"winter\" is appended to the name of an earlier list of the same kind");
-  result.findings = {folder, picture};
-  addMissingPreviews(result);
-  result.findings.insert(result.findings.end(), {order, attribute, again});
+  // As behind a very long line.
+  result.findings.back().column = 0;
   return result;
 }
 
 CheckResult unreadable() {
-  CheckResult result;
+  CheckResult result = check::checkRepository(TemporaryFolder().path(), {});
   result.root = "/srv/old people/";
-  result.isReadable = false;
-  Finding missing = finding(RuleId::DescriptionMissing, "", "there is no zorvel.xml in this folder");
-  missing.file.clear();
-  missing.line = missing.column = 0;
-  result.findings = {missing};
   return result;
 }
 
 CheckResult clean() {
-  CheckResult result;
+  CheckResult result = CompleteRepository().check();
   result.root = "./new";
-  result.characterCount = 1;
-  result.elementCount = 9;
   return result;
 }
 
-/// Few rules, so that reports which name all that were asked stay short.
-check::Judgement judgement() {
+/// What is found, and little else: reports name all rules that were asked.
+check::Judgement judgement(const CheckResult& result) {
   check::Judgement judgement;
-  std::string errors;
-  for (const char* code : {"ZV101", "ZV110", "ZV113", "ZV118", "ZV121", "ZV310"}) errors += judgement.askFor(code);
-  errors += judgement.setSeverity("ZV310", "warning");
+  std::string errors = judgement.askFor("ZV101");
+  for (const Finding& one : result.findings) errors += judgement.askFor(check::ruleOf(one.rule).code);
+  errors += judgement.setSeverity("ZV310", "hint") + judgement.ignore("ZV113");
   return errors.empty() ? judgement : check::Judgement();
 }
 
 }  // namespace
 
 std::vector<JudgedRepository> sampleFindings() {
-  const check::Judgement said = judgement();
-  return {said.judge(people()), said.judge(unreadable()), said.judge(clean())};
+  const CheckResult broken = people();
+  const check::Judgement said = judgement(broken);
+  return {said.judge(broken), said.judge(unreadable()), said.judge(clean())};
 }
 
 std::vector<JudgedRepository> findingsNamed(const std::string& text) {

@@ -21,7 +21,7 @@ namespace paths = ZORVEL::RepositoryPaths;
 /// In capitals, as names are compared.
 using Names = std::multiset<std::wstring>;
 
-std::string shown(const std::wstring& text) { return '"' + host::toUtf8(text) + '"'; }
+std::string inQuotes(const std::wstring& text) { return '"' + host::toUtf8(text) + '"'; }
 
 /// Those of the strip and of the page of poses.
 Names picturesOf(const std::vector<const Element*>& clothing, const std::vector<const Element*>& poses) {
@@ -41,8 +41,8 @@ std::string whyIdTaken(const std::wstring& id, const std::string& word, const st
   for (const Element* element : others) {
     const std::wstring other = element->text(FIELD_ID);
     if (!AreAlike(other, id)) continue;
-    const std::string there = "There is already a " + word + " with the id " + shown(other);
-    return other == id ? there + "." : there + ", which Windows does not tell from " + shown(id) + ".";
+    const std::string there = "There is already a " + word + " with the id " + inQuotes(other);
+    return other == id ? there + "." : there + ", which Windows does not tell from " + inQuotes(id) + ".";
   }
   return {};
 }
@@ -50,14 +50,15 @@ std::string whyIdTaken(const std::wstring& id, const std::string& word, const st
 std::string whyFolderTaken(const std::wstring& folder, const std::vector<const Element*>& others) {
   for (const Element* other : others) {
     if (!AreAlike(other->text(FIELD_FOLDER), folder)) continue;
-    return "The folder " + shown(folder) + " is that of " + shown(other->text(FIELD_ID)) + "; --folder names another.";
+    return "The folder " + inQuotes(folder) + " is that of " + inQuotes(other->text(FIELD_ID)) +
+           "; --folder names another.";
   }
   return {};
 }
 
 std::string whyFolderReserved(const std::wstring& folder, const std::vector<std::wstring>& reserved) {
   for (const std::wstring& name : reserved) {
-    if (AreAlike(name, folder)) return "The folder " + shown(name) + " has another use; --folder names one.";
+    if (AreAlike(name, folder)) return "The folder " + inQuotes(name) + " has another use; --folder names one.";
   }
   return {};
 }
@@ -71,7 +72,7 @@ std::string whyPictureTaken(const Element& added, std::vector<const Element*> cl
   std::set<std::wstring> taken(before.begin(), before.end());
   for (const std::wstring& picture : fresh) {
     if (taken.insert(picture).second) continue;
-    return "With the id " + shown(added.text(FIELD_ID)) + " two pictures would have one name, " +
+    return "With the id " + inQuotes(added.text(FIELD_ID)) + " two pictures would have one name, " +
            host::nativePath(picture).filename().string() + " (in whatever letters).";
   }
   return {};

@@ -4,9 +4,7 @@
 #include <utility>
 #include <vector>
 
-namespace ZORVEL {
-struct XmlElement;
-}
+#include "repository/XmlDocument.h"
 
 namespace cli {
 

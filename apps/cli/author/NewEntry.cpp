@@ -41,7 +41,7 @@ const Place& placeOf(EntryKind kind) {
   return *std::find_if(std::begin(PLACES), std::end(PLACES), [kind](const Place& one) { return one.kind == kind; });
 }
 
-std::string shown(const std::wstring& text) { return '"' + host::toUtf8(text) + '"'; }
+std::string quotedName(const std::wstring& text) { return '"' + host::toUtf8(text) + '"'; }
 
 std::string listed(const std::vector<std::wstring>& ids) {
   std::string text;
@@ -188,7 +188,8 @@ class Planner {
   void planStyle() {
     const std::vector<const Element*> clothing = entries(EntryKind::Clothing);
     if (clothing.empty()) {
-      refuse(EXIT_FINDINGS, shown(entry_.character) + " has no clothing yet; `zorvel add DIR clothing ID` makes one.");
+      refuse(EXIT_FINDINGS,
+             quotedName(entry_.character) + " has no clothing yet; `zorvel add DIR clothing ID` makes one.");
       return;
     }
     clothing_ = choose("clothing", "--clothing", options_.clothing, clothing);
@@ -241,7 +242,7 @@ class Planner {
     const std::wstring global = shared->text(FIELD_ID);
     for (const Element* asset : entries(EntryKind::Asset)) {
       if (asset->text(FIELD_GLOBAL_ID) != global) continue;
-      refuse(EXIT_FINDINGS, shown(asset->text(FIELD_ID)) + " stands for " + shown(global) + " already.");
+      refuse(EXIT_FINDINGS, quotedName(asset->text(FIELD_ID)) + " stands for " + quotedName(global) + " already.");
       return;
     }
     addToList({ELEMENT_ASSET,
@@ -257,7 +258,7 @@ class Planner {
   const Element* findCategory() {
     const std::vector<const Element*> categories = entries(EntryKind::Category);
     if (!categories.empty()) return choose("category", "--category", options_.category, categories);
-    refuse(EXIT_FINDINGS, shown(entry_.character) +
+    refuse(EXIT_FINDINGS, quotedName(entry_.character) +
                               " has no category, without which an asset is never offered; `zorvel add DIR category "
                               "ID` makes one.");
     return nullptr;
