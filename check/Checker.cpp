@@ -7,7 +7,9 @@ namespace check {
 
 CheckResult checkRepository(const std::filesystem::path& root, const CheckerOptions& options) {
   CheckRun run(root, options);
-  if (options.wantsWear) run.result().wear = WearTables(run.survey(), run.result().findings).make();
+  // One that is refused for its size may have too many to be shown.
+  if (options.wantsWear && run.result().isReadable)
+    run.result().wear = WearTables(run.survey(), run.result().findings).make();
   return std::move(run.result());
 }
 

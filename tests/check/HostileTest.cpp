@@ -71,6 +71,9 @@ TEST_F(HostileRepository, DescriptionsThatAreTooMuchAreRefused) {
   repository_.write("zorvel.xml", lists);
   for (int i = 0; i < 700; ++i) repository_.write("anna/previews/preview_c" + std::to_string(i) + ".png", "");
   EXPECT_THAT(shortForm(repository_.check()), Contains(HasSubstr("700 clothes and 700 poses")));
+  check::CheckerOptions options;
+  options.wantsWear = true;
+  EXPECT_THAT(check::checkRepository(repository_.folder().path(), options).wear, testing::IsEmpty());
 }
 
 TEST_F(HostileRepository, EveryBeginningOfADescriptionGivesAnAnswer) {
