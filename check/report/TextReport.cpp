@@ -13,7 +13,7 @@ namespace check {
 namespace {
 
 /// More findings of one rule are folded to the first few.
-constexpr std::size_t MOST_UNFOLDED = 5;
+constexpr std::size_t MOST_UNFOLDED = 10;
 constexpr std::size_t SHOWN_OF_FOLDED = 3;
 
 const char* const INDENT = "    ";

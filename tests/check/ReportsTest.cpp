@@ -195,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(Reports, HostileText,
                                          "\u009b31m\u0085", "\uFFFE\uFFFF", "../../etc/passwd", "a%20b?c#d:e",
                                          "{\"$ref\": 1}", std::string(5000, '<')));
 
-TEST(TextReport, FoldsMoreThanFiveFindingsOfOneRuleInOneRepository) {
+TEST(TextReport, FoldsMoreThanTenFindingsOfOneRuleInOneRepository) {
   const auto report = [](int count, bool showsAll, const char* character) {
     JudgedRepository repository;
     for (int i = 0; i < count; ++i) {
@@ -212,8 +212,8 @@ TEST(TextReport, FoldsMoreThanFiveFindingsOfOneRuleInOneRepository) {
     for (std::size_t at = 0; (at = text.find("[ZV201]", at)) != std::string::npos; ++at) ++count;
     return count;
   };
-  EXPECT_EQ(shown(report(5, false, "character[")), 5U);
-  EXPECT_EQ(shown(report(6, false, "character[")), 3U);
+  EXPECT_EQ(shown(report(10, false, "character[")), 10U);
+  EXPECT_EQ(shown(report(11, false, "character[")), 3U);
   EXPECT_EQ(shown(report(11, true, "character[")), 11U);
   EXPECT_THAT(report(11, false, "character["),
               HasSubstr("\n    \u2026 and 8 more like these, in 5 characters (--all shows them)\n"));
