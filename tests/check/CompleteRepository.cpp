@@ -2,11 +2,10 @@
 
 #include <sys/stat.h>
 
-#include <QImage>
 #include <regex>
 #include <stdexcept>
 
-#include "host/files/PictureFile.h"
+#include "tests/support/PictureFiles.h"
 #include "tests/support/SmallRepository.h"
 
 namespace support {
@@ -80,41 +79,33 @@ std::string library(const std::vector<std::string>& names) {
 
 struct Picture {
   const char* file;
-  int width;
-  int height;
+  QSize size;
 };
 
-void writePictureIn(const TemporaryFolder& folder, const Picture& picture) {
-  QImage image(picture.width, picture.height, QImage::Format_RGB32);
-  image.fill(Qt::darkCyan);
-  const std::string problem = host::writePicture(image, folder.write(picture.file, ""));
-  if (!problem.empty()) throw std::runtime_error(problem);
-}
-
 void writePictures(const TemporaryFolder& folder) {
-  for (const Picture& picture : {Picture{"overlay110x330.png", 110, 330},
-                                 {"overlay100x300.png", 100, 300},
-                                 {"anna/previews/preview_coat.png", 110, 330},
-                                 {"anna/previews/preview_dress.png", 110, 330},
-                                 {"anna/previews/coat_standing.png", 100, 300},
-                                 {"anna/previews/coat_sitting.png", 100, 300},
-                                 {"anna/previews/dress_standing.png", 100, 300},
-                                 {"anna/previews/dress_sitting.png", 100, 300},
-                                 {"anna/coat/red.png", 100, 300},
-                                 {"anna/dress/blue.png", 100, 300},
-                                 {"anna/skin/light.png", 150, 150},
-                                 {"anna/skin/dark.png", 150, 150},
-                                 {"anna/bag/canvas.png", 150, 150},
-                                 {"anna/bag/leather.png", 150, 150},
-                                 {"anna/scarf/preview.png", 150, 150},
-                                 {"anna/hat/preview.png", 150, 150},
-                                 {"anna/cap/preview.png", 150, 150},
-                                 {"global_assets/bench/oak.png", 150, 150},
-                                 {"global_assets/bench/pine.png", 150, 150}}) {
-    writePictureIn(folder, picture);
+  for (const Picture& picture : {Picture{"overlay110x330.png", {110, 330}},
+                                 {"overlay100x300.png", {100, 300}},
+                                 {"anna/previews/preview_coat.png", {110, 330}},
+                                 {"anna/previews/preview_dress.png", {110, 330}},
+                                 {"anna/previews/coat_standing.png", {100, 300}},
+                                 {"anna/previews/coat_sitting.png", {100, 300}},
+                                 {"anna/previews/dress_standing.png", {100, 300}},
+                                 {"anna/previews/dress_sitting.png", {100, 300}},
+                                 {"anna/coat/red.png", {100, 300}},
+                                 {"anna/dress/blue.png", {100, 300}},
+                                 {"anna/skin/light.png", {150, 150}},
+                                 {"anna/skin/dark.png", {150, 150}},
+                                 {"anna/bag/canvas.png", {150, 150}},
+                                 {"anna/bag/leather.png", {150, 150}},
+                                 {"anna/scarf/preview.png", {150, 150}},
+                                 {"anna/hat/preview.png", {150, 150}},
+                                 {"anna/cap/preview.png", {150, 150}},
+                                 {"global_assets/bench/oak.png", {150, 150}},
+                                 {"global_assets/bench/pine.png", {150, 150}}}) {
+    support::writePicture(folder, picture.file, picture.size);
   }
   for (const char* name : {"Light", "Dark", "Red", "Blue", "Canvas", "Leather", "Wool", "Felt", "Oak", "Pine"}) {
-    writePictureIn(folder, {(std::string("maps/") + name + ".png").c_str(), 2, 2});
+    support::writePicture(folder, std::string("maps/") + name + ".png", {2, 2});
   }
 }
 
@@ -159,13 +150,11 @@ const TemporaryFolder& original() {
 CompleteRepository::CompleteRepository() { fs::copy(original().path(), folder_.path(), fs::copy_options::recursive); }
 
 void CompleteRepository::edit(const std::string& from, const std::string& to) const {
-  std::string text = folder_.read("zorvel.xml");
-  text.replace(text.find(from), from.size(), to);  // throws where the text is not there
-  folder_.write("zorvel.xml", text);
+  folder_.edit("zorvel.xml", from, to);
 }
 
 void CompleteRepository::writePicture(const std::string& file, int width, int height) const {
-  writePictureIn(folder_, {file.c_str(), width, height});
+  support::writePicture(folder_, file, {width, height});
 }
 
 void CompleteRepository::remove(const std::string& file) const {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <libxml/xmlschemas.h>
 
-#include <QImage>
 #include <memory>
 #include <sstream>
 
@@ -11,6 +10,7 @@
 #include "apps/reference/Schema.h"
 #include "samples/people/People.h"
 #include "samples/repository/DescriptionWriter.h"
+#include "tests/support/PictureFiles.h"
 #include "tests/support/SmallRepository.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -122,7 +122,7 @@ void writeFiles(const support::TemporaryFolder& folder) {
     const std::filesystem::path file = line.substr(0, end);
     if (file.extension() == ".vrmesh") folder.write(file, support::boxObj(30, 20, 50));
     if (file.extension() == ".mat") folder.write(file, libraryOf(line.substr(end)));
-    if (file.extension() == ".png") QImage(2, 2, QImage::Format_RGB32).save(folder.write(file, "").c_str(), "PNG");
+    if (file.extension() == ".png") support::writePicture(folder, file.string(), {2, 2});
   }
 }
 

@@ -1,18 +1,8 @@
 #include "tests/check/WearRepository.h"
 
-#include <QImage>
+#include "tests/support/PictureFiles.h"
 
 namespace support {
-
-namespace {
-
-void writeBlank(const TemporaryFolder& folder, const std::string& file, int width, int height) {
-  QImage image(width, height, QImage::Format_RGB32);
-  image.fill(0);
-  image.save(QString::fromStdString(folder.write(file, "").string()), "PNG");
-}
-
-}  // namespace
 
 WearRepository::WearRepository() {
   small_.mend();
@@ -74,9 +64,9 @@ void WearRepository::addMeshes(const std::string& clothing, const std::string& f
 }
 
 void WearRepository::addPictures(const std::string& clothing) const {
-  writeBlank(folder(), "anna/previews/preview_" + clothing + ".png", 110, 330);
+  writePicture(folder(), "anna/previews/preview_" + clothing + ".png", {110, 330});
   for (const std::string& pose : poses_) {
-    writeBlank(folder(), "anna/previews/" + clothing + '_' + pose + ".png", 100, 300);
+    writePicture(folder(), "anna/previews/" + clothing + '_' + pose + ".png", {100, 300});
   }
 }
 

@@ -1,9 +1,9 @@
 #include "tests/support/SmallRepository.h"
 
-#include <QColor>
-#include <QImage>
 #include <numeric>
 #include <sstream>
+
+#include "tests/support/PictureFiles.h"
 
 namespace support {
 
@@ -76,11 +76,9 @@ void writeMaterials(const TemporaryFolder& folder) {
   folder.write("global_assets/materials.mat", materialLibrary(texturedMaterial("Oak", "oak.png")));
 }
 
-void writePicture(const TemporaryFolder& folder, const std::string& file, int width, int height) {
-  QImage image(width, height, QImage::Format_RGB32);
-  // Another colour for each file, the same each time.
-  image.fill(QColor::fromHsv(static_cast<int>(std::accumulate(file.begin(), file.end(), 0U) % 360U), 120, 200));
-  image.save(QString::fromStdString(folder.write(file, "").string()), "PNG");
+/// Another one for each file, the same each time.
+QColor colorFor(const std::string& file) {
+  return QColor::fromHsv(static_cast<int>(std::accumulate(file.begin(), file.end(), 0U) % 360U), 120, 200);
 }
 
 }  // namespace
@@ -93,9 +91,7 @@ SmallRepository::SmallRepository() {
 }
 
 void SmallRepository::edit(const std::string& from, const std::string& to) const {
-  std::string text = folder_.read("zorvel.xml");
-  text.replace(text.find(from), from.size(), to);  // throws where the text is not there
-  folder_.write("zorvel.xml", text);
+  folder_.edit("zorvel.xml", from, to);
 }
 
 void SmallRepository::mend() const {
@@ -107,15 +103,16 @@ void SmallRepository::mend() const {
 }
 
 void SmallRepository::writePictures() const {
-  writePicture(folder_, "anna/previews/preview_k1.png", 110, 330);
+  const std::string preview = "anna/previews/preview_k1.png";
+  writePicture(folder_, preview, {110, 330}, colorFor(preview));
   for (const char* file : {"anna/previews/k1_p1.png", "anna/previews/k1_p2.png", "anna/summer/blue.png",
                            "anna/summer/props.png", "anna/summer/lost.png"}) {
-    writePicture(folder_, file, 100, 300);
+    writePicture(folder_, file, {100, 300}, colorFor(file));
   }
   for (const char* file :
        {"anna/skin/light.png", "anna/bag/canvas.png", "anna/seat/preview.png", "anna/hat/preview.png",
         "anna/scarf/preview.png", "anna/lamp/preview.png", "global_assets/bench/oak.png"}) {
-    writePicture(folder_, file, 150, 150);
+    writePicture(folder_, file, {150, 150}, colorFor(file));
   }
 }
 

@@ -33,4 +33,11 @@ std::string TemporaryFolder::read(const std::filesystem::path& relative) const {
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
+void TemporaryFolder::edit(const std::filesystem::path& relative, const std::string& from,
+                           const std::string& to) const {
+  std::string text = read(relative);
+  text.replace(text.find(from), from.size(), to);  // throws where the text is not there
+  write(relative, text);
+}
+
 }  // namespace support

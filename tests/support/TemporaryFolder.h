@@ -22,6 +22,8 @@ class TemporaryFolder {
   std::filesystem::path write(const std::filesystem::path& relative, std::string_view text) const;
   std::filesystem::path makeFolder(const std::filesystem::path& relative) const;
   std::string read(const std::filesystem::path& relative) const;
+  /// Replaces the first such text of the file, which has to be there.
+  void edit(const std::filesystem::path& relative, const std::string& from, const std::string& to) const;
 
  private:
   host::TemporaryFolder folder_;

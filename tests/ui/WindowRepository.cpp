@@ -1,7 +1,6 @@
 #include "tests/ui/WindowRepository.h"
 
-#include <QImage>
-
+#include "tests/support/PictureFiles.h"
 #include "tests/support/SmallRepository.h"
 
 namespace support {
@@ -121,9 +120,7 @@ void WindowRepository::writeBen() const {
 
 void WindowRepository::writePicture(const std::filesystem::path& relative, const QSize& size,
                                     const QColor& color) const {
-  QImage image(size, QImage::Format_RGB32);
-  image.fill(color);
-  image.save(QString::fromStdString(folder_.write(relative, "").string()), "PNG");
+  support::writePicture(folder_, relative.string(), size, color);
 }
 
 void WindowRepository::remove(const std::filesystem::path& relative) const {
