@@ -41,7 +41,7 @@ enum class OmissionReason {
 /// An element that was chosen, or that the pose asks for, and that is not built.
 struct Omission {
   BuildElement element;
-  OmissionReason reason = OmissionReason::NoField;
+  OmissionReason reason;
   /// What the reason speaks of: a field, an id or a mesh file. Empty for NoBody, and where the id is missing.
   std::wstring subject;
 };
@@ -53,7 +53,7 @@ struct PiecePlan {
   const DataContainer* record = nullptr;
   /// If not, `omission` says why, and nothing is said of mesh, place and material.
   bool canBeBuilt = true;
-  Omission omission;
+  Omission omission = Omission();
   std::wstring meshFile;
   PlacingState placing = PlacingState::NotNeeded;
   /// Only for ByRow.
