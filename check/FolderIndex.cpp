@@ -1,7 +1,6 @@
 #include "check/FolderIndex.h"
 
 #include <algorithm>
-#include <mutex>
 
 #include "check/ParallelWork.h"
 #include "host/files/NameCase.h"

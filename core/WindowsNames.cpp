@@ -17,12 +17,6 @@ bool IsRefused(wchar_t c) {
   return static_cast<unsigned long>(c) < 0x20 || std::wstring(REFUSED_CHARACTERS).find(c) != std::wstring::npos;
 }
 
-/// In UTF-16, also where a wide character is a whole code point.
-std::size_t CountUnits(const std::wstring& name) {
-  const auto beyond = std::count_if(name.begin(), name.end(), [](wchar_t c) { return static_cast<long>(c) > 0xFFFF; });
-  return name.size() + static_cast<std::size_t>(beyond);
-}
-
 bool IsNumbered(const std::wstring& stem) {
   const bool named = stem.size() == 4 && (WindowsNames::AreAlike(stem.substr(0, 3), L"COM") ||
                                           WindowsNames::AreAlike(stem.substr(0, 3), L"LPT"));
@@ -76,6 +70,11 @@ std::wstring NameRefusal::GetText() const {
       return L"is the device " + concerned + L" to Windows, and no file";
   }
   return std::wstring();
+}
+
+std::size_t WindowsNames::CountUnits(const std::wstring& text) {
+  const auto beyond = std::count_if(text.begin(), text.end(), [](wchar_t c) { return static_cast<long>(c) > 0xFFFF; });
+  return text.size() + static_cast<std::size_t>(beyond);
 }
 
 NameRefusal WindowsNames::WhyRefused(const std::wstring& name) {

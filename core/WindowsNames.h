@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace ZORVEL {
@@ -26,6 +27,9 @@ struct NameRefusal {
 
 /// What Windows says of the name of a single file or folder, on whatever machine it is asked.
 namespace WindowsNames {
+
+/// The length of a text as Windows counts it: in UTF-16 code units, also where a wide character is a whole code point.
+std::size_t CountUnits(const std::wstring& text);
 
 /// The first that is the matter, in the order of the list above.
 NameRefusal WhyRefused(const std::wstring& name);

@@ -4,6 +4,7 @@
 
 #include "check/rules/NamedFiles.h"
 #include "core/Settings.h"
+#include "core/WindowsNames.h"
 #include "host/files/Paths.h"
 #include "model/RepositoryPaths.h"
 
@@ -16,12 +17,6 @@ namespace {
 
 /// MAX_PATH with the zero at the end.
 constexpr std::size_t LONGEST_PATH = 259;
-
-std::size_t unitsOf(const std::wstring& text) {
-  std::size_t units = 0;
-  for (const wchar_t c : text) units += static_cast<unsigned long>(c) > 0xFFFF ? 2 : 1;
-  return units;
-}
 
 bool endsInSeparator(const std::wstring& path) {
   return !path.empty() && (path.back() == L'\\' || path.back() == L'/');
@@ -88,7 +83,7 @@ void FileRules::lookAtKeeping(const std::wstring& root) {
 
 void FileRules::lookAtLengths(const std::wstring& root) {
   for (const std::wstring& path : survey_.files.askedFor()) {
-    const std::size_t length = unitsOf(root) + unitsOf(path);
+    const std::size_t length = ZORVEL::WindowsNames::CountUnits(root) + ZORVEL::WindowsNames::CountUnits(path);
     if (length <= LONGEST_PATH) continue;
     const std::string file = survey_.shown(survey_.root + path);
     survey_.findings.addToFile(RuleId::PathTooLong, file, {root, file, static_cast<int>(length)});
