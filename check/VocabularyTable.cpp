@@ -193,6 +193,11 @@ std::vector<ElementEntry> clothEntries() {
                 "the style is shown without a picture"),
         material("the name of a material in the libraries of the clothing", "the clothing is built without a material"),
         unusedUrl()}},
+  };
+}
+
+std::vector<ElementEntry> wornAlongEntries() {
+  return {
       {EntryKind::Exclude,
        ELEMENT_EXCLUDE,
        EntryKind::Clothing,
@@ -282,7 +287,7 @@ std::vector<ElementEntry> poseEntries() {
   };
 }
 
-std::vector<ElementEntry> assetEntries() {
+std::vector<ElementEntry> categoryEntries() {
   return {
       {EntryKind::Categories,
        ELEMENT_CATEGORIES,
@@ -318,6 +323,23 @@ std::vector<ElementEntry> assetEntries() {
          "none needs to be chosen",
          {{VALUE_TRUE, "the first is chosen to begin with, and the last one cannot be taken away"},
           {L"false", "none needs to be chosen, as with any other text"}}}}},
+  };
+}
+
+AttributeEntry typeOfAsset() {
+  return {FIELD_TYPE,
+          AttributeKind::Choice,
+          Need::Free,
+          "where it comes from and how it is placed",
+          "the check on disk, its page, the builder",
+          "counts as \"common\"",
+          {{VALUE_COMMON, "one mesh, placed by the asset matrix; any other text counts as this"},
+           {VALUE_SPECIFIC, "one mesh for each pose, which stands where it was modelled; needs no row in the matrix"},
+           {VALUE_GLOBAL, "stands for a shared asset, which is placed by this character's asset matrix"}}};
+}
+
+std::vector<ElementEntry> assetEntries() {
+  return {
       {EntryKind::Assets,
        ELEMENT_ASSETS,
        EntryKind::Character,
@@ -341,15 +363,7 @@ std::vector<ElementEntry> assetEntries() {
         {FIELD_FOLDER, AttributeKind::Folder, Need::ToBeUsed,
          "its folder in that of the character; a shared asset has its own", "the check on disk, its page, the builder",
          "it is not offered"},
-        {FIELD_TYPE,
-         AttributeKind::Choice,
-         Need::Free,
-         "where it comes from and how it is placed",
-         "the check on disk, its page, the builder",
-         "counts as \"common\"",
-         {{VALUE_COMMON, "one mesh, placed by the asset matrix; any other text counts as this"},
-          {VALUE_SPECIFIC, "one mesh for each pose, which stands where it was modelled; needs no row in the matrix"},
-          {VALUE_GLOBAL, "stands for a shared asset, which is placed by this character's asset matrix"}}},
+        typeOfAsset(),
         {FIELD_GLOBAL_ID,
          AttributeKind::Reference,
          Need::Free,
@@ -422,8 +436,8 @@ std::vector<ElementEntry> matrixEntries() {
 
 std::vector<ElementEntry> makeEntries() {
   std::vector<ElementEntry> all;
-  for (const auto& part :
-       {sharedEntries(), characterEntries(), clothEntries(), poseEntries(), assetEntries(), matrixEntries()}) {
+  for (const auto& part : {sharedEntries(), characterEntries(), clothEntries(), wornAlongEntries(), poseEntries(),
+                           categoryEntries(), assetEntries(), matrixEntries()}) {
     all.insert(all.end(), part.begin(), part.end());
   }
   return all;
