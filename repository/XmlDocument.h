@@ -48,8 +48,8 @@ struct XmlOptions {
   std::size_t longestText = SIZE_MAX;    // bytes of an attribute's value
   std::size_t longestMarkup = SIZE_MAX;  // bytes of a start tag or a comment, roughly
 
-  /// For who wants an answer within seconds, whatever the file holds, and goes through all of it more than once: a
-  /// million elements, far more than a repository has.
+  /// For who goes through all of it more than once and must come to an end: a million elements, far more than a
+  /// repository has.
   static XmlOptions Bounded();
 };
 
