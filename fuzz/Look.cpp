@@ -15,6 +15,7 @@ void look(std::vector<host::ViewItem> items) {
   host::RayScene rays;
   rays.setItems(std::move(items));
   const Box3 bounds = rays.bounds();
+  if (bounds.IsEmpty()) return;
   for (const Point3& from : {bounds.pmax, bounds.pmin, Point3(0, 0, 1000)}) {
     const auto hit = rays.intersect({from, bounds.Center() - from});
     if (hit) rays.surface(hit->item, hit->materialId);
