@@ -14,8 +14,8 @@ std::vector<std::filesystem::path> filesOf(const fuzz::Target& target) {
   std::vector<std::filesystem::path> files;
   for (const char* kind : {"seeds", "kept"}) {
     std::error_code none;
-    for (const auto& entry : std::filesystem::directory_iterator(
-             std::filesystem::path(FUZZ_FOLDER) / kind / target.name, none)) {
+    for (const auto& entry :
+         std::filesystem::directory_iterator(std::filesystem::path(FUZZ_FOLDER) / kind / target.name, none)) {
       files.push_back(entry.path());
     }
   }

@@ -5,8 +5,8 @@
 
 namespace fuzz {
 
-// What reads, one function for each form of input. Any bytes may be given; what has to hold afterwards is required, and the
-// process ends where it does not.
+// What reads, one function for each form of input. Any bytes may be given; what has to hold afterwards is required, and
+// the process ends where it does not.
 
 /// A description: parsed, validated, chosen from as `zorvel create` does, and built.
 void description(std::string_view bytes);
