@@ -3,6 +3,7 @@
 #include <units.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 #include <map>
 
@@ -17,6 +18,8 @@
 #include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
 #include "apps/support/ExitStatus.h"
+#include "check/PrintableText.h"
+#include "host/files/DiskTroubles.h"
 
 namespace cli {
 
@@ -261,11 +264,18 @@ int runCommand(int argc, const char* const* argv) try {
   return EXIT_INTERNAL;
 }
 
+/// What the disk gave no answer to looks in every command as if it were not there. Nothing is clean then.
+int tellTroubles(int status) {
+  const std::vector<std::string> troubles = host::DiskTroubles::instance().take();
+  for (const std::string& line : troubles) std::cerr << "zorvel: cannot be read: " << check::printable(line) << '\n';
+  return troubles.empty() ? status : std::max(status, int{EXIT_UNREADABLE});
+}
+
 }  // namespace
 
 int run(int argc, const char* const* argv) {
   const ClosedPipesAreErrors guard;
-  const int status = runCommand(argc, argv);
+  const int status = tellTroubles(runCommand(argc, argv));
   const std::string error = finishStandardOutput();
   if (error.empty()) return status;
   std::cerr << "zorvel: " << error << '\n';

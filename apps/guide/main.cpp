@@ -5,6 +5,8 @@
 #include "apps/guide/WindowDriver.h"
 #include "apps/stage/DarkTheme.h"
 #include "apps/stage/Stage.h"
+#include "apps/support/ProgramStart.h"
+#include "apps/support/RuntimeFolder.h"
 
 namespace {
 
@@ -67,12 +69,14 @@ void takeFine(guide::WindowDriver& driver) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+  apps::startProgram("zorvel-guide-pictures");
   if (argc < 3) {
     std::cerr << USAGE;
     return 2;
   }
   qputenv("QT_LOGGING_RULES", "default.warning=false");
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   stage::applyDarkTheme(application);
   stage::StageOptions options;

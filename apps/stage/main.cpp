@@ -6,6 +6,7 @@
 #include "apps/stage/Stage.h"
 #include "apps/support/ExitStatus.h"
 #include "apps/support/ProgramStart.h"
+#include "apps/support/RuntimeFolder.h"
 
 int main(int argc, char** argv) try {
   apps::startProgram("zorvel-stage");
@@ -18,6 +19,7 @@ int main(int argc, char** argv) try {
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   // 150 % is 150 %.
   QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   stage::applyDarkTheme(application);
   stage::Stage run(*parsed.options);

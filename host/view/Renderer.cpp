@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/geometry/Bounds.h"
+#include "host/services/Threads.h"
 #include "host/view/ColorCurves.h"
 #include "host/view/PixelTracer.h"
 
@@ -80,7 +81,7 @@ bool inRange(const RenderOptions& options) {
 bool drawAllTiles(TileQueue& queue, unsigned threads) {
   if (threads == 0) threads = std::max(1U, std::thread::hardware_concurrency());
   std::vector<std::thread> others;
-  for (unsigned i = 1; i < std::min(threads, 256U); ++i) others.emplace_back([&queue] { queue.work(false); });
+  startThreads(others, std::min(threads, 256U) - 1, [&queue] { queue.work(false); });
   queue.work(true);
   for (std::thread& other : others) other.join();
   return queue.complete();
