@@ -81,6 +81,7 @@ host::Camera cameraFor(const CreateOptions& options, const Box3& bounds) {
 std::string writePicture(const CreateOptions& options, std::vector<host::ViewItem> items) {
   host::RayScene rays;
   rays.setItems(std::move(items));
+  if (!rays.complete()) return "there is not enough memory to draw everything";
   Progress progress("Drawing");
   host::RenderOptions render;
   render.width = options.width;

@@ -1,7 +1,8 @@
 #include "host/formats/MaterialReader.h"
-#include "host/formats/Unreadable.h"
 
 #include "host/files/Paths.h"
+#include "host/formats/JsonValues.h"
+#include "host/formats/Unreadable.h"
 #include "host/materials/BitmapTexture.h"
 #include "host/materials/MaterialClasses.h"
 #include "host/materials/TextureMap.h"
@@ -31,7 +32,7 @@ MSTR text(const Json& object, const char* key) {
 
 Class_ID classOf(const Json& object) {
   const Json& value = object.at("class");
-  if (value.is_array()) return {value.at(0).get<std::uint32_t>(), value.at(1).get<std::uint32_t>()};
+  if (value.is_array()) return {integerFrom<std::uint32_t>(value.at(0)), integerFrom<std::uint32_t>(value.at(1))};
   const auto name = value.get<std::string>();
   if (name == "standard") return STANDARD_MATERIAL;
   if (name == "multi") return MULTI_MATERIAL;
@@ -40,23 +41,18 @@ Class_ID classOf(const Json& object) {
   throw Unreadable("unknown class \"" + name + "\"");
 }
 
-/// What JSON cannot say, an infinity or no number at all, is written as null.
-float number(const Json& value) {
-  return value.is_null() ? std::numeric_limits<float>::quiet_NaN() : value.get<float>();
-}
-
 /// The one that a reference means, or a new one, remembered when it has an id.
 template <class T, class Make>
 Ref<T> sharedOrNew(std::map<int, Ref<T>>& known, const Json& object, Make make) {
   const auto reference = object.find("ref");
   if (reference != object.end()) {
-    const auto found = known.find(reference->get<int>());
+    const auto found = known.find(integerFrom<int>(*reference));
     if (found == known.end()) throw Unreadable("a reference leads nowhere");
     return found->second;
   }
   const Ref<T> made = make(object);
   const auto id = object.find("id");
-  if (id != object.end()) known[id->get<int>()] = made;
+  if (id != object.end()) known[integerFrom<int>(*id)] = made;
   return made;
 }
 
@@ -132,12 +128,13 @@ std::vector<Ref<ParameterBlock>> MaterialReader::blocks(const Json& object) {
 }
 
 ParameterBlock::Parameter MaterialReader::parameter(const Json& entry) {
-  const auto id = entry.at("id").get<ParamID>();
+  const auto id = integerFrom<ParamID>(entry.at("id"));
   const auto type = entry.at("type").get<std::string>();
   const Json& value = entry.at("value");
-  if (type == "float") return {id, TYPE_FLOAT, number(value)};
-  if (type == "int") return {id, TYPE_INT, value.get<int>()};
-  if (type == "color") return {id, TYPE_RGBA, Color(number(value.at(0)), number(value.at(1)), number(value.at(2)))};
+  if (type == "float") return {id, TYPE_FLOAT, floatFrom(value)};
+  if (type == "int") return {id, TYPE_INT, integerFrom<int>(value)};
+  if (type == "color")
+    return {id, TYPE_RGBA, Color(floatFrom(value.at(0)), floatFrom(value.at(1)), floatFrom(value.at(2)))};
   if (type == "text") return {id, TYPE_STRING, shortText(value)};
   if (type == "material") return {id, TYPE_MTL, material(value)};
   if (type == "texmap") return {id, TYPE_TEXMAP, map(value)};
