@@ -2,12 +2,14 @@
 
 #include <iostream>
 
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/Progress.h"
+#include "apps/support/ExitStatus.h"
 #include "samples/repository/Plaza.h"
 #include "samples/repository/SampleRepository.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace {
 
@@ -35,7 +37,7 @@ int runSample(const SampleCommandOptions& options) {
   if (error.empty()) error = samples::writePlaza(options.folder / "plaza.json");
   if (!error.empty()) {
     std::cerr << "zorvel sample: " << error << '\n';
-    return EXIT_FINDINGS;
+    return EXIT_INTERNAL;
   }
   std::cout << "Wrote " << options.folder.string() << '\n';
   return EXIT_CLEAN;

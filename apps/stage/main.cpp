@@ -3,10 +3,12 @@
 #include <iostream>
 
 #include "apps/stage/DarkTheme.h"
-#include "apps/stage/ExitStatus.h"
 #include "apps/stage/Stage.h"
+#include "apps/support/ExitStatus.h"
+#include "apps/support/ProgramStart.h"
 
 int main(int argc, char** argv) try {
+  apps::startProgram("zorvel-stage");
   // Help and mistakes need no display.
   const stage::ParsedOptions parsed = stage::parseOptions(argc, argv);
   if (!parsed.options) return parsed.status;
@@ -22,5 +24,5 @@ int main(int argc, char** argv) try {
   return run.run();
 } catch (const std::exception& error) {
   std::cerr << "zorvel-stage: internal error: " << error.what() << '\n';
-  return stage::EXIT_INTERNAL;
+  return apps::EXIT_INTERNAL;
 }

@@ -3,12 +3,14 @@
 #include <iostream>
 #include <vector>
 
-#include "apps/cli/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
 #include "check/PrintableText.h"
 #include "host/files/TemporaryFolder.h"
 #include "samples/repository/StarterRepository.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace fs = std::filesystem;
 
@@ -77,12 +79,12 @@ std::string copyInto(const fs::path& from, const fs::path& to, Made& made) {
 int runInit(const fs::path& folder) {
   if (const std::string refusal = whyRefused(folder); !refusal.empty()) return complain(refusal, EXIT_USAGE);
   const host::TemporaryFolder ready;
-  if (ready.path().empty()) return complain("No temporary folder can be made.", EXIT_FINDINGS);
+  if (ready.path().empty()) return complain("No temporary folder can be made.", EXIT_INTERNAL);
   Made made;
   std::string error = samples::writeStarterRepository(ready.path());
   if (error.empty()) error = makeFolder(folder, made);
   if (error.empty()) error = copyInto(ready.path(), folder, made);
-  if (!error.empty()) return complain(error, EXIT_FINDINGS);
+  if (!error.empty()) return complain(error, EXIT_INTERNAL);
   made.keep();
   std::cout << "Wrote " << folder.string() << "\nzorvel.xml says what is in it and where the rest belongs.\n";
   return EXIT_CLEAN;
