@@ -5,6 +5,7 @@
 #include "apps/guide/WindowDriver.h"
 #include "apps/stage/DarkTheme.h"
 #include "apps/stage/Stage.h"
+#include "host/files/SignalWatch.h"
 
 namespace {
 
@@ -67,6 +68,7 @@ void takeFine(guide::WindowDriver& driver) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+  host::watchSignals();
   if (argc < 3) {
     std::cerr << USAGE;
     return 2;

@@ -2,9 +2,11 @@
 #include <iostream>
 
 #include "apps/reference/Documents.h"
+#include "host/files/SignalWatch.h"
 #include "host/files/WholeFile.h"
 
 int main(int argc, char** argv) try {
+  host::watchSignals();
   if (argc != 2) {
     std::cerr
         << "usage: zorvel-reference FOLDER\nWrites what comes from the checker's tables into the documents there.\n";

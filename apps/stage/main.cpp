@@ -5,8 +5,10 @@
 #include "apps/stage/DarkTheme.h"
 #include "apps/stage/ExitStatus.h"
 #include "apps/stage/Stage.h"
+#include "host/files/SignalWatch.h"
 
 int main(int argc, char** argv) try {
+  host::watchSignals();
   // Help and mistakes need no display.
   const stage::ParsedOptions parsed = stage::parseOptions(argc, argv);
   if (!parsed.options) return parsed.status;
