@@ -16,6 +16,7 @@
 #include "apps/cli/author/AddCommand.h"
 #include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
+#include "host/files/PrintableText.h"
 
 namespace cli {
 
@@ -254,7 +255,7 @@ int run(int argc, const char* const* argv) try {
   }
   return EXIT_USAGE;
 } catch (const std::exception& error) {
-  std::cerr << "zorvel: internal error: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel: internal error: ") + error.what());
   return EXIT_INTERNAL;
 }
 

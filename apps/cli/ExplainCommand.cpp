@@ -5,16 +5,16 @@
 
 #include "apps/cli/ExitStatus.h"
 #include "apps/cli/StandardOutput.h"
-#include "check/PrintableText.h"
 #include "check/explain/Explain.h"
 #include "check/report/ExplainReport.h"
+#include "host/files/PrintableText.h"
 
 namespace cli {
 
 namespace {
 
 int failExplain(const std::string& error, int status) {
-  std::cerr << "zorvel explain: " << error << '\n';
+  host::printLine(std::cerr, "zorvel explain: " + error);
   return status;
 }
 
@@ -23,7 +23,7 @@ int failExplain(const std::string& error, int status) {
 int runExplain(const std::filesystem::path& repository, const std::string& id, bool asJson) {
   const check::ExplainResult result = check::explainId(repository, id);
   if (!result.isReadable) {
-    return failExplain(check::printable(repository.string()) + ": " + result.problem, EXIT_UNREADABLE);
+    return failExplain(repository.string() + ": " + result.problem, EXIT_UNREADABLE);
   }
   if (result.explanations.empty() && !asJson) {
     std::cerr << "zorvel explain: " << check::explainText(result);

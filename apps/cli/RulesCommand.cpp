@@ -6,6 +6,7 @@
 #include "apps/cli/StandardOutput.h"
 #include "check/report/RulesDocument.h"
 #include "check/report/RulesReport.h"
+#include "host/files/PrintableText.h"
 
 namespace cli {
 
@@ -14,7 +15,7 @@ int runRules(const std::string& format) {
                                                 : format == "json" ? check::rulesJson()
                                                                    : check::rulesText());
   if (error.empty()) return EXIT_CLEAN;
-  std::cerr << "zorvel rules: " << error << '\n';
+  host::printLine(std::cerr, "zorvel rules: " + error);
   return EXIT_INTERNAL;
 }
 

@@ -5,6 +5,7 @@
 #include "apps/guide/WindowDriver.h"
 #include "apps/stage/DarkTheme.h"
 #include "apps/stage/Stage.h"
+#include "host/files/PrintableText.h"
 #include "host/files/SignalWatch.h"
 
 namespace {
@@ -89,6 +90,6 @@ int main(int argc, char** argv) try {
   argc > 3 ? takeFine(driver) : takeAll(driver);
   return 0;
 } catch (const std::exception& error) {
-  std::cerr << "zorvel-guide-pictures: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel-guide-pictures: ") + error.what());
   return 1;
 }

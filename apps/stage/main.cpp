@@ -5,6 +5,7 @@
 #include "apps/stage/DarkTheme.h"
 #include "apps/stage/ExitStatus.h"
 #include "apps/stage/Stage.h"
+#include "host/files/PrintableText.h"
 #include "host/files/SignalWatch.h"
 
 int main(int argc, char** argv) try {
@@ -23,6 +24,6 @@ int main(int argc, char** argv) try {
   stage::Stage run(*parsed.options);
   return run.run();
 } catch (const std::exception& error) {
-  std::cerr << "zorvel-stage: internal error: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel-stage: internal error: ") + error.what());
   return stage::EXIT_INTERNAL;
 }

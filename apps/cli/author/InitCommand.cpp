@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "apps/cli/ExitStatus.h"
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 #include "host/files/TemporaryFolder.h"
 #include "host/files/Uninterrupted.h"
 #include "samples/repository/StarterRepository.h"
@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 namespace {
 
 int complain(const std::string& text, ExitStatus status) {
-  std::cerr << "zorvel init: " << check::printable(text) << '\n';
+  host::printLine(std::cerr, "zorvel init: " + text);
   return status;
 }
 
@@ -92,7 +92,8 @@ int runInit(const fs::path& folder) {
   std::string error = samples::writeStarterRepository(ready.path());
   if (error.empty()) error = putInto(ready.path(), folder);
   if (!error.empty()) return complain(error, EXIT_INTERNAL);
-  std::cout << "Wrote " << folder.string() << "\nzorvel.xml says what is in it and where the rest belongs.\n";
+  host::printLine(std::cout, "Wrote " + folder.string());
+  host::printLine(std::cout, "zorvel.xml says what is in it and where the rest belongs.");
   return EXIT_CLEAN;
 }
 
