@@ -37,7 +37,7 @@ std::filesystem::path absoluteOrEmpty(const std::filesystem::path& path) {
 
 CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& options)
     : settings_(root),
-      prefix_(settings_.isThere() ? ZORVEL::Settings::GetPath() : L""),
+      prefix_(ZORVEL::Settings::GetPath()),
       files_(absoluteOrEmpty(root), prefix_),
       findings_(description_),
       survey_{findings_, files_, prefix_, {}, {}, {}},
@@ -47,7 +47,7 @@ CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& opti
   result_.root = root.string();
   ZORVEL::Data2::Clear();
   result_.isReadable = readDescription(options);
-  if (settings_.isThere()) ReadingRules(survey_).run();
+  ReadingRules(survey_).run();
   if (result_.isReadable) {
     ZORVEL::Data2::SetValidated(true);
     runRules(options);
@@ -59,11 +59,6 @@ CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& opti
 }
 
 bool CheckRun::readDescription(const CheckerOptions& options) {
-  if (!settings_.isThere()) {
-    findings_.addAt(RuleId::DescriptionUnreadable, 0, 0,
-                    {"no temporary folder can be made, and the settings need one"});
-    return false;
-  }
   const std::wstring file = ZORVEL::RepositoryPaths::Description(prefix_);
   // Without a description it may be any folder, of any size.
   if (files_.Look(file) == ZORVEL::DiskEntry::File) {

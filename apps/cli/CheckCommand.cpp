@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <iostream>
 
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/Progress.h"
 #include "apps/cli/StandardOutput.h"
 #include "apps/cli/TerminalColor.h"
+#include "apps/support/ExitStatus.h"
 #include "check/Checker.h"
 #include "check/Judgement.h"
 #include "check/JudgementFile.h"
@@ -22,6 +22,8 @@
 #include "host/files/WholeFile.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace {
 
@@ -122,7 +124,11 @@ int runCheck(const CheckCommandOptions& options) {
     repositories.push_back(checkOne(options.repositories[i], judgements[i], options.showsMatrix));
   }
   const std::string report = reportOf(repositories, options);
-  error = options.output.empty() ? writeStandardOutput(report) : host::writeWholeFile(options.output, report);
+  if (options.output.empty()) {
+    writeStandardOutput(report);
+  } else {
+    error = host::writeWholeFile(options.output, report);
+  }
   return error.empty() ? statusOf(repositories) : fail(error, EXIT_INTERNAL);
 }
 

@@ -8,22 +8,27 @@
 
 #include "apps/cli/CheckCommand.h"
 #include "apps/cli/CreateCommand.h"
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/ExplainCommand.h"
 #include "apps/cli/ListCommand.h"
 #include "apps/cli/RulesCommand.h"
 #include "apps/cli/SampleCommand.h"
+#include "apps/cli/StandardOutput.h"
 #include "apps/cli/author/AddCommand.h"
 #include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
+#include "apps/support/ExitStatus.h"
 #include "host/files/PrintableText.h"
 
 namespace cli {
 
+using namespace apps;
+
 namespace {
 
 const char* const EXIT_TEXT =
-    "Exit status: 0 clean, 1 findings or nothing built or added, 2 wrong usage, 3 input unreadable, 4 internal error.";
+    "Exit status: 0 clean, 1 findings or nothing built or added, 2 wrong usage, 3 input unreadable, 4 internal error "
+    "or "
+    "a result that could not be written.";
 
 const std::map<std::string, int> UNITS = {{"inches", UNITS_INCHES},
                                           {"feet", UNITS_FEET},
@@ -235,9 +240,7 @@ int report(const CLI::App& app, const CLI::ParseError& error) {
   return app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE;
 }
 
-}  // namespace
-
-int run(int argc, const char* const* argv) try {
+int runCommand(int argc, const char* const* argv) try {
   CLI::App app("zorvel: makes, checks, lists, builds and previews character repositories");
   app.footer(EXIT_TEXT);
   app.set_version_flag("--version", "zorvel " ZORVEL_VERSION);
@@ -256,6 +259,17 @@ int run(int argc, const char* const* argv) try {
   return EXIT_USAGE;
 } catch (const std::exception& error) {
   host::printLine(std::cerr, std::string("zorvel: internal error: ") + error.what());
+  return EXIT_INTERNAL;
+}
+
+}  // namespace
+
+int run(int argc, const char* const* argv) {
+  const ClosedPipesAreErrors guard;
+  const int status = runCommand(argc, argv);
+  const std::string error = finishStandardOutput();
+  if (error.empty()) return status;
+  host::printLine(std::cerr, "zorvel: " + error);
   return EXIT_INTERNAL;
 }
 

@@ -6,9 +6,10 @@
 #include <set>
 
 #include "apps/cli/Choice.h"
-#include "apps/cli/ExitStatus.h"
+#include "apps/cli/LabelFonts.h"
 #include "apps/cli/PlaceByClicks.h"
 #include "apps/cli/Progress.h"
+#include "apps/support/ExitStatus.h"
 #include "apps/support/LoadedRepository.h"
 #include "host/application/Application.h"
 #include "host/application/SceneFile.h"
@@ -27,6 +28,8 @@
 #include "scene/CharacterBuilder.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace {
 
@@ -79,6 +82,7 @@ host::Camera cameraFor(const CreateOptions& options, const Box3& bounds) {
 }
 
 std::string writePicture(const CreateOptions& options, std::vector<host::ViewItem> items) {
+  const LabelFonts fonts(items);
   host::RayScene rays;
   rays.setItems(std::move(items));
   Progress progress("Drawing");
@@ -136,7 +140,7 @@ int build(const CreateOptions& options, Findings& findings) {
   std::vector<host::ViewItem> items = host::viewItems(application.scene());
   const bool good = writeFiles(options, std::move(items));
   for (const std::string& line : application.listener().lines()) findings.add(line);
-  return good ? EXIT_CLEAN : EXIT_FINDINGS;
+  return good ? EXIT_CLEAN : EXIT_INTERNAL;
 }
 
 }  // namespace

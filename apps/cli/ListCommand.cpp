@@ -4,7 +4,7 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
 
-#include "apps/cli/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
 #include "apps/support/LoadedRepository.h"
 #include "apps/support/ModelText.h"
 #include "apps/support/ParseNoteText.h"

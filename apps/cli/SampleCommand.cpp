@@ -2,13 +2,15 @@
 
 #include <iostream>
 
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/Progress.h"
+#include "apps/support/ExitStatus.h"
 #include "host/files/PrintableText.h"
 #include "samples/repository/Plaza.h"
 #include "samples/repository/SampleRepository.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace {
 

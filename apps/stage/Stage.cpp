@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <iostream>
 
-#include "apps/stage/ExitStatus.h"
 #include "apps/stage/PluginWindows.h"
 #include "apps/stage/StageMenus.h"
+#include "apps/support/ExitStatus.h"
 #include "host/actions/IconFolders.h"
 #include "host/application/Application.h"
 #include "host/files/PictureFile.h"
@@ -14,6 +14,8 @@
 #include "host/services/Listener.h"
 
 namespace stage {
+
+using namespace apps;
 
 namespace fs = std::filesystem;
 
@@ -94,12 +96,12 @@ void Stage::runScripts() {
 
 void Stage::writePictures() {
   if (!options_.picture.empty() && !window_.files().savePictureNow(options_.picture)) {
-    complain(window_.promptLine().message(), EXIT_FINDINGS);
+    complain(window_.promptLine().message(), EXIT_INTERNAL);
   }
   if (options_.windowPicture.empty()) return;
   waitForPicture(window_);
   const std::string error = host::writePicture(window_.grab().toImage(), options_.windowPicture);
-  if (!error.empty()) complain(QString::fromStdString(options_.windowPicture.string() + ": " + error), EXIT_FINDINGS);
+  if (!error.empty()) complain(QString::fromStdString(options_.windowPicture.string() + ": " + error), EXIT_INTERNAL);
 }
 
 }  // namespace stage

@@ -3,9 +3,11 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
-#include "apps/stage/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
 
 namespace stage {
+
+using namespace apps;
 
 namespace {
 
@@ -13,9 +15,8 @@ const char* const FOOTER =
     "In the viewport: middle button pans, Alt and middle (or left) button orbits, the wheel zooms, Z frames the "
     "selection, Shift+Z everything. Esc cancels a command that waits for the mouse, Q goes back to selecting.\n"
     "Without a display set QT_QPA_PLATFORM=offscreen and give --quit.\n"
-    "Exit status: 0 clean, 1 a script was not understood or a file not written, 2 wrong usage, 3 module, scene or "
-    "repository "
-    "unreadable, 4 internal error.";
+    "Exit status: 0 clean, 1 a script was not understood, 2 wrong usage, 3 module, scene or repository unreadable, "
+    "4 internal error or a file that could not be written.";
 
 void describe(CLI::App& app, StageOptions& options) {
   app.add_option("SCENE", options.scene, "Scene file to open");

@@ -3,12 +3,14 @@
 #include <iostream>
 
 #include "apps/stage/DarkTheme.h"
-#include "apps/stage/ExitStatus.h"
 #include "apps/stage/Stage.h"
+#include "apps/support/ExitStatus.h"
+#include "apps/support/ProgramStart.h"
 #include "host/files/PrintableText.h"
 #include "host/files/SignalWatch.h"
 
 int main(int argc, char** argv) try {
+  apps::startProgram("zorvel-stage");
   host::watchSignals();
   // Help and mistakes need no display.
   const stage::ParsedOptions parsed = stage::parseOptions(argc, argv);
@@ -25,5 +27,5 @@ int main(int argc, char** argv) try {
   return run.run();
 } catch (const std::exception& error) {
   host::printLine(std::cerr, std::string("zorvel-stage: internal error: ") + error.what());
-  return stage::EXIT_INTERNAL;
+  return apps::EXIT_INTERNAL;
 }

@@ -5,18 +5,28 @@
 
 namespace apps {
 
-SettledRoot::SettledRoot(const std::filesystem::path& root) : appData_(settingsFolder_.path()) {
-  if (!isThere()) return;
-  ZORVEL::Settings::LoadSettings();
-  // An empty path is no folder, not even the one that the program was started in.
+namespace fs = std::filesystem;
+
+namespace {
+
+/// No folder: nothing is below it, and nothing can be made there.
+const char* const NOWHERE = "/dev/null";
+
+/// A path that is empty or cannot be told is no folder, not even the one that the program was started in.
+fs::path absoluteOrNowhere(const fs::path& path) {
   std::error_code error;
-  const std::filesystem::path named = root.empty() ? "/dev/null" : std::filesystem::absolute(root, error);
-  // The trailing separator is what the dialog leaves.
-  ZORVEL::Settings::StorePath((host::toWide(named.string()) + L"\\").c_str());
+  const fs::path absolute = path.empty() ? path : fs::absolute(path, error);
+  return absolute.empty() || error ? NOWHERE : absolute;
 }
 
-SettledRoot::~SettledRoot() {
-  if (isThere()) ZORVEL::Settings::FreeSettings();
+}  // namespace
+
+SettledRoot::SettledRoot(const fs::path& root) : appData_(NOWHERE) {
+  ZORVEL::Settings::LoadSettings();
+  // The trailing separator is what the dialog leaves.
+  ZORVEL::Settings::StorePath((host::toWide(absoluteOrNowhere(root).string()) + L"\\").c_str());
 }
+
+SettledRoot::~SettledRoot() { ZORVEL::Settings::FreeSettings(); }
 
 }  // namespace apps

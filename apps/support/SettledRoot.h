@@ -3,12 +3,12 @@
 #include <filesystem>
 
 #include "host/files/LocalAppData.h"
-#include "host/files/TemporaryFolder.h"
 
 namespace apps {
 
 /// The plug-in's settings with a repository's root in them, as choosing its file in the dialog of 3ds Max would leave
-/// it, for as long as this lives. The user's own settings file is left alone. There is one such thing at a time.
+/// it, for as long as this lives. They are in memory only, and the user's own settings file is left alone. There is one
+/// such thing at a time.
 class SettledRoot {
  public:
   explicit SettledRoot(const std::filesystem::path& root);
@@ -16,11 +16,7 @@ class SettledRoot {
   SettledRoot(const SettledRoot&) = delete;
   SettledRoot& operator=(const SettledRoot&) = delete;
 
-  /// False when there is no place for temporary files; then there are no settings either.
-  bool isThere() const { return !settingsFolder_.path().empty(); }
-
  private:
-  host::TemporaryFolder settingsFolder_;
   host::LocalAppData appData_;
 };
 

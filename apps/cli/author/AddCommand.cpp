@@ -4,15 +4,17 @@
 #include <iomanip>
 #include <iostream>
 
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/author/DescriptionFile.h"
 #include "apps/cli/author/NeededFiles.h"
 #include "apps/cli/author/NewEntry.h"
+#include "apps/support/ExitStatus.h"
 #include "host/files/Paths.h"
 #include "host/files/PrintableText.h"
 #include "model/RepositoryFormat.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace fs = std::filesystem;
 using namespace ZORVEL::RepositoryFormat;

@@ -5,12 +5,14 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
 
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/author/MachineChecks.h"
 #include "apps/cli/author/ReadingChecks.h"
+#include "apps/support/ExitStatus.h"
 #include "host/files/PrintableText.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace {
 

@@ -3,13 +3,15 @@
 #include <iostream>
 #include <vector>
 
-#include "apps/cli/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
 #include "host/files/PrintableText.h"
 #include "host/files/TemporaryFolder.h"
 #include "host/files/Uninterrupted.h"
 #include "samples/repository/StarterRepository.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace fs = std::filesystem;
 
