@@ -7,6 +7,8 @@
 #include "apps/stage/Stage.h"
 #include "apps/support/ProgramStart.h"
 #include "apps/support/RuntimeFolder.h"
+#include "host/files/PrintableText.h"
+#include "host/files/SignalWatch.h"
 
 namespace {
 
@@ -70,6 +72,7 @@ void takeFine(guide::WindowDriver& driver) {
 
 int main(int argc, char** argv) try {
   apps::startProgram("zorvel-guide-pictures");
+  host::watchSignals();
   if (argc < 3) {
     std::cerr << USAGE;
     return 2;
@@ -91,6 +94,6 @@ int main(int argc, char** argv) try {
   argc > 3 ? takeFine(driver) : takeAll(driver);
   return 0;
 } catch (const std::exception& error) {
-  std::cerr << "zorvel-guide-pictures: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel-guide-pictures: ") + error.what());
   return 1;
 }
