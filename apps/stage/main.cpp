@@ -6,9 +6,13 @@
 #include "apps/stage/Stage.h"
 #include "apps/support/ExitStatus.h"
 #include "apps/support/ProgramStart.h"
+#include "apps/support/RuntimeFolder.h"
+#include "host/files/PrintableText.h"
+#include "host/files/SignalWatch.h"
 
 int main(int argc, char** argv) try {
   apps::startProgram("zorvel-stage");
+  host::watchSignals();
   // Help and mistakes need no display.
   const stage::ParsedOptions parsed = stage::parseOptions(argc, argv);
   if (!parsed.options) return parsed.status;
@@ -18,11 +22,12 @@ int main(int argc, char** argv) try {
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   // 150 % is 150 %.
   QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   stage::applyDarkTheme(application);
   stage::Stage run(*parsed.options);
   return run.run();
 } catch (const std::exception& error) {
-  std::cerr << "zorvel-stage: internal error: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel-stage: internal error: ") + error.what());
   return apps::EXIT_INTERNAL;
 }
