@@ -8,6 +8,7 @@
 
 #include "host/geometry/Bounds.h"
 #include "host/services/Threads.h"
+#include "host/rays/Visibility.h"
 #include "host/view/ColorCurves.h"
 #include "host/view/PixelTracer.h"
 
@@ -106,7 +107,7 @@ void drawLabels(QImage& image, const RayScene& scene, const Camera& camera) {
   font.setPixelSize(std::max(11, image.height() / 45));
   painter.setFont(font);
   for (const ViewItem& item : scene.items()) {
-    if (item.label.empty() || !item.mesh) continue;
+    if (item.label.empty() || visibilityOf(item) != Visibility::Shown) continue;
     const Point3 middle = transformed(item.mesh->bounds, item.toWorld).Center();
     const auto place = camera.project(middle, image.width(), image.height());
     if (place) drawLabel(painter, *place, QString::fromStdWString(item.label));

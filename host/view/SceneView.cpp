@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "host/geometry/Bounds.h"
+#include "host/rays/Visibility.h"
 #include "host/scene/Scene.h"
+#include "host/services/Listener.h"
 #include "host/view/SceneItems.h"
 
 namespace host {
@@ -11,7 +13,7 @@ namespace host {
 namespace {
 
 Box3 boundsOf(const ViewItem& item) {
-  return item.mesh != nullptr ? transformed(item.mesh->bounds, item.toWorld) : Box3();
+  return visibilityOf(item) == Visibility::Shown ? transformed(item.mesh->bounds, item.toWorld) : Box3();
 }
 
 /// Filters may be slow in the eyes of a ray that meets hundreds of triangles: each node is asked about once.
@@ -71,7 +73,9 @@ void SceneView::rebuild() {
   movesSeen_ = scene_.moveCount();
   itemOf_.clear();
   for (std::size_t i = 0; i < items.size(); ++i) itemOf_[static_cast<Node*>(items[i].node)] = i;
-  prepared().setItems(std::move(items));
+  RayScene& rays = prepared();
+  rays.setItems(std::move(items));
+  if (!rays.complete()) Listener::instance().reportOnce("Not everything is shown: there is not enough memory.");
   built_ = true;
   changes_ = {true, Box3()};
   ++rebuilds_;

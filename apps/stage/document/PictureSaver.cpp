@@ -18,6 +18,7 @@ std::string draw(std::vector<host::ViewItem> items, const host::Camera& camera, 
                  const std::filesystem::path& file) {
   host::RayScene rays;
   rays.setItems(std::move(items));
+  if (!rays.complete()) return "there is not enough memory to draw everything";
   const QImage picture = host::render(rays, camera, options);
   return picture.isNull() ? "the picture was given up" : host::writePicture(picture, file);
 }
