@@ -12,13 +12,13 @@
 #include "check/Checker.h"
 #include "check/Judgement.h"
 #include "check/JudgementFile.h"
-#include "check/PrintableText.h"
 #include "check/report/CsvReport.h"
 #include "check/report/JsonReport.h"
 #include "check/report/JunitReport.h"
 #include "check/report/SarifReport.h"
 #include "check/report/TextReport.h"
 #include "check/report/WearReport.h"
+#include "host/files/PrintableText.h"
 #include "host/files/WholeFile.h"
 
 namespace cli {
@@ -31,7 +31,7 @@ using check::JudgedRepository;
 using check::Judgement;
 
 int fail(const std::string& error, int status) {
-  std::cerr << "zorvel check: " << check::printable(error) << '\n';
+  host::printLine(std::cerr, "zorvel check: " + error);
   return status;
 }
 
@@ -78,7 +78,7 @@ std::string takeFiles(const CheckCommandOptions& options, const Judgement& line,
 }
 
 JudgedRepository checkOne(const std::filesystem::path& repository, const Judgement& judgement, bool wantsWear) {
-  Progress progress("Checking " + check::printable(repository.string()));
+  Progress progress("Checking " + repository.string());
   check::CheckerOptions options;
   options.targetRoot = judgement.targetRoot();
   options.wantsWear = wantsWear;

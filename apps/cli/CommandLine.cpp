@@ -19,8 +19,8 @@
 #include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
 #include "apps/support/ExitStatus.h"
-#include "check/PrintableText.h"
 #include "host/files/DiskTroubles.h"
+#include "host/files/PrintableText.h"
 #include "host/geometry/Reach.h"
 
 namespace cli {
@@ -274,14 +274,14 @@ int runCommand(int argc, const char* const* argv) try {
   }
   return EXIT_USAGE;
 } catch (const std::exception& error) {
-  std::cerr << "zorvel: internal error: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel: internal error: ") + error.what());
   return EXIT_INTERNAL;
 }
 
 /// What the disk gave no answer to looks in every command as if it were not there. Nothing is clean then.
 int tellTroubles(int status) {
   const std::vector<std::string> troubles = host::DiskTroubles::instance().take();
-  for (const std::string& line : troubles) std::cerr << "zorvel: cannot be read: " << check::printable(line) << '\n';
+  for (const std::string& line : troubles) host::printLine(std::cerr, "zorvel: cannot be read: " + line);
   return troubles.empty() ? status : std::max(status, int{EXIT_UNREADABLE});
 }
 
@@ -292,7 +292,7 @@ int run(int argc, const char* const* argv) {
   const int status = tellTroubles(runCommand(argc, argv));
   const std::string error = finishStandardOutput();
   if (error.empty()) return status;
-  std::cerr << "zorvel: " << error << '\n';
+  host::printLine(std::cerr, "zorvel: " + error);
   return EXIT_INTERNAL;
 }
 

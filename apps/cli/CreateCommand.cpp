@@ -11,11 +11,11 @@
 #include "apps/cli/Progress.h"
 #include "apps/support/ExitStatus.h"
 #include "apps/support/LoadedRepository.h"
-#include "check/PrintableText.h"
 #include "host/application/Application.h"
 #include "host/application/SceneFile.h"
 #include "host/files/Paths.h"
 #include "host/files/PictureFile.h"
+#include "host/files/PrintableText.h"
 #include "host/formats/GltfWriter.h"
 #include "host/formats/SceneJson.h"
 #include "host/scene/Scene.h"
@@ -33,7 +33,7 @@ using namespace apps;
 
 namespace {
 
-void complain(const std::string& text) { std::cerr << "zorvel create: " << check::printable(text) << '\n'; }
+void complain(const std::string& text) { host::printLine(std::cerr, "zorvel create: " + text); }
 
 /// Everything that keeps the result from being what was asked for, each once, in the order met.
 class Findings {
@@ -59,7 +59,7 @@ std::string describe(const ZORVEL::BuiltPiece& piece) {
 }
 
 void tell(const ZORVEL::BuildReport& report, Findings& findings) {
-  for (const ZORVEL::BuiltPiece& piece : report.pieces) std::cout << check::printable(describe(piece)) << '\n';
+  for (const ZORVEL::BuiltPiece& piece : report.pieces) host::printLine(std::cout, describe(piece));
   for (const ZORVEL::BuildFinding& finding : ZORVEL::BuildFindings::Describe(report)) {
     findings.add(host::toUtf8(finding.text));
   }
@@ -67,9 +67,9 @@ void tell(const ZORVEL::BuildReport& report, Findings& findings) {
 
 bool written(const std::filesystem::path& file, const std::string& error) {
   if (error.empty()) {
-    std::cout << "Wrote " << file.string() << '\n';
+    host::printLine(std::cout, "Wrote " + file.string());
   } else {
-    complain(file.string() + ": " + error);
+    complain(error);
   }
   return error.empty();
 }
@@ -134,8 +134,8 @@ int build(const CreateOptions& options, Findings& findings) {
     return EXIT_FINDINGS;
   }
   placeByClicks(*parent, pointOf(options.at), options.turn);
-  std::cout << "Built " << check::printable(host::toUtf8(parent->GetName())) << ", "
-            << application.scene().nodes().size() - nodesBefore << " nodes\n";
+  const std::size_t count = application.scene().nodes().size() - nodesBefore;
+  host::printLine(std::cout, "Built " + host::toUtf8(parent->GetName()) + ", " + std::to_string(count) + " nodes");
   tell(report, findings);
   // Reads every mesh and texture, so that those which cannot be read are named even when no file is asked for.
   std::vector<host::ViewItem> items = host::viewItems(application.scene());
@@ -158,7 +158,7 @@ int runCreate(const CreateOptions& options) {
   Findings findings;
   for (const std::string& note : choice.notes) findings.add(note);
   const int status = build(options, findings);
-  for (const std::string& finding : findings.lines()) std::cerr << "finding: " << check::printable(finding) << '\n';
+  for (const std::string& finding : findings.lines()) host::printLine(std::cerr, "finding: " + finding);
   // The scene's objects name files of this repository; nothing of them may outlive it.
   host::Application::instance().reset();
   return status == EXIT_CLEAN && !findings.lines().empty() ? EXIT_FINDINGS : status;

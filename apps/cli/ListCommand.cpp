@@ -8,8 +8,8 @@
 #include "apps/support/LoadedRepository.h"
 #include "apps/support/ModelText.h"
 #include "apps/support/ParseNoteText.h"
-#include "check/PrintableText.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 #include "model/Data2.h"
 #include "model/RepositoryFormat.h"
 #include "model/RepositoryValidation.h"
@@ -122,13 +122,12 @@ Json describeAll(const std::filesystem::path& repository) {
   return json;
 }
 
-/// What the repository says may not steer the terminal.
-std::string shown(const Json& text) { return check::printable(text.get_ref<const std::string&>()); }
+const std::string& textOf(const Json& text) { return text.get_ref<const std::string&>(); }
 
 std::string joined(const Json& entries, const char* key) {
   std::string text;
   for (const Json& entry : entries) {
-    const std::string one = shown(entry.is_object() ? entry.at(key) : entry);
+    const std::string& one = textOf(entry.is_object() ? entry.at(key) : entry);
     text += (text.empty() ? "" : ", ") + one;
   }
   return text;
@@ -137,9 +136,9 @@ std::string joined(const Json& entries, const char* key) {
 std::string details(const Json& element) {
   std::string text;
   const auto add = [&text](const std::string& part) { text += "  " + part; };
-  if (!element.value("type", "").empty()) add(shown(element["type"]));
-  if (element.contains("category")) add("in " + shown(element["category"]));
-  if (element.contains("globalID")) add("stands for " + shown(element["globalID"]));
+  if (!element.value("type", "").empty()) add(textOf(element["type"]));
+  if (element.contains("category")) add("in " + textOf(element["category"]));
+  if (element.contains("globalID")) add("stands for " + textOf(element["globalID"]));
   if (element.value("multiple", false)) add("several");
   if (element.value("required", false)) add("required");
   for (const char* key : {"styles", "materials", "excludes", "selects", "mandatory"}) {
@@ -148,36 +147,39 @@ std::string details(const Json& element) {
   return text;
 }
 
+std::string namesOf(const Json& element) { return textOf(element["id"]) + "  " + textOf(element["name"]); }
+
 std::string whyNot(const Json& element) {
-  return element.contains("whyNot") ? "  (not usable: " + shown(element["whyNot"]) + ")" : "";
+  return element.contains("whyNot") ? "  (not usable: " + textOf(element["whyNot"]) + ")" : "";
 }
+
+void print(const std::string& line) { host::printLine(std::cout, line); }
 
 void printElements(const char* title, const Json& elements) {
   if (elements.empty()) return;
-  std::cout << "  " << title << '\n';
+  print(std::string("  ") + title);
   for (const Json& element : elements) {
-    std::cout << "    " << (element.value("usable", true) ? ' ' : '!') << ' ' << shown(element["id"]) << "  "
-              << shown(element["name"]) << details(element) << whyNot(element) << '\n';
+    print((element.value("usable", true) ? "      " : "    ! ") + namesOf(element) + details(element) +
+          whyNot(element));
   }
 }
 
-void print(const Json& repository) {
-  std::cout << "Repository " << shown(repository["repository"]) << '\n';
+void printAll(const Json& repository) {
+  print("Repository " + textOf(repository["repository"]));
   for (const Json& character : repository["characters"]) {
-    std::cout << "Character " << shown(character["id"]) << "  " << shown(character["name"]) << whyNot(character)
-              << '\n';
+    print("Character " + namesOf(character) + whyNot(character));
     for (const char* list : {"skins", "clothing", "poses", "categories", "assets"}) {
       printElements(list, character[list]);
     }
   }
   if (repository["globalAssets"].empty()) return;
-  std::cout << "Shared by all characters\n";
+  print("Shared by all characters");
   printElements("assets", repository["globalAssets"]);
 }
 
 /// False when something that the description has is gone.
 bool reportNotes(const std::vector<ZORVEL::ParseNote>& notes, const std::filesystem::path& repository) {
-  for (const ZORVEL::ParseNote& note : notes) std::cerr << check::printable(apps::lineOf(note, repository)) << '\n';
+  for (const ZORVEL::ParseNote& note : notes) host::printLine(std::cerr, apps::lineOf(note, repository));
   return std::none_of(notes.begin(), notes.end(), apps::isLoss);
 }
 
@@ -186,14 +188,14 @@ bool reportNotes(const std::vector<ZORVEL::ParseNote>& notes, const std::filesys
 int runList(const std::filesystem::path& repository, bool asJson) {
   const apps::LoadedRepository loaded(repository);
   if (!loaded.error().empty()) {
-    std::cerr << "zorvel list: " << check::printable(loaded.error()) << '\n';
+    host::printLine(std::cerr, "zorvel list: " + loaded.error());
     return EXIT_UNREADABLE;
   }
   const Json json = describeAll(repository);
   if (asJson) {
     std::cout << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
   } else {
-    print(json);
+    printAll(json);
   }
   return reportNotes(loaded.notes(), repository) ? EXIT_CLEAN : EXIT_FINDINGS;
 }

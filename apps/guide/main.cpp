@@ -7,6 +7,7 @@
 #include "apps/stage/Stage.h"
 #include "apps/support/ProgramStart.h"
 #include "apps/support/RuntimeFolder.h"
+#include "host/files/PrintableText.h"
 
 namespace {
 
@@ -91,6 +92,6 @@ int main(int argc, char** argv) try {
   argc > 3 ? takeFine(driver) : takeAll(driver);
   return 0;
 } catch (const std::exception& error) {
-  std::cerr << "zorvel-guide-pictures: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel-guide-pictures: ") + error.what());
   return 1;
 }

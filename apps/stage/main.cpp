@@ -7,6 +7,7 @@
 #include "apps/support/ExitStatus.h"
 #include "apps/support/ProgramStart.h"
 #include "apps/support/RuntimeFolder.h"
+#include "host/files/PrintableText.h"
 
 int main(int argc, char** argv) try {
   apps::startProgram("zorvel-stage");
@@ -25,6 +26,6 @@ int main(int argc, char** argv) try {
   stage::Stage run(*parsed.options);
   return run.run();
 } catch (const std::exception& error) {
-  std::cerr << "zorvel-stage: internal error: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel-stage: internal error: ") + error.what());
   return apps::EXIT_INTERNAL;
 }

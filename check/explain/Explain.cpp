@@ -1,9 +1,9 @@
 #include "check/explain/Explain.h"
 
 #include "apps/support/NearestIds.h"
-#include "check/PrintableText.h"
 #include "check/explain/Elements.h"
 #include "check/explain/Explainer.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -23,7 +23,8 @@ ExplainResult explainId(const std::filesystem::path& root, const std::string& id
     result.explanations.push_back(Explainer(run).explain(element));
   }
   if (result.explanations.empty()) {
-    for (const std::string& near : apps::nearestIds(id, elements.ids())) result.nearest.push_back(printable(near));
+    for (const std::string& near : apps::nearestIds(id, elements.ids()))
+      result.nearest.push_back(host::printable(near));
   }
   return result;
 }

@@ -1,8 +1,8 @@
 #include <map>
 
-#include "check/PrintableText.h"
 #include "check/report/ExplainReport.h"
 #include "check/report/FindingPlace.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -61,7 +61,7 @@ std::string explainText(const ExplainResult& result) {
     text += (text.empty() ? "" : "\n") + textOf(explanation, repository);
   }
   if (!text.empty()) return text;
-  text = "There is no element with the id \"" + printable(result.id) + '"';
+  text = "There is no element with the id \"" + host::printable(result.id) + '"';
   for (std::size_t i = 0; i < result.nearest.size(); ++i) text += (i == 0 ? "; nearest: " : ", ") + result.nearest[i];
   return text + ".\n";
 }

@@ -11,13 +11,13 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "check/PrintableText.h"
 #include "check/report/CsvReport.h"
 #include "check/report/JsonReport.h"
 #include "check/report/JunitReport.h"
 #include "check/report/RulesReport.h"
 #include "check/report/SarifReport.h"
 #include "check/report/TextReport.h"
+#include "host/files/PrintableText.h"
 #include "tests/check/SampleFindings.h"
 #include "tests/check/SchemaCheck.h"
 

@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "apps/support/ExitStatus.h"
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 #include "host/files/TemporaryFolder.h"
+#include "host/files/Uninterrupted.h"
 #include "samples/repository/StarterRepository.h"
 
 namespace cli {
@@ -17,7 +18,7 @@ namespace fs = std::filesystem;
 namespace {
 
 int complain(const std::string& text, ExitStatus status) {
-  std::cerr << "zorvel init: " << check::printable(text) << '\n';
+  host::printLine(std::cerr, "zorvel init: " + text);
   return status;
 }
 
@@ -74,19 +75,27 @@ std::string copyInto(const fs::path& from, const fs::path& to, Made& made) {
   return {};
 }
 
+/// All of it or nothing.
+std::string putInto(const fs::path& from, const fs::path& folder) {
+  const host::Uninterrupted whole;
+  Made made;
+  std::string error = makeFolder(folder, made);
+  if (error.empty()) error = copyInto(from, folder, made);
+  if (error.empty()) made.keep();
+  return error;
+}
+
 }  // namespace
 
 int runInit(const fs::path& folder) {
   if (const std::string refusal = whyRefused(folder); !refusal.empty()) return complain(refusal, EXIT_USAGE);
   const host::TemporaryFolder ready;
   if (ready.path().empty()) return complain("No temporary folder can be made.", EXIT_INTERNAL);
-  Made made;
   std::string error = samples::writeStarterRepository(ready.path());
-  if (error.empty()) error = makeFolder(folder, made);
-  if (error.empty()) error = copyInto(ready.path(), folder, made);
+  if (error.empty()) error = putInto(ready.path(), folder);
   if (!error.empty()) return complain(error, EXIT_INTERNAL);
-  made.keep();
-  std::cout << "Wrote " << folder.string() << "\nzorvel.xml says what is in it and where the rest belongs.\n";
+  host::printLine(std::cout, "Wrote " + folder.string());
+  host::printLine(std::cout, "zorvel.xml says what is in it and where the rest belongs.");
   return EXIT_CLEAN;
 }
 
