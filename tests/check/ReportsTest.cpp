@@ -24,7 +24,7 @@
 namespace {
 
 using check::JudgedRepository;
-using check::printable;
+using host::printable;
 using check::RuleId;
 using testing::Each;
 using testing::EndsWith;
