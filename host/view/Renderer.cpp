@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "host/geometry/Bounds.h"
-#include "host/services/Threads.h"
 #include "host/rays/Visibility.h"
+#include "host/services/Threads.h"
 #include "host/view/ColorCurves.h"
 #include "host/view/PixelTracer.h"
 

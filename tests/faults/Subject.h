@@ -40,6 +40,8 @@ class Subject {
 
  private:
   void clear() const;
+  /// What a run says must not depend on where it is made.
+  std::string withoutPlace(std::string text) const;
   std::vector<std::string> environment(const Fault& fault, bool isWatched) const;
 
   std::filesystem::path folder_;
