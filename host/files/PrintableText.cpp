@@ -1,4 +1,4 @@
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -24,8 +24,8 @@
 namespace {
 
 using check::JudgedRepository;
-using check::printable;
 using check::RuleId;
+using host::printable;
 using testing::Each;
 using testing::EndsWith;
 using testing::HasSubstr;
