@@ -3,6 +3,8 @@
 #include <units.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cmath>
 #include <iostream>
 #include <map>
 
@@ -17,7 +19,9 @@
 #include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
 #include "apps/support/ExitStatus.h"
+#include "host/files/DiskTroubles.h"
 #include "host/files/PrintableText.h"
+#include "host/geometry/Reach.h"
 
 namespace cli {
 
@@ -124,9 +128,18 @@ Command addRules(CLI::App& app) {
   return {command, [format] { return runRules(*format); }};
 }
 
+/// Farther away nothing is shown.
+const CLI::Validator IS_PLACE(
+    [](std::string& text) -> std::string {
+      double number = 0.0;
+      const bool good = CLI::detail::lexical_cast(text, number) && std::abs(number) <= double(host::FARTHEST_PLACE);
+      return good ? "" : text + " is no number from -10,000,000,000 to 10,000,000,000";
+    },
+    "");
+
 void addCamera(CLI::App& command, CreateOptions& options) {
   const auto add = [&](const char* name, std::optional<std::array<float, 3>>& place, const char* text) {
-    return command.add_option(name, place, text)->delimiter(',')->option_text("X,Y,Z");
+    return command.add_option(name, place, text)->delimiter(',')->check(IS_PLACE)->option_text("X,Y,Z");
   };
   CLI::Option* eye = add("--eye", options.eye, "From where the picture is taken, in scene units");
   CLI::Option* target = add("--target", options.target, "What it looks at; everything is in the picture without both");
@@ -157,8 +170,11 @@ Command addCreate(CLI::App& app) {
       ->excludes(unit);
   command->add_option("--at", options->at, "Where the character stands, in scene units")
       ->delimiter(',')
+      ->check(IS_PLACE)
       ->option_text("X,Y,Z");
-  command->add_option("--turn", options->turn, "How far it is turned about the vertical axis")->option_text("DEGREES");
+  command->add_option("--turn", options->turn, "How far it is turned about the vertical axis")
+      ->check(IS_PLACE)
+      ->option_text("DEGREES");
   command->add_option("--picture", options->picture, "Write a picture of the scene (PNG)");
   command->add_option("--width", options->width, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
   command->add_option("--height", options->height, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
@@ -262,11 +278,18 @@ int runCommand(int argc, const char* const* argv) try {
   return EXIT_INTERNAL;
 }
 
+/// What the disk gave no answer to looks in every command as if it were not there. Nothing is clean then.
+int tellTroubles(int status) {
+  const std::vector<std::string> troubles = host::DiskTroubles::instance().take();
+  for (const std::string& line : troubles) host::printLine(std::cerr, "zorvel: cannot be read: " + line);
+  return troubles.empty() ? status : std::max(status, int{EXIT_UNREADABLE});
+}
+
 }  // namespace
 
 int run(int argc, const char* const* argv) {
   const ClosedPipesAreErrors guard;
-  const int status = runCommand(argc, argv);
+  const int status = tellTroubles(runCommand(argc, argv));
   const std::string error = finishStandardOutput();
   if (error.empty()) return status;
   host::printLine(std::cerr, "zorvel: " + error);

@@ -85,6 +85,7 @@ std::string writePicture(const CreateOptions& options, std::vector<host::ViewIte
   const LabelFonts fonts(items);
   host::RayScene rays;
   rays.setItems(std::move(items));
+  if (!rays.complete()) return "there is not enough memory to draw everything";
   Progress progress("Drawing");
   host::RenderOptions render;
   render.width = options.width;

@@ -5,6 +5,8 @@
 #include "apps/guide/WindowDriver.h"
 #include "apps/stage/DarkTheme.h"
 #include "apps/stage/Stage.h"
+#include "apps/support/ProgramStart.h"
+#include "apps/support/RuntimeFolder.h"
 #include "host/files/PrintableText.h"
 #include "host/files/SignalWatch.h"
 
@@ -69,6 +71,7 @@ void takeFine(guide::WindowDriver& driver) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+  apps::startProgram("zorvel-guide-pictures");
   host::watchSignals();
   if (argc < 3) {
     std::cerr << USAGE;
@@ -76,6 +79,7 @@ int main(int argc, char** argv) try {
   }
   qputenv("QT_LOGGING_RULES", "default.warning=false");
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   stage::applyDarkTheme(application);
   stage::StageOptions options;

@@ -2,11 +2,13 @@
 #include <iostream>
 
 #include "apps/reference/Documents.h"
+#include "apps/support/ProgramStart.h"
 #include "host/files/PrintableText.h"
 #include "host/files/SignalWatch.h"
 #include "host/files/WholeFile.h"
 
 int main(int argc, char** argv) try {
+  apps::startProgram("zorvel-reference");
   host::watchSignals();
   if (argc != 2) {
     std::cerr

@@ -6,6 +6,7 @@
 #include "apps/stage/Stage.h"
 #include "apps/support/ExitStatus.h"
 #include "apps/support/ProgramStart.h"
+#include "apps/support/RuntimeFolder.h"
 #include "host/files/PrintableText.h"
 #include "host/files/SignalWatch.h"
 
@@ -21,6 +22,7 @@ int main(int argc, char** argv) try {
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   // 150 % is 150 %.
   QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   stage::applyDarkTheme(application);
   stage::Stage run(*parsed.options);

@@ -21,8 +21,8 @@ bool isReference(std::optional<EntryKind> kind) {
 }
 
 std::string idIn(const XmlElement& element) {
-  const wchar_t* id = element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID);
-  return id != nullptr ? host::toUtf8(id) : "";
+  const ZORVEL::XmlAttribute* id = element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID);
+  return id != nullptr ? id->text : "";
 }
 
 }  // namespace

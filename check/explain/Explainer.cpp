@@ -50,8 +50,7 @@ Explainer::Explainer(CheckRun& run) : run_(run), survey_(run.survey()), findings
 Explanation Explainer::explain(const Element& element) {
   Explanation explanation;
   explanation.kind = kindText(element.kind);
-  const wchar_t* id = element.source->FindAttribute(FIELD_ID);
-  explanation.id = host::printable(host::toUtf8(id != nullptr ? id : L""));
+  explanation.id = host::printable(host::toUtf8(element.source->GetText(FIELD_ID)));
   explanation.element = host::printable(survey_.findings.description().pathOf(*element.source));
   explanation.line = element.source->line;
   explanation.column = element.source->column;
@@ -137,8 +136,7 @@ Outcome Explainer::addRest(const Element& element) {
 /// Those about it, in it (but not all of a character), right around it, and those in the same character that name it.
 std::vector<Finding> Explainer::concerning(const Element& element) const {
   const std::string path = host::printable(survey_.findings.description().pathOf(*element.source));
-  const wchar_t* id = element.source->FindAttribute(FIELD_ID);
-  const std::string named = '"' + host::printable(host::toUtf8(id != nullptr ? id : L"")) + '"';
+  const std::string named = '"' + host::printable(host::toUtf8(element.source->GetText(FIELD_ID))) + '"';
   const std::string wearer = wearerOf(path);
   std::set<const XmlElement*> near = {element.source, aroundOf(element), sharedOf(element)};
   // Whatever is around what was not read may be what was refused.

@@ -53,10 +53,10 @@ void MatrixRules::lookAt(const CharacterData& character, const XmlElement& eleme
   const IdsOf assets(character, ZORVEL::ASSETS);
   std::map<std::pair<std::wstring, std::wstring>, int> rows;
   const auto lookAtRow = [&](const XmlElement& row) {
-    const wchar_t* poseId = row.FindAttribute(FIELD_POSE_ID);
-    const wchar_t* assetId = row.FindAttribute(FIELD_MATRIX_ASSET_ID);
-    if (poseId == nullptr || assetId == nullptr) {
-      survey_.missedPairs.emplace(&character, poseId != nullptr ? poseId : L"", assetId != nullptr ? assetId : L"");
+    const std::wstring poseId = row.GetText(FIELD_POSE_ID);
+    const std::wstring assetId = row.GetText(FIELD_MATRIX_ASSET_ID);
+    if (row.FindAttribute(FIELD_POSE_ID) == nullptr || row.FindAttribute(FIELD_MATRIX_ASSET_ID) == nullptr) {
+      survey_.missedPairs.emplace(&character, poseId, assetId);
       return;
     }
     Findings& findings = survey_.findings;

@@ -63,8 +63,8 @@ WearCell cellFrom(WearState state, const Finding* finding) {
 }
 
 std::string idText(const XmlElement& element) {
-  const wchar_t* id = element.FindAttribute(FIELD_ID);
-  return id != nullptr ? host::printable(host::toUtf8(id)) : "";
+  const ZORVEL::XmlAttribute* id = element.FindAttribute(FIELD_ID);
+  return id != nullptr ? host::printable(id->text) : "";
 }
 
 }  // namespace
@@ -124,6 +124,7 @@ WearRow WearTables::rowOf(const CharacterData& character, const DataContainer& c
 
 void WearTables::addDropped(const CharacterData& character, WearTable& table) const {
   const Description& description = survey_.findings.description();
+  if (!description.hasDroppedClothes(survey_.elementOf(&character))) return;
   for (const ZORVEL::ParseNote& note : description.notes()) {
     if (note.kind != Kind::ClothingWithoutPreview) continue;
     const XmlElement* list = description.parentOf(*note.source);

@@ -39,10 +39,20 @@ std::string contentOf(const std::filesystem::path& file) {
   return content.str();
 }
 
+nlohmann::ordered_json parsed(const std::string& text) {
+  try {
+    return nlohmann::ordered_json::parse(text);
+  } catch (const nlohmann::json::out_of_range&) {
+    throw Unreadable("a number in it is out of range");
+  } catch (const nlohmann::json::exception&) {
+    throw Unreadable("it is no scene file, or not a whole one");
+  }
+}
+
 /// Nothing, and `problem` says why, when any part of the file cannot be read.
 std::optional<SceneReading> read(const std::filesystem::path& file, std::string& problem) {
   try {
-    return readScene(nlohmann::ordered_json::parse(contentOf(file), nullptr, false));
+    return readScene(parsed(contentOf(file)));
   } catch (const nlohmann::json::exception& damage) {
     problem = std::string("it is damaged: ") + damage.what();
   } catch (const std::exception& damage) {

@@ -91,7 +91,7 @@ class Reader {
 
 Units units(const Json& json) {
   Units result;
-  if (!result.set(json.at("type").get<int>(), json.at("scale").get<float>())) throw Unreadable("its unit is none");
+  if (!result.set(integerFrom<int>(json.at("type")), floatFrom(json.at("scale")))) throw Unreadable("its unit is none");
   return result;
 }
 
@@ -101,7 +101,7 @@ SceneReading readScene(const Json& document) {
   if (!document.is_object() || document.value("format", "") != SCENE_FORMAT) {
     throw Unreadable("it is no scene file, or not a whole one");
   }
-  if (document.value("version", 0) != SCENE_FORMAT_VERSION)
+  if (!document.contains("version") || integerFrom<int>(document.at("version")) != SCENE_FORMAT_VERSION)
     throw Unreadable("its version is not one that this host reads");
   return {units(document.at("unit")), Reader().read(document)};
 }

@@ -208,10 +208,10 @@ class CheckedRepository {
       if (page.kind == PageKind::Styles && page.shown.empty()) expectTold("no style", {clothing_});
     });
     if (!isWorn_) return;
-    for (const OfferedElement& element : offers.GetAssetsWithoutPage()) {
-      if (element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(element.record)) continue;
-      expectTold("on no page", {element.record});
-    }
+    offers.VisitAssetsWithoutPage([this](const OfferedElement& element) {
+      const bool needsNone = element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(element.record);
+      if (!needsNone) expectTold("on no page", {element.record});
+    });
   }
 
   /// Such an asset needs no page, and where an entry is wrong, that is told.

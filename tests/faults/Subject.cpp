@@ -93,7 +93,6 @@ std::vector<std::string> Subject::environment(const Fault& fault, bool isWatched
   set("HOME", (folder_ / "home").string());
   set("TMPDIR", temporary().string());
   set("QT_QPA_PLATFORM", "offscreen");
-  set("XDG_RUNTIME_DIR", temporary().string());
   set("LD_PRELOAD", FAULT_LIBRARY);
   // The sanitizer's own library need not be the first one: this one stands in for nothing of memory then.
   set("ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0");

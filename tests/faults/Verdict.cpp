@@ -49,7 +49,7 @@ std::string faultOf(const Ending& ending, const Ending& undisturbed) {
   if (ending.signal != 0) return "was ended by signal " + std::to_string(ending.signal);
   if (ending.status > 4) return "ended with status " + std::to_string(ending.status);
   if (ending.status == 0 && !isSame(ending, undisturbed)) return "ended with status 0 and another result";
-  if (ending.status != 0 && ending.err.empty() && ending.out.empty()) return "said nothing";
+  if (ending.status != 0 && ending.err.empty() && ending.out.empty() && ending.results.empty()) return "said nothing";
   if (!ending.err.empty() && ending.err.back() != '\n') return "ended in the middle of a line";
   return faultOfResults(ending, undisturbed);
 }

@@ -136,7 +136,7 @@ Fate strike() {
 
 Fate decideCounted(Kind kind) {
   add(plan.tally->ofKind[indexOf(kind)]);
-  if (isDropped && kind != WRITE) return Fate::Fails;
+  if (isDropped && (kind & (OPEN | READ | STATUS | LIST)) != 0) return Fate::Fails;
   if ((plan.kinds & kind) == 0) return Fate::Normal;
   add(plan.tally->calls);
   const unsigned long number = ++position;
