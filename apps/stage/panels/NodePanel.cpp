@@ -108,10 +108,11 @@ void NodePanel::showSelection() {
 void NodePanel::takeSelection() {
   QHash<quint64, host::Node*> byHandle;
   for (host::Node* node : scene().nodes()) byHandle.insert(node->GetHandle(), node);
-  scene().clearSelection();
+  std::vector<host::Node*> selected;
   for (const QTreeWidgetItem* item : tree_->selectedItems()) {
-    if (host::Node* node = byHandle.value(handleOf(item))) scene().select(*node, false);
+    if (host::Node* node = byHandle.value(handleOf(item))) selected.push_back(node);
   }
+  scene().select(selected);
 }
 
 }  // namespace stage
