@@ -125,6 +125,8 @@ Ending Subject::run(const std::vector<std::string>& command, const Fault& fault,
   if (process == 0) {
     redirect(folder_ / "out", STDOUT_FILENO);
     redirect(folder_ / "err", STDERR_FILENO);
+    // What is named relative to it is told so.
+    if (::chdir(folder_.c_str()) != 0) ::_exit(126);
     ::execve(argv.front(), argv.data(), environment.data());
     ::_exit(127);
   }
