@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <utility>
 
+#include "host/files/FilesRead.h"
+
 namespace host {
 
 namespace {
@@ -27,6 +29,7 @@ RegularFile::RegularFile(const std::filesystem::path& file, Seen seen) {
   if (descriptor_ < 0) return;
   if (::fstat(descriptor_, &status) == 0 && isRegular(status)) {
     size_ = static_cast<std::uintmax_t>(status.st_size);
+    FilesRead::note(file);
   } else {
     ::close(release());
   }
