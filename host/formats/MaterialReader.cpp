@@ -19,9 +19,9 @@ using Json = nlohmann::ordered_json;
 constexpr int MAXIMUM_DEPTH = 32;
 constexpr std::size_t MAXIMUM_SLOTS = 1000;
 constexpr std::size_t LONGEST_TEXT = 100'000;
-/// Parts of a material, parameters too, counted as often as they are met on a walk through it: two references on each of
-/// 28 levels make a thousand million of twenty lines. Some are met often, but all together stay in proportion to what was
-/// read. The plug-in's own walk ends after as many steps.
+/// Parts of a material, parameters too, counted as often as they are met on a walk through it: two references on each
+/// of 28 levels make a thousand million of twenty lines. Some are met often, but all together stay in proportion to
+/// what was read. The plug-in's own walk ends after as many steps.
 constexpr std::size_t MOST_MEETINGS = 100'000;
 constexpr std::size_t ALWAYS_MET = 1000;
 constexpr std::size_t MEETINGS_OF_ONE = 10;

@@ -12,8 +12,8 @@
 namespace host {
 
 /// Reads the materials of one file, as MaterialWriter writes them and people do by hand. One that names itself with
-/// "id" can be meant again with "ref" further down. What it answers can be walked without remembering: each material has a
-/// bounded depth, and a number of parts, counted as often as a walk meets them, in proportion to the file. Throws
+/// "id" can be meant again with "ref" further down. What it answers can be walked without remembering: each material
+/// has a bounded depth, and a number of parts, counted as often as a walk meets them, in proportion to the file. Throws
 /// Unreadable or what the JSON library throws.
 class MaterialReader {
  public:
