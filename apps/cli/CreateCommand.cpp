@@ -85,6 +85,9 @@ host::Camera cameraFor(const CreateOptions& options, const Box3& bounds) {
   return host::Camera::framing(bounds, static_cast<float>(options.width) / static_cast<float>(options.height));
 }
 
+/// Of the processor: several times what a picture of that size takes.
+double mostSecondsToDraw(const CreateOptions& options) { return 6.0 + 20e-6 * options.width * options.height; }
+
 std::string writePicture(const CreateOptions& options, std::vector<host::ViewItem> items) {
   const LabelFonts fonts(items);
   host::RayScene rays;
@@ -95,7 +98,10 @@ std::string writePicture(const CreateOptions& options, std::vector<host::ViewIte
   render.width = options.width;
   render.height = options.height;
   render.progress = [&progress](float done) { progress.report(done); };
-  return host::writePicture(host::render(rays, cameraFor(options, rays.bounds()), render), options.picture);
+  render.mostSeconds = mostSecondsToDraw(options);
+  const QImage picture = host::render(rays, cameraFor(options, rays.bounds()), render);
+  if (picture.isNull()) return "it takes too long to draw: too many triangles lie in one place";
+  return host::writePicture(picture, options.picture);
 }
 
 /// False when one of them could not be written.
