@@ -27,6 +27,7 @@ bool holdsFiles(const std::filesystem::path& folder) {
 }  // namespace
 
 int runSample(const SampleCommandOptions& options) {
+  if (options.folder.empty()) return complain("DIR needs a name.", EXIT_USAGE);
   if (holdsFiles(options.folder) && !options.force) {
     return complain(options.folder.string() + " is not empty; --force writes into it all the same.", EXIT_USAGE);
   }

@@ -8,7 +8,6 @@
 #include "apps/support/ProgramStart.h"
 #include "apps/support/RuntimeFolder.h"
 #include "host/files/PrintableText.h"
-#include "host/files/SignalWatch.h"
 
 namespace {
 
@@ -72,7 +71,6 @@ void takeFine(guide::WindowDriver& driver) {
 
 int main(int argc, char** argv) try {
   apps::startProgram("zorvel-guide-pictures");
-  host::watchSignals();
   if (argc < 3) {
     std::cerr << USAGE;
     return 2;

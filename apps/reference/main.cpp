@@ -4,12 +4,10 @@
 #include "apps/reference/Documents.h"
 #include "apps/support/ProgramStart.h"
 #include "host/files/PrintableText.h"
-#include "host/files/SignalWatch.h"
 #include "host/files/WholeFile.h"
 
 int main(int argc, char** argv) try {
   apps::startProgram("zorvel-reference");
-  host::watchSignals();
   if (argc != 2) {
     std::cerr
         << "usage: zorvel-reference FOLDER\nWrites what comes from the checker's tables into the documents there.\n";

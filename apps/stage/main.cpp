@@ -8,11 +8,9 @@
 #include "apps/support/ProgramStart.h"
 #include "apps/support/RuntimeFolder.h"
 #include "host/files/PrintableText.h"
-#include "host/files/SignalWatch.h"
 
 int main(int argc, char** argv) try {
   apps::startProgram("zorvel-stage");
-  host::watchSignals();
   // Help and mistakes need no display.
   const stage::ParsedOptions parsed = stage::parseOptions(argc, argv);
   if (!parsed.options) return parsed.status;

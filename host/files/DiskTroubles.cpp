@@ -23,8 +23,10 @@ DiskTroubles& DiskTroubles::instance() {
 }
 
 void DiskTroubles::note(const std::string& path, int error) {
-  if (saysThatNothingIsThere(error)) return;
-  const std::string line = path + ": " + std::generic_category().message(error);
+  if (!saysThatNothingIsThere(error)) add(path + ": " + std::generic_category().message(error));
+}
+
+void DiskTroubles::add(const std::string& line) {
   const std::lock_guard<std::mutex> lock(mutex_);
   if (lines_.size() < MOST_TROUBLES && known_.insert(line).second) lines_.push_back(line);
 }

@@ -19,10 +19,15 @@ class DiskTroubles {
   void note(const std::string& path, int error);
   void note(const std::string& path, const std::error_code& error) { note(path, error.value()); }
 
+  /// What was there before.
+  void noteGone(const std::string& path) { add(path + ": it has gone away meanwhile"); }
+
   /// Since the last time: one line for each, in the order met; of very many the first ones.
   std::vector<std::string> take();
 
  private:
+  void add(const std::string& line);
+
   std::mutex mutex_;
   std::set<std::string> known_;
   std::vector<std::string> lines_;

@@ -3,6 +3,7 @@
 #include <stdlib.h>
 
 #include <mutex>
+#include <new>
 #include <set>
 
 #include "host/files/Uninterrupted.h"
@@ -13,25 +14,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Those that there are; never destroyed, as a signal may come while the program ends by itself.
+/// Those that there are; never destroyed, as a signal may come while the program ends by itself. Nothing is allocated
+/// under the lock: without memory, they are to be removed as well.
 class Living {
  public:
   static void add(const fs::path& folder) {
+    std::set<fs::path> added = {folder};
     const std::lock_guard lock(all().mutex_);
-    all().folders_.insert(folder);
+    all().folders_.merge(added);
   }
   static void remove(const fs::path& folder) {
     const std::lock_guard lock(all().mutex_);
     all().folders_.erase(folder);
   }
-  static std::set<fs::path> list() {
+  static std::set<fs::path> take() {
+    std::set<fs::path> taken;
     const std::lock_guard lock(all().mutex_);
-    return all().folders_;
+    taken.swap(all().folders_);
+    return taken;
   }
 
  private:
   static Living& all() {
-    static Living& living = *new Living;
+    alignas(Living) static unsigned char memory[sizeof(Living)];
+    static Living& living = *new (memory) Living;
     return living;
   }
 
@@ -63,7 +69,7 @@ TemporaryFolder::~TemporaryFolder() {
 
 void TemporaryFolder::removeAll() {
   constexpr int MOST_ATTEMPTS = 100;
-  for (const fs::path& folder : Living::list()) {
+  for (const fs::path& folder : Living::take()) {
     std::error_code error;
     // What another thread writes meanwhile keeps the folder from being removed.
     for (int i = 0; i < MOST_ATTEMPTS && fs::exists(folder, error); ++i) fs::remove_all(folder, error);

@@ -140,11 +140,12 @@ class Draft {
   template <class Make>
   int beside(Make make) {
     for (int i = 0; i < MOST_ATTEMPTS; ++i) {
-      const std::string name = ".zorvel-" + std::to_string(::getpid()) + "-" + std::to_string(i) + ".tmp";
-      const fs::path path = target_.parent_path() / name;
-      if (make(path)) name_ = path;
-      if (!name_.empty()) return 0;
-      if (errno != EEXIST) return errno;
+      // Known before it is there: without memory nothing may stay.
+      name_ = target_.parent_path() / (".zorvel-" + std::to_string(::getpid()) + "-" + std::to_string(i) + ".tmp");
+      if (make(name_)) return 0;
+      const int error = errno;
+      name_.clear();
+      if (error != EEXIST) return error;
     }
     return EEXIST;
   }

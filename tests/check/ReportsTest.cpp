@@ -24,8 +24,8 @@
 namespace {
 
 using check::JudgedRepository;
-using host::printable;
 using check::RuleId;
+using host::printable;
 using testing::Each;
 using testing::EndsWith;
 using testing::HasSubstr;

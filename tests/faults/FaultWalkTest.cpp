@@ -102,6 +102,17 @@ class FaultWalk : public testing::Test {
     return command;
   }
 
+  /// In the window nobody is told a status, and a picture that is not there shows; but it goes on, and what it writes
+  /// is whole.
+  void walkWindow(const std::vector<WalkedFault>& kinds) const {
+    const Use use = {"window", {}};
+    for (WalkedFault walked : kinds) {
+      if (walked.fault.path == "#") walked.fault.path = root();
+      tell(use, walked,
+           support::walk(support::window(root()), walked, support::mostPlaces(), support::Strictness::Whole));
+    }
+  }
+
   void walkAll(const std::vector<WalkedFault>& kinds) const {
     for (const Use& use : USES) {
       for (WalkedFault walked : kinds) {
@@ -139,5 +150,19 @@ TEST_F(FaultWalk, WithoutThreads) { walkAll(faultsOfThreads()); }
 TEST_F(FaultWalk, WhereTheRepositoryCannotBeRead) { walkAll(faultsOfReading()); }
 TEST_F(FaultWalk, WhereResultsCannotBeWritten) { walkAll(faultsOfWriting()); }
 TEST_F(FaultWalk, EndedBySignals) { walkAll(signals()); }
+
+TEST_F(FaultWalk, TheWindowWithoutMemory) {
+#ifdef FAULTS_WITHOUT_MEMORY
+  GTEST_SKIP() << "the sanitizer stands in for the calls that allocate";
+#endif
+  walkWindow(faultsOfMemory());
+}
+
+TEST_F(FaultWalk, TheWindow) {
+  walkWindow(faultsOfThreads());
+  walkWindow(faultsOfReading());
+  walkWindow(faultsOfWriting());
+  walkWindow(signals());
+}
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tests/faults/Subject.h"
+#include "tests/faults/Verdict.h"
 
 namespace support {
 
@@ -27,7 +28,8 @@ struct WalkResult {
 
 /// Runs a command once undisturbed and then with the fault at one place after the other: all of them, or every k-th
 /// where there are more than `most`.
-WalkResult walk(const std::vector<std::string>& command, const WalkedFault& walked, unsigned long most);
+WalkResult walk(const std::vector<std::string>& command, const WalkedFault& walked, unsigned long most,
+                Strictness strictness = Strictness::Same);
 
 /// What FAULT_PLACES says, the number of places of each walk; 0 for all.
 unsigned long mostPlaces();

@@ -24,6 +24,7 @@ int complain(const std::string& text, ExitStatus status) {
 
 /// Why nothing can be written there; empty when it can.
 std::string whyRefused(const fs::path& folder) {
+  if (folder.empty()) return "DIR needs a name.";
   std::error_code error;
   const fs::file_status status = fs::status(folder, error);
   if (!fs::exists(status)) return {};

@@ -31,8 +31,14 @@ Result failing(faults::Kind kind, Result result) {
 
 bool isForWriting(int flags) { return (flags & O_ACCMODE) != O_RDONLY || (flags & (O_CREAT | O_TRUNC)) != 0; }
 
-void watchOpened(const char* path, bool writes) {
-  if (faults::isWatching() && faults::counts()) faults::watch(writes ? 'W' : 'R', path);
+void watchOpened(const char* path, char what) {
+  if (faults::isWatching() && faults::counts()) faults::watch(what, path);
+}
+
+/// Read, written or, as folders are, listed.
+char waysOf(int flags) {
+  if ((flags & O_DIRECTORY) == O_DIRECTORY) return 'I';
+  return isForWriting(flags) ? 'W' : 'R';
 }
 
 /// A full disk or a folder that is read only refuses those who write; a share that drops refuses all.
@@ -50,7 +56,7 @@ int openCounted(int folder, const char* path, int flags, Open open) {
   if (!mayOpen(whole, isForWriting(flags))) return failing(faults::OPEN, -1);
   const int descriptor = open();
   faults::noteOpened(descriptor, whole);
-  if (descriptor >= 0) watchOpened(whole, isForWriting(flags));
+  if (descriptor >= 0) watchOpened(whole, waysOf(flags));
   return descriptor;
 }
 
@@ -63,7 +69,7 @@ std::FILE* openStream(const char* path, const char* mode, Open open) {
   std::FILE* stream = open();
   if (stream != nullptr) {
     faults::noteOpened(::fileno(stream), whole);
-    watchOpened(whole, writes);
+    watchOpened(whole, writes ? 'W' : 'R');
   }
   return stream;
 }
@@ -289,7 +295,7 @@ STANDS_IN(DIR*, opendir, const char* path) {
   DIR* folder = (*real_opendir)(path);
   if (folder != nullptr) {
     faults::noteOpened(::dirfd(folder), whole);
-    watchOpened(whole, false);
+    watchOpened(whole, 'I');
   }
   return folder;
 }
