@@ -3,6 +3,7 @@
 #include <ILayerProperties.h>
 
 #include <nlohmann/json.hpp>
+#include <stdexcept>
 
 #include "host/files/Paths.h"
 #include "host/files/WholeFile.h"
@@ -71,7 +72,11 @@ std::string sceneJson(Scene& scene, const Units& units) {
 }
 
 std::string writeSceneJson(Scene& scene, const Units& units, const std::filesystem::path& file) {
-  return writeWholeFile(file, sceneJson(scene, units));
+  try {
+    return writeWholeFile(file, sceneJson(scene, units));
+  } catch (const std::length_error& tooMuch) {
+    return tooMuch.what();
+  }
 }
 
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "host/view/Texture.h"
 #include "tests/host/meshes/Shapes.h"
 
 using host::Camera;
