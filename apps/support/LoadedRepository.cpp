@@ -15,21 +15,17 @@ namespace {
 
 class NoteKeeper : public ZORVEL::ParseObserver {
  public:
-  explicit NoteKeeper(std::vector<ZORVEL::ParseNote>& notes) : notes_(notes) {}
+  explicit NoteKeeper(std::deque<ZORVEL::ParseNote>& notes) : notes_(notes) {}
   void Noted(const ZORVEL::ParseNote& note) override { notes_.push_back(note); }
 
  private:
-  std::vector<ZORVEL::ParseNote>& notes_;
+  std::deque<ZORVEL::ParseNote>& notes_;
 };
 
 }  // namespace
 
 LoadedRepository::LoadedRepository(const fs::path& root) : root_(root), settings_(root) {
   ZORVEL::SceneNotifications::Register();
-  if (!settings_.isThere()) {
-    error_ = "No temporary folder can be made.";
-    return;
-  }
   read();
 }
 

@@ -132,7 +132,7 @@ void ContentRules::countClosed() {
 
 void ContentRules::lookAtMaterial(const UsedMaterial& used) {
   const ZORVEL::MaterialResult result = ZORVEL::LibrarySearches::Run(
-      used.name.c_str(), used.libraries,
+      used.name, used.libraries,
       [this](const std::wstring& file, const wchar_t* name) { return libraries_.look(file, name); });
   if (result.state == MaterialState::FromLibrary) return lookIntoMaterial(used, result.searches.back().file);
   // It may be in the one that cannot be read.

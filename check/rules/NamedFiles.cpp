@@ -22,8 +22,9 @@ class Record : public DataContainer {
   explicit Record(const XmlElement& element) {
     for (int i = 0; i < element.attributeCount; ++i) {
       for (const wchar_t* field : {FIELD_ID, FIELD_FOLDER, FIELD_PREVIEW}) {
-        const ZORVEL::FieldText& attribute = element.attributes[i];
-        if (ZORVEL::WindowsNames::AreAlike(attribute.name.GetText(), field)) SetData(field, attribute.text);
+        const ZORVEL::XmlAttribute& attribute = element.attributes[i];
+        if (ZORVEL::WindowsNames::AreAlike(attribute.name.GetText(), field))
+          SetData(field, attribute.GetText().c_str());
       }
     }
   }

@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <utility>
 
+#include "host/files/FilesRead.h"
+
 namespace host {
 
 namespace {
@@ -42,6 +44,7 @@ void RegularFile::open(const std::filesystem::path& file) {
     problem_ = NOT_OPENED;
   } else if (::fstat(descriptor_, &status) == 0 && isRegular(status)) {
     size_ = static_cast<std::uintmax_t>(status.st_size);
+    FilesRead::note(file);
   } else {
     problem_ = NO_FILE;
     ::close(release());

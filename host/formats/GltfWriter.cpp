@@ -18,13 +18,20 @@ namespace {
 /// What is no valid text becomes a replacement character; glTF allows nothing else.
 std::string text(const MCHAR* wide) { return QString::fromWCharArray(wide).toStdString(); }
 
+bool isUsable(const Matrix3& m) {
+  for (int row = 0; row < 4; ++row) {
+    const Point3 r = m.GetRow(row);
+    if (!std::isfinite(r.x) || !std::isfinite(r.y) || !std::isfinite(r.z)) return false;
+  }
+  return true;
+}
+
 /// Empty for the identity, which is how glTF leaves a transform out, and for a matrix that holds no usable numbers.
 std::vector<double> gltfMatrix(const Matrix3& m) {
-  if (m.IsIdentity() != 0) return {};
+  if (m.IsIdentity() != 0 || !isUsable(m)) return {};
   std::vector<double> numbers;
   for (int row = 0; row < 4; ++row) {
     const Point3 r = m.GetRow(row);
-    if (!std::isfinite(r.x + r.y + r.z)) return {};
     numbers.insert(numbers.end(), {r.x, r.y, r.z, row == 3 ? 1.0 : 0.0});
   }
   return numbers;
@@ -92,11 +99,11 @@ class SceneWriter {
     result.children.push_back(append(std::move(holder)));
   }
 
-  /// -1 for a node without a surface.
+  /// -1 for a node without a surface, and for one that is nowhere.
   int meshOf(Node& node) {
     const auto* geometry = dynamic_cast<const Geometry*>(node.GetObjectRef());
     const std::shared_ptr<const Mesh> mesh = geometry != nullptr ? geometry->mesh() : nullptr;
-    if (!mesh || mesh->triangles.empty()) return -1;
+    if (!mesh || mesh->triangles.empty() || !isUsable(node.GetObjectTM(0))) return -1;
     const auto key = std::make_pair(mesh, node.GetMtl());
     const auto known = meshes_.find(key);
     if (known != meshes_.end()) return known->second;

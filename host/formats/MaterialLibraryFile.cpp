@@ -33,7 +33,8 @@ std::vector<Ref<Mtl>> materialsIn(std::string_view text) {
   if (!document.is_object() || document.value("format", "") != "zorvel-material-library") {
     throw Unreadable("is no material library that this host reads");
   }
-  if (document.value("version", 0) != FORMAT_VERSION) throw Unreadable("has a version that this host does not read");
+  if (document.value("version", Json()) != FORMAT_VERSION)
+    throw Unreadable("has a version that this host does not read");
   std::vector<Ref<Mtl>> result;
   for (const Json& entry : document.at("materials")) {
     if (entry.is_object()) result.push_back(MaterialReader().material(entry));

@@ -1,10 +1,10 @@
 #include "host/formats/MaterialReader.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 #include "host/files/Paths.h"
+#include "host/formats/JsonValues.h"
 #include "host/formats/Unreadable.h"
 #include "host/materials/BitmapTexture.h"
 #include "host/materials/MaterialClasses.h"
@@ -41,18 +41,13 @@ MSTR text(const Json& object, const char* key) {
 
 Class_ID classOf(const Json& object) {
   const Json& value = object.at("class");
-  if (value.is_array()) return {value.at(0).get<std::uint32_t>(), value.at(1).get<std::uint32_t>()};
+  if (value.is_array()) return {integerFrom<std::uint32_t>(value.at(0)), integerFrom<std::uint32_t>(value.at(1))};
   const auto name = value.get<std::string>();
   if (name == "standard") return STANDARD_MATERIAL;
   if (name == "multi") return MULTI_MATERIAL;
   if (name == "scaled") return SCALED_MATERIAL;
   if (name == "bitmap") return BITMAP_TEXTURE;
   throw Unreadable("unknown class \"" + name + "\"");
-}
-
-/// What JSON cannot say, an infinity or no number at all, is written as null.
-float number(const Json& value) {
-  return value.is_null() ? std::numeric_limits<float>::quiet_NaN() : value.get<float>();
 }
 
 }  // namespace
@@ -92,7 +87,7 @@ template <class T, class Make>
 MaterialReader::Known<T> MaterialReader::knownOrNew(std::map<int, Known<T>>& known, const Json& object, Make make) {
   const auto reference = object.find("ref");
   if (reference != object.end()) {
-    const auto found = known.find(reference->get<int>());
+    const auto found = known.find(integerFrom<int>(*reference));
     if (found == known.end()) throw Unreadable("a reference leads nowhere");
     return found->second;
   }
@@ -101,7 +96,7 @@ MaterialReader::Known<T> MaterialReader::knownOrNew(std::map<int, Known<T>>& kno
   const Ref<T> part = make(object);
   const Known<T> made{part, std::exchange(extent_, around)};
   const auto id = object.find("id");
-  if (id != object.end()) known[id->get<int>()] = made;
+  if (id != object.end()) known[integerFrom<int>(*id)] = made;
   return made;
 }
 
@@ -168,12 +163,13 @@ std::vector<Ref<ParameterBlock>> MaterialReader::blocks(const Json& object) {
 }
 
 ParameterBlock::Parameter MaterialReader::parameter(const Json& entry) {
-  const auto id = entry.at("id").get<ParamID>();
+  const auto id = integerFrom<ParamID>(entry.at("id"));
   const auto type = entry.at("type").get<std::string>();
   const Json& value = entry.at("value");
-  if (type == "float") return {id, TYPE_FLOAT, number(value)};
-  if (type == "int") return {id, TYPE_INT, value.get<int>()};
-  if (type == "color") return {id, TYPE_RGBA, Color(number(value.at(0)), number(value.at(1)), number(value.at(2)))};
+  if (type == "float") return {id, TYPE_FLOAT, floatFrom(value)};
+  if (type == "int") return {id, TYPE_INT, integerFrom<int>(value)};
+  if (type == "color")
+    return {id, TYPE_RGBA, Color(floatFrom(value.at(0)), floatFrom(value.at(1)), floatFrom(value.at(2)))};
   if (type == "text") return {id, TYPE_STRING, shortText(value)};
   if (type == "material") return {id, TYPE_MTL, heldMaterial(value)};
   if (type == "texmap") return {id, TYPE_TEXMAP, map(value)};

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "host/geometry/Bounds.h"
+#include "host/rays/Visibility.h"
+#include "host/services/Threads.h"
 #include "host/view/ColorCurves.h"
 #include "host/view/PixelTracer.h"
 
@@ -90,7 +92,7 @@ bool inRange(const RenderOptions& options) {
 bool drawAllTiles(TileQueue& queue, unsigned threads) {
   if (threads == 0) threads = std::max(1U, std::thread::hardware_concurrency());
   std::vector<std::thread> others;
-  for (unsigned i = 1; i < std::min(threads, 256U); ++i) others.emplace_back([&queue] { queue.work(false); });
+  startThreads(others, std::min(threads, 256U) - 1, [&queue] { queue.work(false); });
   queue.work(true);
   for (std::thread& other : others) other.join();
   return queue.complete();
@@ -115,7 +117,7 @@ void drawLabels(QImage& image, const RayScene& scene, const Camera& camera) {
   font.setPixelSize(std::max(11, image.height() / 45));
   painter.setFont(font);
   for (const ViewItem& item : scene.items()) {
-    if (item.label.empty() || !item.mesh) continue;
+    if (item.label.empty() || visibilityOf(item) != Visibility::Shown) continue;
     const Point3 middle = transformed(item.mesh->bounds, item.toWorld).Center();
     const auto place = camera.project(middle, image.width(), image.height());
     if (place) drawLabel(painter, *place, QString::fromStdWString(item.label));

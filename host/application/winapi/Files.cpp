@@ -2,10 +2,12 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <ctime>
 #include <string>
 
+#include "host/files/DiskTroubles.h"
 #include "host/files/Paths.h"
 #include "host/files/RegularFile.h"
 
@@ -21,9 +23,15 @@ std::string openMode(const wchar_t* mode) {
   return narrow;
 }
 
+bool look(const std::filesystem::path& path, struct stat& status) {
+  if (::stat(path.c_str(), &status) == 0) return true;
+  host::DiskTroubles::instance().note(path.string(), errno);
+  return false;
+}
+
 /// As written first, which nearly always answers at once.
 bool findStatus(const wchar_t* path, struct stat& status) {
-  return ::stat(host::nativePath(path).c_str(), &status) == 0 || ::stat(host::resolvePath(path).c_str(), &status) == 0;
+  return look(host::nativePath(path), status) || look(host::resolvePath(path), status);
 }
 
 DWORD attributesOf(const struct stat& status) {

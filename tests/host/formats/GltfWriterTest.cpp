@@ -6,6 +6,7 @@
 
 #include <QImage>
 #include <cstring>
+#include <limits>
 #include <nlohmann/json.hpp>
 
 #include "host/application/Application.h"
@@ -161,6 +162,16 @@ TEST_F(GltfWriter, StoresAMeshOnceForAllNodesAndMaterials) {
   const json& view = document["bufferViews"][document["images"][0]["bufferView"].get<std::size_t>()];
   EXPECT_EQ(bytes_.substr(binary_ + view["byteOffset"].get<std::size_t>(), view["byteLength"]),
             folder_.read("skin.png"));
+}
+
+TEST_F(GltfWriter, WritesNoNumberThatIsNoneAndNoMeshThatIsNowhere) {
+  Node& lost = add(L"lost", {std::numeric_limits<float>::infinity(), 0, 0});
+  Node& child = add(L"child", {});
+  lost.AttachChild(&child, 0);
+  add(L"far", {1e38F, 1e38F, 1e38F});
+  const json document = write();
+  for (const char* name : {"lost", "child"}) EXPECT_FALSE(node(document, name).contains("mesh")) << name;
+  EXPECT_TRUE(node(document, "far").contains("mesh"));
 }
 
 /// As long as it lives, files can be looked at and not opened.
