@@ -206,8 +206,8 @@ class SceneMerger {
   /// A part without normals is left with none of any length, which completeMesh then fills.
   void appendNormals(const Json& attributes, const Matrix3& transform) {
     if (const auto accessor = GltfDocument::optionalIndex(attributes, "NORMAL")) {
+      mesh_.normals.resize(mesh_.positions.size() - requireCount(document_.count(*accessor)));
       const std::vector<Point3> normals = document_.points(*accessor);
-      mesh_.normals.resize(mesh_.positions.size() - requireCount(normals.size()));
       const Matrix3 carry = forNormals(transform);
       const float side = mirrors(transform) ? -1.0F : 1.0F;
       for (const Point3& n : normals) mesh_.normals.push_back(carry.VectorTransform(n).Normalize() * side);
@@ -217,14 +217,14 @@ class SceneMerger {
 
   void appendTexCoords(const Json& attributes) {
     if (const auto accessor = GltfDocument::optionalIndex(attributes, "TEXCOORD_0")) {
+      mesh_.texCoords.resize(mesh_.positions.size() - requireCount(document_.count(*accessor)));
       const std::vector<TexCoord> coords = document_.texCoords(*accessor);
-      mesh_.texCoords.resize(mesh_.positions.size() - requireCount(coords.size()));
       for (const TexCoord& coord : coords) mesh_.texCoords.push_back({coord.u, 1.0F - coord.v});
     }
     if (!mesh_.texCoords.empty()) mesh_.texCoords.resize(mesh_.positions.size());
   }
 
-  /// `count` where it is as many as the positions appended last.
+  /// `count` where it is as many as the positions appended last; asked before room is made for them.
   std::size_t requireCount(std::size_t count) const {
     if (count != mesh_.positions.size() - partStart_) throw UnreadableMesh("the glTF file has parts that do not match");
     return count;

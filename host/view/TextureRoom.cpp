@@ -10,10 +10,10 @@ namespace {
 
 constexpr std::size_t MEBIBYTE = std::size_t{1} << 20U;
 /// Of 512 MiB, without what the program takes anyhow.
-constexpr std::size_t MOST_TOGETHER = 440 * MEBIBYTE;
+constexpr std::size_t MOST_TOGETHER = 412 * MEBIBYTE;
 constexpr std::size_t MOST_KEPT = 256 * MEBIBYTE;
 /// However much the meshes take.
-constexpr std::size_t ALWAYS_KEPT = 64 * MEBIBYTE;
+constexpr std::size_t ALWAYS_KEPT = 32 * MEBIBYTE;
 /// Ten of 8192 by 8192, which take about as many seconds as anybody waits.
 constexpr std::size_t MOST_DECODED = 700'000'000;
 constexpr std::size_t BYTES_OF_A_PIXEL = 4;

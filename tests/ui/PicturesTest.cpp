@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QBuffer>
 #include <QtTest/QtTest>
@@ -60,6 +61,14 @@ TEST_F(Pictures, ThatCannotBeShownSayWhyInTheirPlace) {
   shown(*gone.GetPicture());
   click(*gone.GetPicture());
   EXPECT_TRUE(tabs().isVisible()) << "it can be clicked all the same";
+}
+
+TEST_F(Pictures, AreFilesAndNoPipesWhichNobodyWaitsFor) {
+  const std::filesystem::path pipe = files().folder().path() / "pipe.png";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  QString problem;
+  EXPECT_TRUE(ZORVEL::PictureReader::Read(source(pipe, QSize()).path, QSize(100, 300), problem).isNull());
+  EXPECT_EQ(problem, "it cannot be opened");
 }
 
 TEST_F(Pictures, AreMeasuredWithoutBeingDecoded) {
