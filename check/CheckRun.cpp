@@ -1,16 +1,19 @@
 #include "check/CheckRun.h"
 
 #include "apps/support/ModelText.h"
+#include "check/JudgementFile.h"
 #include "check/Workload.h"
 #include "check/rules/BuildRules.h"
 #include "check/rules/FileRules.h"
 #include "check/rules/FolderRules.h"
 #include "check/rules/IdRules.h"
 #include "check/rules/MatrixRules.h"
+#include "check/rules/NamedFiles.h"
 #include "check/rules/OfferRules.h"
 #include "check/rules/ReadingRules.h"
 #include "check/rules/ReferenceRules.h"
 #include "core/Settings.h"
+#include "host/files/Paths.h"
 #include "model/Data2.h"
 #include "model/RepositoryPaths.h"
 #include "repository/Parser2.h"
@@ -37,7 +40,7 @@ std::filesystem::path absoluteOrEmpty(const std::filesystem::path& path) {
 
 CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& options)
     : settings_(root),
-      prefix_(settings_.isThere() ? ZORVEL::Settings::GetPath() : L""),
+      prefix_(ZORVEL::Settings::GetPath()),
       files_(absoluteOrEmpty(root), prefix_),
       findings_(description_),
       survey_{findings_, files_, prefix_, {}, {}, {}},
@@ -48,7 +51,7 @@ CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& opti
   survey_.keepsOffers = options.wantsWear;
   ZORVEL::Data2::Clear();
   result_.isReadable = readDescription(options);
-  if (settings_.isThere()) ReadingRules(survey_).run();
+  ReadingRules(survey_).run();
   if (result_.isReadable) {
     ZORVEL::Data2::SetValidated(true);
     runRules(options);
@@ -60,11 +63,6 @@ CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& opti
 }
 
 bool CheckRun::readDescription(const CheckerOptions& options) {
-  if (!settings_.isThere()) {
-    findings_.addAt(RuleId::DescriptionUnreadable, 0, 0,
-                    {"no temporary folder can be made, and the settings need one"});
-    return false;
-  }
   const std::wstring file = ZORVEL::RepositoryPaths::Description(prefix_);
   // Without a description it may be any folder, of any size.
   if (files_.Look(file) == ZORVEL::DiskEntry::File) {
@@ -78,6 +76,14 @@ bool CheckRun::readDescription(const CheckerOptions& options) {
   const std::string tooLarge = whyTooLarge(description_, survey_.keepsOffers);
   if (!tooLarge.empty()) findings_.addAt(RuleId::DescriptionBeyondLimits, 0, 0, {tooLarge});
   return tooLarge.empty();
+}
+
+std::vector<std::filesystem::path> CheckRun::files() {
+  if (result_.isReadable) NamedFiles(survey_).refer();
+  std::vector<std::filesystem::path> files = {host::resolvePath(ZORVEL::RepositoryPaths::Description(prefix_)),
+                                              std::filesystem::path(result_.root) / JUDGEMENT_FILE};
+  for (const std::wstring& file : files_.askedFor()) files.push_back(files_.nativePath(prefix_ + file));
+  return files;
 }
 
 CheckRun::Store::~Store() { ZORVEL::Data2::Clear(); }

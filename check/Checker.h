@@ -14,6 +14,8 @@ struct CheckerOptions {
   std::string targetRoot;
   /// Whether the result is to have the tables of what can be worn. What each page offers is kept for that.
   bool wantsWear = false;
+  /// Whether the result is to have the files that belong to the repository.
+  bool wantsFiles = false;
   /// Told from 0 to 1 how far it is; may be empty.
   std::function<void(double done)> progress;
 };

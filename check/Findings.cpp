@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "check/PrintableText.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -148,7 +148,7 @@ void Findings::takeMisspelling(Finding& finding, const XmlElement* element) {
   for (Misspelling& one : known->second) {
     if (one.meant != missingAttribute(finding)) continue;
     one.isTold = true;
-    finding.message += printable("; \"" + one.attribute + "\" is written \"" + one.meant + '"');
+    finding.message += host::printable("; \"" + one.attribute + "\" is written \"" + one.meant + '"');
   }
 }
 
@@ -190,10 +190,10 @@ bool Findings::hasOtherThanHints() const {
 void Findings::fillIn(Finding& finding, const std::vector<Value>& values) {
   const Rule& rule = ruleOf(finding.rule);
   finding.severity = rule.severity;
-  finding.file = printable(shortened(std::move(finding.file)));
-  finding.element = printable(shortened(std::move(finding.element)));
-  if (!values.empty()) finding.subject = printable(values.front().text());
-  finding.message = printable(filledIn(rule.sentence, values));
+  finding.file = host::printable(shortened(std::move(finding.file)));
+  finding.element = host::printable(shortened(std::move(finding.element)));
+  if (!values.empty()) finding.subject = host::printable(values.front().text());
+  finding.message = host::printable(filledIn(rule.sentence, values));
 }
 
 void Findings::insert(Finding finding, const std::vector<Value>& values, const XmlElement* element) {

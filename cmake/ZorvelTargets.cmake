@@ -18,6 +18,16 @@ if(ZORVEL_SANITIZE)
                                                   -fno-omit-frame-pointer -Wno-maybe-uninitialized)
   target_link_options(zorvel_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(ZORVEL_SANITIZE_THREADS)
+  target_compile_options(zorvel_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+  target_link_options(zorvel_options INTERFACE -fsanitize=thread)
+endif()
+if(ZORVEL_FUZZ)
+  # Everything tells the fuzzer where it has been; only the programs of fuzz/ bring the fuzzer itself.
+  target_compile_options(zorvel_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined
+                                                  -fno-omit-frame-pointer)
+  target_link_options(zorvel_options INTERFACE -fsanitize=address,undefined)
+endif()
 
 # zorvel_check_headers(TARGET FOLDER...): where ZORVEL_CHECK_HEADERS says so, TARGET compiles a source for each header of the folders that
 # includes nothing else, so that each of them stands on its own.

@@ -3,26 +3,37 @@
 #include <units.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cmath>
 #include <iostream>
 #include <map>
 
 #include "apps/cli/CheckCommand.h"
 #include "apps/cli/CreateCommand.h"
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/ExplainCommand.h"
 #include "apps/cli/ListCommand.h"
 #include "apps/cli/RulesCommand.h"
 #include "apps/cli/SampleCommand.h"
+#include "apps/cli/StandardOutput.h"
 #include "apps/cli/author/AddCommand.h"
 #include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
+#include "apps/support/ExitStatus.h"
+#include "host/files/DiskTroubles.h"
+#include "host/files/FilesRead.h"
+#include "host/files/PrintableText.h"
+#include "host/geometry/Reach.h"
 
 namespace cli {
+
+using namespace apps;
 
 namespace {
 
 const char* const EXIT_TEXT =
-    "Exit status: 0 clean, 1 findings or nothing built or added, 2 wrong usage, 3 input unreadable, 4 internal error.";
+    "Exit status: 0 clean, 1 findings or nothing built or added, 2 wrong usage, 3 input unreadable, 4 internal error "
+    "or "
+    "a result that could not be written.";
 
 const std::map<std::string, int> UNITS = {{"inches", UNITS_INCHES},
                                           {"feet", UNITS_FEET},
@@ -118,9 +129,18 @@ Command addRules(CLI::App& app) {
   return {command, [format] { return runRules(*format); }};
 }
 
+/// Farther away nothing is shown.
+const CLI::Validator IS_PLACE(
+    [](std::string& text) -> std::string {
+      double number = 0.0;
+      const bool good = CLI::detail::lexical_cast(text, number) && std::abs(number) <= double(host::FARTHEST_PLACE);
+      return good ? "" : text + " is no number from -10,000,000,000 to 10,000,000,000";
+    },
+    "");
+
 void addCamera(CLI::App& command, CreateOptions& options) {
   const auto add = [&](const char* name, std::optional<std::array<float, 3>>& place, const char* text) {
-    return command.add_option(name, place, text)->delimiter(',')->option_text("X,Y,Z");
+    return command.add_option(name, place, text)->delimiter(',')->check(IS_PLACE)->option_text("X,Y,Z");
   };
   CLI::Option* eye = add("--eye", options.eye, "From where the picture is taken, in scene units");
   CLI::Option* target = add("--target", options.target, "What it looks at; everything is in the picture without both");
@@ -151,8 +171,11 @@ Command addCreate(CLI::App& app) {
       ->excludes(unit);
   command->add_option("--at", options->at, "Where the character stands, in scene units")
       ->delimiter(',')
+      ->check(IS_PLACE)
       ->option_text("X,Y,Z");
-  command->add_option("--turn", options->turn, "How far it is turned about the vertical axis")->option_text("DEGREES");
+  command->add_option("--turn", options->turn, "How far it is turned about the vertical axis")
+      ->check(IS_PLACE)
+      ->option_text("DEGREES");
   command->add_option("--picture", options->picture, "Write a picture of the scene (PNG)");
   command->add_option("--width", options->width, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
   command->add_option("--height", options->height, "Of the picture, in pixels")->check(CLI::Range(16, 8192));
@@ -231,12 +254,13 @@ Command addDoctor(CLI::App& app) {
 }
 
 int report(const CLI::App& app, const CLI::ParseError& error) {
-  return app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE;
+  // The help, or the version.
+  if (error.get_exit_code() == 0) return app.exit(error);
+  host::printLine(std::cerr, std::string("zorvel: ") + error.what() + " (--help says more)");
+  return EXIT_USAGE;
 }
 
-}  // namespace
-
-int run(int argc, const char* const* argv) try {
+int runCommand(int argc, const char* const* argv) try {
   CLI::App app("zorvel: makes, checks, lists, builds and previews character repositories");
   app.footer(EXIT_TEXT);
   app.set_version_flag("--version", "zorvel " ZORVEL_VERSION);
@@ -254,7 +278,26 @@ int run(int argc, const char* const* argv) try {
   }
   return EXIT_USAGE;
 } catch (const std::exception& error) {
-  std::cerr << "zorvel: internal error: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel: internal error: ") + error.what());
+  return EXIT_INTERNAL;
+}
+
+/// What the disk gave no answer to looks in every command as if it were not there. Nothing is clean then.
+int tellTroubles(int status) {
+  const std::vector<std::string> troubles = host::DiskTroubles::instance().take();
+  for (const std::string& line : troubles) host::printLine(std::cerr, "zorvel: cannot be read: " + line);
+  return troubles.empty() ? status : std::max(status, int{EXIT_UNREADABLE});
+}
+
+}  // namespace
+
+int run(int argc, const char* const* argv) {
+  const ClosedPipesAreErrors guard;
+  host::FilesRead::forget();
+  const int status = tellTroubles(runCommand(argc, argv));
+  const std::string error = finishStandardOutput();
+  if (error.empty()) return status;
+  host::printLine(std::cerr, "zorvel: " + error);
   return EXIT_INTERNAL;
 }
 

@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <iostream>
 
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/JsonWriter.h"
+#include "apps/support/ExitStatus.h"
 #include "apps/support/LoadedRepository.h"
 #include "apps/support/ModelText.h"
+#include "apps/support/OutsideFiles.h"
 #include "apps/support/ParseNoteText.h"
-#include "check/PrintableText.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 #include "model/Data2.h"
 #include "model/RepositoryFormat.h"
 #include "model/RepositoryValidation.h"
@@ -154,7 +155,7 @@ class JsonListing {
 };
 
 /// What the repository says may not steer the terminal.
-std::string shown(const std::string& text) { return check::printable(text); }
+std::string shown(const std::string& text) { return host::printable(text); }
 std::string shownField(const DataContainer& record, const wchar_t* name) { return shown(field(&record, name)); }
 
 void printNamed(const Named& named) {
@@ -210,7 +211,7 @@ void print(const std::filesystem::path& repository) {
 
 /// False when something that the description has is gone.
 bool reportNotes(const std::deque<ZORVEL::ParseNote>& notes, const std::filesystem::path& repository) {
-  for (const ZORVEL::ParseNote& note : notes) std::cerr << check::printable(apps::lineOf(note, repository)) << '\n';
+  for (const ZORVEL::ParseNote& note : notes) host::printLine(std::cerr, apps::lineOf(note, repository));
   return std::none_of(notes.begin(), notes.end(), apps::isLoss);
 }
 
@@ -219,7 +220,7 @@ bool reportNotes(const std::deque<ZORVEL::ParseNote>& notes, const std::filesyst
 int runList(const std::filesystem::path& repository, bool asJson) {
   const apps::LoadedRepository loaded(repository);
   if (!loaded.error().empty()) {
-    std::cerr << "zorvel list: " << check::printable(loaded.error()) << '\n';
+    host::printLine(std::cerr, "zorvel list: " + loaded.error());
     return EXIT_UNREADABLE;
   }
   if (asJson) {
@@ -227,6 +228,7 @@ int runList(const std::filesystem::path& repository, bool asJson) {
   } else {
     print(repository);
   }
+  for (const std::string& note : notesOnOutsideFiles(repository)) host::printLine(std::cerr, note);
   return reportNotes(loaded.notes(), repository) ? EXIT_CLEAN : EXIT_FINDINGS;
 }
 

@@ -1,21 +1,19 @@
 #include "apps/cli/RulesCommand.h"
 
-#include <iostream>
-
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/StandardOutput.h"
+#include "apps/support/ExitStatus.h"
 #include "check/report/RulesDocument.h"
 #include "check/report/RulesReport.h"
 
 namespace cli {
 
+using namespace apps;
+
 int runRules(const std::string& format) {
-  const std::string error = writeStandardOutput(format == "md"     ? check::rulesDocument()
-                                                : format == "json" ? check::rulesJson()
-                                                                   : check::rulesText());
-  if (error.empty()) return EXIT_CLEAN;
-  std::cerr << "zorvel rules: " << error << '\n';
-  return EXIT_INTERNAL;
+  writeStandardOutput(format == "md"     ? check::rulesDocument()
+                      : format == "json" ? check::rulesJson()
+                                         : check::rulesText());
+  return EXIT_CLEAN;
 }
 
 }  // namespace cli

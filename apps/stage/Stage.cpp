@@ -3,16 +3,19 @@
 #include <QApplication>
 #include <iostream>
 
-#include "apps/stage/ExitStatus.h"
 #include "apps/stage/PluginWindows.h"
 #include "apps/stage/StageMenus.h"
+#include "apps/support/ExitStatus.h"
 #include "host/actions/IconFolders.h"
 #include "host/application/Application.h"
 #include "host/files/PictureFile.h"
+#include "host/files/PrintableText.h"
 #include "host/plugins/ModuleLoader.h"
 #include "host/services/Listener.h"
 
 namespace stage {
+
+using namespace apps;
 
 namespace fs = std::filesystem;
 
@@ -47,7 +50,7 @@ Stage::~Stage() {
 }
 
 void Stage::complain(const QString& text, int status) {
-  std::cerr << "zorvel-stage: " << text.toStdString() << '\n';
+  host::printLine(std::cerr, "zorvel-stage: " + text.toStdString());
   status_ = std::max(status_, status);
 }
 
@@ -93,12 +96,12 @@ void Stage::runScripts() {
 
 void Stage::writePictures() {
   if (!options_.picture.empty() && !window_.files().savePictureNow(options_.picture)) {
-    complain(window_.promptLine().message(), EXIT_FINDINGS);
+    complain(window_.promptLine().message(), EXIT_INTERNAL);
   }
   if (options_.windowPicture.empty()) return;
   waitForPicture(window_);
   const std::string error = host::writePicture(window_.grab().toImage(), options_.windowPicture);
-  if (!error.empty()) complain(QString::fromStdString(options_.windowPicture.string() + ": " + error), EXIT_FINDINGS);
+  if (!error.empty()) complain(QString::fromStdString(options_.windowPicture.string() + ": " + error), EXIT_INTERNAL);
 }
 
 }  // namespace stage

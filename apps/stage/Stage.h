@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include "apps/stage/ExitStatus.h"
 #include "apps/stage/RepositorySettings.h"
 #include "apps/stage/StageOptions.h"
 #include "apps/stage/StageWindow.h"
+#include "apps/support/ExitStatus.h"
 
 namespace stage {
 
@@ -32,7 +32,7 @@ class Stage {
   StageOptions options_;
   std::optional<RepositorySettings> settings_;
   StageWindow window_;
-  int status_ = EXIT_CLEAN;
+  int status_ = apps::EXIT_CLEAN;
 };
 
 }  // namespace stage

@@ -3,9 +3,12 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
-#include "apps/stage/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
+#include "host/files/PrintableText.h"
 
 namespace stage {
+
+using namespace apps;
 
 namespace {
 
@@ -13,9 +16,8 @@ const char* const FOOTER =
     "In the viewport: middle button pans, Alt and middle (or left) button orbits, the wheel zooms, Z frames the "
     "selection, Shift+Z everything. Esc cancels a command that waits for the mouse, Q goes back to selecting.\n"
     "Without a display set QT_QPA_PLATFORM=offscreen and give --quit.\n"
-    "Exit status: 0 clean, 1 a script was not understood or a file not written, 2 wrong usage, 3 module, scene or "
-    "repository "
-    "unreadable, 4 internal error.";
+    "Exit status: 0 clean, 1 a script was not understood, 2 wrong usage, 3 module, scene or repository unreadable, "
+    "4 internal error or a file that could not be written.";
 
 void describe(CLI::App& app, StageOptions& options) {
   app.add_option("SCENE", options.scene, "Scene file to open");
@@ -44,7 +46,9 @@ ParsedOptions parseOptions(int argc, const char* const* argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return {std::nullopt, app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE};
+    if (error.get_exit_code() == 0) return {std::nullopt, app.exit(error)};
+    host::printLine(std::cerr, std::string("zorvel-stage: ") + error.what() + " (--help says more)");
+    return {std::nullopt, EXIT_USAGE};
   }
   return {options, EXIT_CLEAN};
 }

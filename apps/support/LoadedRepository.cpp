@@ -26,10 +26,6 @@ class NoteKeeper : public ZORVEL::ParseObserver {
 
 LoadedRepository::LoadedRepository(const fs::path& root) : root_(root), settings_(root) {
   ZORVEL::SceneNotifications::Register();
-  if (!settings_.isThere()) {
-    error_ = "No temporary folder can be made.";
-    return;
-  }
   read();
 }
 

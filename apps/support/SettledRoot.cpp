@@ -1,22 +1,42 @@
 #include "apps/support/SettledRoot.h"
 
 #include "core/Settings.h"
+#include "host/files/DiskTroubles.h"
 #include "host/files/Paths.h"
 
 namespace apps {
 
-SettledRoot::SettledRoot(const std::filesystem::path& root) : appData_(settingsFolder_.path()) {
-  if (!isThere()) return;
-  ZORVEL::Settings::LoadSettings();
-  // An empty path is no folder, not even the one that the program was started in.
+namespace fs = std::filesystem;
+
+namespace {
+
+/// No folder: nothing is below it, and nothing can be made there.
+const char* const NOWHERE = "/dev/null";
+
+/// A path that is empty or cannot be told is no folder, not even the one that the program was started in.
+fs::path absoluteOrNowhere(const fs::path& path) {
   std::error_code error;
-  const std::filesystem::path named = root.empty() ? "/dev/null" : std::filesystem::absolute(root, error);
+  const fs::path absolute = path.empty() ? path : fs::absolute(path, error);
+  return absolute.empty() || error ? NOWHERE : absolute;
+}
+
+bool isThere(const fs::path& path) {
+  std::error_code unknown;
+  return fs::exists(path, unknown);
+}
+
+}  // namespace
+
+SettledRoot::SettledRoot(const fs::path& root)
+    : root_(absoluteOrNowhere(root)), wasThere_(isThere(root_)), appData_(NOWHERE) {
+  ZORVEL::Settings::LoadSettings();
   // The trailing separator is what the dialog leaves.
-  ZORVEL::Settings::StorePath((host::toWide(named.string()) + L"\\").c_str());
+  ZORVEL::Settings::StorePath((host::toWide(root_.string()) + L"\\").c_str());
 }
 
 SettledRoot::~SettledRoot() {
-  if (isThere()) ZORVEL::Settings::FreeSettings();
+  ZORVEL::Settings::FreeSettings();
+  if (wasThere_ && !isThere(root_)) host::DiskTroubles::instance().noteGone(root_.string());
 }
 
 }  // namespace apps

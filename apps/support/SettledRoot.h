@@ -3,12 +3,13 @@
 #include <filesystem>
 
 #include "host/files/LocalAppData.h"
-#include "host/files/TemporaryFolder.h"
 
 namespace apps {
 
 /// The plug-in's settings with a repository's root in them, as choosing its file in the dialog of 3ds Max would leave
-/// it, for as long as this lives. The user's own settings file is left alone. There is one such thing at a time.
+/// it, for as long as this lives. They are in memory only, and the user's own settings file is left alone. There is one
+/// such thing at a time. A root that goes away meanwhile is noted among the troubles of the disk: what was read of it
+/// since then looks as if nothing were there.
 class SettledRoot {
  public:
   explicit SettledRoot(const std::filesystem::path& root);
@@ -16,11 +17,9 @@ class SettledRoot {
   SettledRoot(const SettledRoot&) = delete;
   SettledRoot& operator=(const SettledRoot&) = delete;
 
-  /// False when there is no place for temporary files; then there are no settings either.
-  bool isThere() const { return !settingsFolder_.path().empty(); }
-
  private:
-  host::TemporaryFolder settingsFolder_;
+  std::filesystem::path root_;
+  bool wasThere_;
   host::LocalAppData appData_;
 };
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "apps/support/NearestIds.h"
-#include "check/PrintableText.h"
 #include "check/explain/Elements.h"
 #include "check/explain/Explainer.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -37,7 +37,8 @@ ExplainResult explainId(const std::filesystem::path& root, const std::string& id
   for (std::size_t i = 0; i < count; ++i) result.explanations.push_back(explainer.explain(all[i]));
   result.leftOut = all.size() - count;
   if (result.explanations.empty()) {
-    for (const std::string& near : apps::nearestIds(id, elements.ids())) result.nearest.push_back(printable(near));
+    for (const std::string& near : apps::nearestIds(id, elements.ids()))
+      result.nearest.push_back(host::printable(near));
   }
   return result;
 }

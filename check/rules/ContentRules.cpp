@@ -181,6 +181,10 @@ void ContentRules::lookAtTextures(const UsedMaterial& used, Mtl& material) {
     if (survey_.files.Look(texture.to) != DiskEntry::File) {
       survey_.findings.add(RuleId::TextureMissing, used.record, {used.name, file});
     }
+    const FolderIndex::File* found = survey_.files.find(texture.to);
+    if (found != nullptr && !found->isRegular) {
+      survey_.findings.add(RuleId::FileUnreadable, used.record, {file, "it is no file"});
+    }
     const auto [source, isNew] = textureSources_.emplace(texture.to, texture.from);
     // Once for each file.
     if (!isNew && source->second != texture.from && metTextures_.insert(texture.to).second) {

@@ -2,12 +2,12 @@
 
 #include <notify.h>
 
-#include <fstream>
+#include <new>
 #include <optional>
-#include <sstream>
 
 #include "host/application/Application.h"
 #include "host/application/HostInterface.h"
+#include "host/files/RegularFile.h"
 #include "host/formats/SceneJson.h"
 #include "host/formats/SceneReader.h"
 #include "host/formats/Unreadable.h"
@@ -19,8 +19,6 @@ namespace host {
 
 namespace {
 
-constexpr std::uintmax_t MAXIMUM_BYTES = 1U << 30U;
-
 std::string report(const std::filesystem::path& file, const std::string& done, const std::string& problem) {
   const std::string line = "Scene " + file.string() + " could not be " + done + ": " + problem + ".";
   Listener::instance().report(line);
@@ -29,22 +27,38 @@ std::string report(const std::filesystem::path& file, const std::string& done, c
 
 std::string contentOf(const std::filesystem::path& file) {
   std::error_code error;
-  const std::uintmax_t size = std::filesystem::file_size(file, error);
+  static_cast<void>(std::filesystem::file_size(file, error));
   if (error) throw Unreadable(error.message());
-  if (size > MAXIMUM_BYTES) throw Unreadable("it is too large for a scene");
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream content;
-  content << stream.rdbuf();
-  if (!stream) throw Unreadable("it cannot be read");
-  return content.str();
+  RegularFile stream(file);
+  std::string content;
+  // One byte more than there may be tells that there are too many.
+  if (!stream.isOpen() || !stream.readUpTo(MOST_SCENE_BYTES + 1, content)) throw Unreadable("it cannot be read");
+  return content;
 }
+
+nlohmann::ordered_json parsed(const std::string& text) {
+  const std::string excess = excessOf(text);
+  if (!excess.empty()) throw Unreadable(excess);
+  try {
+    return nlohmann::ordered_json::parse(text);
+  } catch (const nlohmann::json::out_of_range&) {
+    throw Unreadable("a number in it is out of range");
+  } catch (const nlohmann::json::exception&) {
+    throw Unreadable("it is no scene file, or not a whole one");
+  }
+}
+
+/// The text is gone before anything is made of the values.
+nlohmann::ordered_json documentOf(const std::filesystem::path& file) { return parsed(contentOf(file)); }
 
 /// Nothing, and `problem` says why, when any part of the file cannot be read.
 std::optional<SceneReading> read(const std::filesystem::path& file, std::string& problem) {
   try {
-    return readScene(nlohmann::ordered_json::parse(contentOf(file), nullptr, false));
+    return readScene(documentOf(file));
   } catch (const nlohmann::json::exception& damage) {
     problem = std::string("it is damaged: ") + damage.what();
+  } catch (const std::bad_alloc&) {
+    problem = "there is not enough memory for it";
   } catch (const std::exception& damage) {
     problem = damage.what();
   }

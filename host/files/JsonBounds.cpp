@@ -1,14 +1,11 @@
 #include "host/files/JsonBounds.h"
 
-#include <cstddef>
 #include <vector>
 
 namespace host {
 
 namespace {
 
-/// A value takes about a hundred bytes.
-constexpr std::size_t MOST_VALUES = 1'000'000;
 /// Some objects keep the order of their members, and look through all of them for each.
 constexpr std::size_t MOST_MEMBERS = 2000;
 
@@ -22,7 +19,7 @@ std::size_t endOfString(std::string_view json, std::size_t at) {
 
 }  // namespace
 
-bool isWithinBounds(std::string_view json) {
+bool isWithinBounds(std::string_view json, std::size_t mostValues) {
   std::size_t values = 0;
   // Of the objects and arrays that are open: those of an array are no members.
   std::vector<std::size_t> members;
@@ -42,7 +39,7 @@ bool isWithinBounds(std::string_view json) {
       ++values;
       if (!members.empty() && isObject.back() && ++members.back() >= MOST_MEMBERS) return false;
     }
-    if (values > MOST_VALUES) return false;
+    if (values > mostValues) return false;
   }
   return true;
 }

@@ -18,17 +18,27 @@ namespace {
 /// What is no valid text becomes a replacement character; glTF allows nothing else.
 std::string text(const MCHAR* wide) { return QString::fromWCharArray(wide).toStdString(); }
 
+bool isUsable(const Matrix3& m) {
+  for (int row = 0; row < 4; ++row) {
+    const Point3 r = m.GetRow(row);
+    if (!std::isfinite(r.x) || !std::isfinite(r.y) || !std::isfinite(r.z)) return false;
+  }
+  return true;
+}
+
 /// Empty for the identity, which is how glTF leaves a transform out, and for a matrix that holds no usable numbers.
 std::vector<double> gltfMatrix(const Matrix3& m) {
-  if (m.IsIdentity() != 0) return {};
+  if (m.IsIdentity() != 0 || !isUsable(m)) return {};
   std::vector<double> numbers;
   for (int row = 0; row < 4; ++row) {
     const Point3 r = m.GetRow(row);
-    if (!std::isfinite(r.x + r.y + r.z)) return {};
     numbers.insert(numbers.end(), {r.x, r.y, r.z, row == 3 ? 1.0 : 0.0});
   }
   return numbers;
 }
+
+/// Meshes of many materials, times the materials that they are shown in.
+constexpr std::size_t MOST_PARTS = 100'000;
 
 class SceneWriter {
  public:
@@ -45,6 +55,9 @@ class SceneWriter {
     model_.scenes.push_back(scene);
     model_.defaultScene = 0;
   }
+
+  /// Then what was made is not whole.
+  bool isTooLarge() const { return parts_ > MOST_PARTS; }
 
  private:
   int append(tinygltf::Node node) {
@@ -86,20 +99,22 @@ class SceneWriter {
     result.children.push_back(append(std::move(holder)));
   }
 
-  /// -1 for a node without a surface.
+  /// -1 for a node without a surface, and for one that is nowhere.
   int meshOf(Node& node) {
     const auto* geometry = dynamic_cast<const Geometry*>(node.GetObjectRef());
     const std::shared_ptr<const Mesh> mesh = geometry != nullptr ? geometry->mesh() : nullptr;
-    if (!mesh || mesh->triangles.empty()) return -1;
+    if (!mesh || mesh->triangles.empty() || !isUsable(node.GetObjectTM(0))) return -1;
     const auto key = std::make_pair(mesh, node.GetMtl());
     const auto known = meshes_.find(key);
     if (known != meshes_.end()) return known->second;
+    if (isTooLarge()) return -1;
     tinygltf::Mesh result;
     result.name = text(node.GetName());
     result.primitives = geometryOf(mesh);
     for (tinygltf::Primitive& primitive : result.primitives) {
       primitive.material = materials_.indexOf(node.GetMtl(), static_cast<std::size_t>(primitive.material));
     }
+    parts_ += result.primitives.size();
     model_.meshes.push_back(result);
     return meshes_[key] = static_cast<int>(model_.meshes.size()) - 1;
   }
@@ -116,6 +131,7 @@ class SceneWriter {
   // They hold the meshes, so that none dies and leaves its address to another while the document is made.
   std::map<std::shared_ptr<const Mesh>, std::vector<tinygltf::Primitive>> geometries_;
   std::map<std::pair<std::shared_ptr<const Mesh>, Mtl*>, int> meshes_;
+  std::size_t parts_ = 0;
 };
 
 }  // namespace
@@ -123,8 +139,9 @@ class SceneWriter {
 std::string writeGltf(Node& root, double metresPerUnit, const std::filesystem::path& file) {
   if (!(metresPerUnit > 0.0) || !std::isfinite(metresPerUnit)) return "the scene's unit is not a length";
   tinygltf::Model model;
-  SceneWriter(model).write(root, metresPerUnit);
-  const std::string bytes = toGlb(model);
+  SceneWriter writer(model);
+  writer.write(root, metresPerUnit);
+  const std::string bytes = writer.isTooLarge() ? std::string() : toGlb(model);
   if (bytes.empty()) return "the scene is too large for one glTF file";
   return writeWholeFile(file, bytes);
 }

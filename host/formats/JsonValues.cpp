@@ -1,6 +1,7 @@
 #include "host/formats/JsonValues.h"
 
-#include <limits>
+#include <cfloat>
+#include <cmath>
 
 namespace host {
 
@@ -14,7 +15,10 @@ nlohmann::ordered_json matrixJson(const Matrix3& tm) {
 }
 
 float floatFrom(const nlohmann::ordered_json& json) {
-  return json.is_null() ? std::numeric_limits<float>::quiet_NaN() : json.get<float>();
+  if (json.is_null()) return std::numeric_limits<float>::quiet_NaN();
+  const auto number = json.get<double>();
+  if (!(std::abs(number) <= FLT_MAX)) throw Unreadable("a number is out of range: " + json.dump());
+  return static_cast<float>(number);
 }
 
 Matrix3 matrixFrom(const nlohmann::ordered_json& json) {

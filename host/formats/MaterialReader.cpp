@@ -1,7 +1,11 @@
 #include "host/formats/MaterialReader.h"
-#include "host/formats/Unreadable.h"
+
+#include <algorithm>
+#include <utility>
 
 #include "host/files/Paths.h"
+#include "host/formats/JsonValues.h"
+#include "host/formats/Unreadable.h"
 #include "host/materials/BitmapTexture.h"
 #include "host/materials/MaterialClasses.h"
 #include "host/materials/TextureMap.h"
@@ -15,6 +19,12 @@ using Json = nlohmann::ordered_json;
 constexpr int MAXIMUM_DEPTH = 32;
 constexpr std::size_t MAXIMUM_SLOTS = 1000;
 constexpr std::size_t LONGEST_TEXT = 100'000;
+/// Parts of a material, parameters too, counted as often as they are met on a walk through it: two references on each
+/// of 28 levels make a thousand million of twenty lines. Some are met often, but all together stay in proportion to
+/// what was read. The plug-in's own walk ends after as many steps.
+constexpr std::size_t MOST_MEETINGS = 100'000;
+constexpr std::size_t ALWAYS_MET = 1000;
+constexpr std::size_t MEETINGS_OF_ONE = 10;
 
 /// A name or a path, which are far shorter.
 std::wstring shortText(const Json& value) {
@@ -31,7 +41,7 @@ MSTR text(const Json& object, const char* key) {
 
 Class_ID classOf(const Json& object) {
   const Json& value = object.at("class");
-  if (value.is_array()) return {value.at(0).get<std::uint32_t>(), value.at(1).get<std::uint32_t>()};
+  if (value.is_array()) return {integerFrom<std::uint32_t>(value.at(0)), integerFrom<std::uint32_t>(value.at(1))};
   const auto name = value.get<std::string>();
   if (name == "standard") return STANDARD_MATERIAL;
   if (name == "multi") return MULTI_MATERIAL;
@@ -40,29 +50,9 @@ Class_ID classOf(const Json& object) {
   throw Unreadable("unknown class \"" + name + "\"");
 }
 
-/// What JSON cannot say, an infinity or no number at all, is written as null.
-float number(const Json& value) {
-  return value.is_null() ? std::numeric_limits<float>::quiet_NaN() : value.get<float>();
-}
-
-/// The one that a reference means, or a new one, remembered when it has an id.
-template <class T, class Make>
-Ref<T> sharedOrNew(std::map<int, Ref<T>>& known, const Json& object, Make make) {
-  const auto reference = object.find("ref");
-  if (reference != object.end()) {
-    const auto found = known.find(reference->get<int>());
-    if (found == known.end()) throw Unreadable("a reference leads nowhere");
-    return found->second;
-  }
-  const Ref<T> made = make(object);
-  const auto id = object.find("id");
-  if (id != object.end()) known[id->get<int>()] = made;
-  return made;
-}
-
 }  // namespace
 
-/// Counts how deep materials and maps hold each other.
+/// Counts how deep the text nests, before the stack is used up.
 class MaterialReader::Deeper {
  public:
   explicit Deeper(int& depth) : depth_(depth) {
@@ -77,6 +67,39 @@ class MaterialReader::Deeper {
   int& depth_;
 };
 
+void MaterialReader::add(const Extent& below) {
+  extent_.meetings += below.meetings;
+  extent_.depth = std::max(extent_.depth, below.depth + 1);
+  if (extent_.depth > MAXIMUM_DEPTH) throw Unreadable("materials hold each other too deeply");
+  const std::size_t most = std::min(MOST_MEETINGS, ALWAYS_MET + MEETINGS_OF_ONE * made_);
+  if (extent_.meetings > most) throw Unreadable("a material holds too many parts");
+}
+
+template <class T, class Make>
+Ref<T> MaterialReader::sharedOrNew(std::map<int, Known<T>>& known, const Json& object, Make make) {
+  const Known<T> one = knownOrNew(known, object, make);
+  add(one.extent);
+  return one.part;
+}
+
+/// The one that a reference means, or a new one, remembered when it has an id.
+template <class T, class Make>
+MaterialReader::Known<T> MaterialReader::knownOrNew(std::map<int, Known<T>>& known, const Json& object, Make make) {
+  const auto reference = object.find("ref");
+  if (reference != object.end()) {
+    const auto found = known.find(integerFrom<int>(*reference));
+    if (found == known.end()) throw Unreadable("a reference leads nowhere");
+    return found->second;
+  }
+  ++made_;
+  const Extent around = std::exchange(extent_, Extent());
+  const Ref<T> part = make(object);
+  const Known<T> made{part, std::exchange(extent_, around)};
+  const auto id = object.find("id");
+  if (id != object.end()) known[integerFrom<int>(*id)] = made;
+  return made;
+}
+
 template <class T, class Read>
 std::vector<Ref<T>> MaterialReader::list(const Json& object, const char* key, Read read) {
   std::vector<Ref<T>> result;
@@ -88,6 +111,11 @@ std::vector<Ref<T>> MaterialReader::list(const Json& object, const char* key, Re
 }
 
 Ref<Mtl> MaterialReader::material(const Json& object) {
+  extent_ = Extent();
+  return heldMaterial(object);
+}
+
+Ref<Mtl> MaterialReader::heldMaterial(const Json& object) {
   const Deeper deeper(depth_);
   if (object.is_null()) return {};
   return sharedOrNew<Mtl>(materials_, object, [this](const Json& one) { return newMaterial(one); });
@@ -96,7 +124,7 @@ Ref<Mtl> MaterialReader::material(const Json& object) {
 Ref<Mtl> MaterialReader::newMaterial(const Json& object) {
   Material::Content content;
   content.blocks = blocks(object);
-  content.subMaterials = list<Mtl>(object, "subMaterials", [this](const Json& one) { return material(one); });
+  content.subMaterials = list<Mtl>(object, "subMaterials", [this](const Json& one) { return heldMaterial(one); });
   content.subTextures = list<Texmap>(object, "subTextures", [this](const Json& one) { return map(one); });
   const Ref<Mtl> result(new Material(classOf(object), std::move(content)));
   result->SetName(text(object, "name"));
@@ -125,21 +153,25 @@ Ref<Texmap> MaterialReader::newMap(const Json& object) {
 std::vector<Ref<ParameterBlock>> MaterialReader::blocks(const Json& object) {
   BlockID next = 0;
   return list<ParameterBlock>(object, "blocks", [&](const Json& one) {
+    if (one.size() > MAXIMUM_SLOTS) throw Unreadable("a block has too many parameters");
     std::vector<ParameterBlock::Parameter> parameters;
+    made_ += one.size();
+    extent_.meetings += one.size();
     for (const Json& entry : one) parameters.push_back(parameter(entry));
     return Ref<ParameterBlock>(new ParameterBlock(next++, std::move(parameters)));
   });
 }
 
 ParameterBlock::Parameter MaterialReader::parameter(const Json& entry) {
-  const auto id = entry.at("id").get<ParamID>();
+  const auto id = integerFrom<ParamID>(entry.at("id"));
   const auto type = entry.at("type").get<std::string>();
   const Json& value = entry.at("value");
-  if (type == "float") return {id, TYPE_FLOAT, number(value)};
-  if (type == "int") return {id, TYPE_INT, value.get<int>()};
-  if (type == "color") return {id, TYPE_RGBA, Color(number(value.at(0)), number(value.at(1)), number(value.at(2)))};
+  if (type == "float") return {id, TYPE_FLOAT, floatFrom(value)};
+  if (type == "int") return {id, TYPE_INT, integerFrom<int>(value)};
+  if (type == "color")
+    return {id, TYPE_RGBA, Color(floatFrom(value.at(0)), floatFrom(value.at(1)), floatFrom(value.at(2)))};
   if (type == "text") return {id, TYPE_STRING, shortText(value)};
-  if (type == "material") return {id, TYPE_MTL, material(value)};
+  if (type == "material") return {id, TYPE_MTL, heldMaterial(value)};
   if (type == "texmap") return {id, TYPE_TEXMAP, map(value)};
   throw Unreadable("unknown parameter type \"" + type + "\"");
 }

@@ -37,7 +37,7 @@ Json meshJson(const Mesh& mesh) {
 }
 
 float finite(const Json& json) {
-  const auto number = json.get<float>();
+  const float number = floatFrom(json);
   if (!std::isfinite(number)) throw Unreadable("a mesh has a corner that is nowhere");
   return number;
 }
@@ -46,6 +46,11 @@ std::vector<Point3> pointsFrom(const Json& json) {
   std::vector<Point3> points;
   for (const Json& one : json) points.emplace_back(finite(one.at(0)), finite(one.at(1)), finite(one.at(2)));
   return points;
+}
+
+Mesh::Triangle triangleFrom(const Json& json) {
+  const auto corner = [&json](std::size_t i) { return integerFrom<std::uint32_t>(json.at(i)); };
+  return {corner(0), corner(1), corner(2)};
 }
 
 void checkMesh(const Mesh& mesh) {
@@ -67,8 +72,10 @@ std::shared_ptr<const Mesh> meshFrom(const Json& json) {
   if (json.contains("texCoords")) {
     for (const Json& one : json.at("texCoords")) mesh.texCoords.push_back({finite(one.at(0)), finite(one.at(1))});
   }
-  mesh.triangles = json.at("triangles").get<std::vector<Mesh::Triangle>>();
-  if (json.contains("materialIds")) mesh.materialIds = json.at("materialIds").get<std::vector<std::uint16_t>>();
+  for (const Json& one : json.at("triangles")) mesh.triangles.push_back(triangleFrom(one));
+  if (json.contains("materialIds")) {
+    for (const Json& one : json.at("materialIds")) mesh.materialIds.push_back(integerFrom<std::uint16_t>(one));
+  }
   checkMesh(mesh);
   for (const Point3& p : mesh.positions) mesh.bounds += p;
   return std::make_shared<const Mesh>(std::move(mesh));
@@ -113,7 +120,8 @@ Ref<Object> circleFrom(const Json& json) {
 }
 
 Ref<Object> newObject(const Json& json) {
-  const Class_ID id(json.at("class").at(0).get<ULONG>(), json.at("class").at(1).get<ULONG>());
+  const Class_ID id(integerFrom<std::uint32_t>(json.at("class").at(0)),
+                    integerFrom<std::uint32_t>(json.at("class").at(1)));
   if (id == PROXY_OBJECT) return proxyFrom(json);
   if (id == SURROUNDINGS_OBJECT) return surroundingsFrom(json);
   if (id == LAMP_HELPER) return Ref<Object>(new LampHelper);
@@ -142,12 +150,12 @@ Json ObjectWriter::object(Object& object) {
 
 Ref<Object> ObjectReader::object(const Json& json) {
   if (json.contains("ref")) {
-    const auto known = objects_.find(json.at("ref").get<int>());
+    const auto known = objects_.find(integerFrom<int>(json.at("ref")));
     if (known == objects_.end()) throw Unreadable("a reference leads nowhere");
     return known->second;
   }
   const Ref<Object> made = newObject(json);
-  if (json.contains("id")) objects_[json.at("id").get<int>()] = made;
+  if (json.contains("id")) objects_[integerFrom<int>(json.at("id"))] = made;
   return made;
 }
 

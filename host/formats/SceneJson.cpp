@@ -3,13 +3,17 @@
 #include <ILayerProperties.h>
 
 #include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <unordered_set>
 
 #include "host/files/Paths.h"
 #include "host/files/WholeFile.h"
 #include "host/formats/JsonValues.h"
 #include "host/formats/MaterialWriter.h"
 #include "host/formats/ObjectJson.h"
+#include "host/formats/SceneReader.h"
 #include "host/scene/Scene.h"
+#include "host/services/Listener.h"
 #include "host/services/Units.h"
 
 namespace host {
@@ -32,6 +36,10 @@ Json groupRole(Node& node) {
 
 class Writer {
  public:
+  explicit Writer(const Scene& scene) {
+    for (const Ref<Node>& node : scene.selection()) selected_.insert(node.get());
+  }
+
   Json node(Node& node) {
     Json json;
     json["name"] = toUtf8(node.GetName());
@@ -42,7 +50,7 @@ class Writer {
     json["layer"] = toUtf8(node.layer()->getName());
     const Json group = groupRole(node);
     if (!group.is_null()) json["group"] = group;
-    if (node.Selected() != 0) json["selected"] = true;
+    if (selected_.count(&node) != 0) json["selected"] = true;
     if (!node.properties().empty()) json["properties"] = properties(node);
     if (node.GetObjectRef() != nullptr) json["object"] = objects_.object(*node.GetObjectRef());
     if (node.GetMtl() != nullptr) json["material"] = materials_.material(node.GetMtl());
@@ -51,6 +59,7 @@ class Writer {
   }
 
  private:
+  std::unordered_set<const Node*> selected_;
   ObjectWriter objects_;
   MaterialWriter materials_;
 };
@@ -65,13 +74,23 @@ std::string sceneJson(Scene& scene, const Units& units) {
   json["layers"] = Json::array();
   for (const Ref<Layer>& layer : scene.layers().layers()) json["layers"].push_back(toUtf8(layer->getName()));
   json["nodes"] = Json::array();
-  Writer writer;
+  Writer writer(scene);
   for (const Ref<Node>& top : scene.root().children()) json["nodes"].push_back(writer.node(*top));
   return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 std::string writeSceneJson(Scene& scene, const Units& units, const std::filesystem::path& file) {
-  return writeWholeFile(file, sceneJson(scene, units));
+  std::string text;
+  try {
+    text = sceneJson(scene, units);
+  } catch (const std::length_error& tooMuch) {
+    return tooMuch.what();
+  }
+  const std::string problem = writeWholeFile(file, text);
+  const std::string excess = problem.empty() ? excessOf(text) : "";
+  if (!excess.empty())
+    Listener::instance().report("Scene " + file.string() + " cannot be opened again: " + excess + ".");
+  return problem;
 }
 
 }  // namespace host

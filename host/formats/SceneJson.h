@@ -17,7 +17,8 @@ constexpr int SCENE_FORMAT_VERSION = 1;
 /// is read back.
 std::string sceneJson(Scene& scene, const Units& units);
 
-/// Writes it whole or not at all. Answers why it could not, or nothing.
+/// Writes it whole or not at all. Answers why it could not, or nothing. The listener is told when it became too much to
+/// be opened again.
 std::string writeSceneJson(Scene& scene, const Units& units, const std::filesystem::path& file);
 
 }  // namespace host

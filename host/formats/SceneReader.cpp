@@ -4,6 +4,7 @@
 #include <cwctype>
 #include <map>
 
+#include "host/files/JsonBounds.h"
 #include "host/files/Paths.h"
 #include "host/formats/JsonValues.h"
 #include "host/formats/MaterialReader.h"
@@ -19,6 +20,10 @@ using Json = nlohmann::ordered_json;
 
 /// Far deeper than anybody builds, and shallow enough for the stack.
 constexpr int MAXIMUM_DEPTH = 500;
+// What a scene may cost. Characters have seven nodes and 28,000 bytes each, so that two thousand of them fit in.
+constexpr std::size_t MOST_VALUES = 2'500'000;
+constexpr std::size_t MOST_NODES = 50'000;
+constexpr std::size_t MOST_LAYERS = 10'000;
 
 MSTR text(const Json& json) { return toWide(json.get<std::string>()).c_str(); }
 
@@ -41,6 +46,7 @@ class Reader {
 
  private:
   void addLayer(const MSTR& name, std::vector<MSTR>& layers) {
+    if (layers.size() == MOST_LAYERS) throw Unreadable("it has more than 10,000 layers");
     if (!layerIndex_.emplace(folded(name), layers.size()).second) throw Unreadable("two layers have the same name");
     layers.push_back(name);
   }
@@ -55,6 +61,7 @@ class Reader {
   }
 
   NodeContent node(const Json& json) {
+    if (++count_ > MOST_NODES) throw Unreadable("it has more than 50,000 nodes");
     NodeContent node;
     node.name = text(json.at("name"));
     node.local = matrixFrom(json.at("local"));
@@ -87,21 +94,27 @@ class Reader {
   MaterialReader materials_;
   std::map<std::wstring, std::size_t> layerIndex_;
   int depth_ = 0;
+  std::size_t count_ = 0;
 };
 
 Units units(const Json& json) {
   Units result;
-  if (!result.set(json.at("type").get<int>(), json.at("scale").get<float>())) throw Unreadable("its unit is none");
+  if (!result.set(integerFrom<int>(json.at("type")), floatFrom(json.at("scale")))) throw Unreadable("its unit is none");
   return result;
 }
 
 }  // namespace
 
+std::string excessOf(std::string_view text) {
+  if (text.size() > MOST_SCENE_BYTES) return "it is larger than 64 megabytes";
+  return isWithinBounds(text, MOST_VALUES) ? "" : "it holds more values than a scene can have";
+}
+
 SceneReading readScene(const Json& document) {
   if (!document.is_object() || document.value("format", "") != SCENE_FORMAT) {
     throw Unreadable("it is no scene file, or not a whole one");
   }
-  if (document.value("version", 0) != SCENE_FORMAT_VERSION)
+  if (!document.contains("version") || integerFrom<int>(document.at("version")) != SCENE_FORMAT_VERSION)
     throw Unreadable("its version is not one that this host reads");
   return {units(document.at("unit")), Reader().read(document)};
 }

@@ -4,22 +4,19 @@
 
 namespace host {
 
-InstanceScene::InstanceScene() : scene_(rtcNewScene(rayDevice())) {
-  rtcSetSceneFlags(scene_, RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_CONTEXT_FILTER_FUNCTION);
-  rtcCommitScene(scene_);
+InstanceScene::InstanceScene() : scene_(newRayScene()) { commit(); }
+
+InstanceScene::~InstanceScene() {
+  if (scene_ != nullptr) rtcReleaseScene(scene_);
 }
 
-InstanceScene::~InstanceScene() { rtcReleaseScene(scene_); }
-
-void InstanceScene::place(unsigned number, const std::shared_ptr<const RayMesh>& mesh, const Matrix3& toWorld) {
+bool InstanceScene::place(unsigned number, const std::shared_ptr<const RayMesh>& mesh, const Matrix3& toWorld) {
+  if (scene_ == nullptr || mesh->scene() == nullptr) return false;
   Instance& instance = instances_[number];
-  if (!instance.mesh) {
-    instance = {mesh, rtcNewGeometry(rayDevice(), RTC_GEOMETRY_TYPE_INSTANCE), 0};
-    rtcSetGeometryInstancedScene(instance.geometry, mesh->scene());
-    instance.id = rtcAttachGeometry(scene_, instance.geometry);
-    rtcReleaseGeometry(instance.geometry);
-    if (instance.id >= numbers_.size()) numbers_.resize(instance.id + 1);
-    numbers_[instance.id] = number;
+  instance.mesh = instance.mesh ? instance.mesh : mesh;
+  if (instance.geometry == nullptr && !attach(instance, number)) {
+    instances_.erase(number);
+    return false;
   }
   // The rows of row vectors are the columns of column vectors.
   float columns[12];
@@ -28,6 +25,19 @@ void InstanceScene::place(unsigned number, const std::shared_ptr<const RayMesh>&
   }
   rtcSetGeometryTransform(instance.geometry, 0, RTC_FORMAT_FLOAT3X4_COLUMN_MAJOR, columns);
   rtcCommitGeometry(instance.geometry);
+  return true;
+}
+
+bool InstanceScene::attach(Instance& instance, unsigned number) {
+  instance.geometry = rtcNewGeometry(rayDevice(), RTC_GEOMETRY_TYPE_INSTANCE);
+  if (instance.geometry == nullptr) return false;
+  rtcSetGeometryInstancedScene(instance.geometry, instance.mesh->scene());
+  instance.id = rtcAttachGeometry(scene_, instance.geometry);
+  rtcReleaseGeometry(instance.geometry);
+  if (instance.id == RTC_INVALID_GEOMETRY_ID) return false;
+  if (instance.id >= numbers_.size()) numbers_.resize(instance.id + 1);
+  numbers_[instance.id] = number;
+  return true;
 }
 
 void InstanceScene::remove(unsigned number) {
@@ -37,6 +47,9 @@ void InstanceScene::remove(unsigned number) {
   instances_.erase(instance);
 }
 
-void InstanceScene::commit() { rtcCommitScene(scene_); }
+bool InstanceScene::commit() {
+  usable_ = commitRayScene(scene_);
+  return usable_;
+}
 
 }  // namespace host

@@ -2,6 +2,9 @@
 
 #include <cmath>
 
+#include "host/geometry/Reach.h"
+#include "host/rays/Visibility.h"
+
 namespace host {
 
 RTCDevice rayDevice() {
@@ -10,12 +13,26 @@ RTCDevice rayDevice() {
   return device;
 }
 
+RTCScene newRayScene() {
+  const RTCScene scene = rayDevice() != nullptr ? rtcNewScene(rayDevice()) : nullptr;
+  if (scene != nullptr) rtcSetSceneFlags(scene, RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_CONTEXT_FILTER_FUNCTION);
+  return scene;
+}
+
+bool commitRayScene(RTCScene scene) {
+  if (scene == nullptr) return false;
+  // What went wrong before was answered by null.
+  rtcGetDeviceError(rayDevice());
+  rtcCommitScene(scene);
+  return rtcGetDeviceError(rayDevice()) == RTC_ERROR_NONE;
+}
+
 std::optional<CasterRay> casterRay(const Ray& ray, float upTo) {
   const double x = ray.dir.x;
   const double y = ray.dir.y;
   const double z = ray.dir.z;
   const double length = std::sqrt(x * x + y * y + z * z);
-  const bool usable = length > 0.0 && std::isfinite(length) && std::isfinite(ray.p.x + ray.p.y + ray.p.z);
+  const bool usable = length > 0.0 && std::isfinite(length) && isWithin(FARTHEST_RAY, ray.p);
   if (!usable) return std::nullopt;
   CasterRay result{};
   result.unit = static_cast<float>(length);

@@ -4,16 +4,31 @@
 #include <map>
 #include <mutex>
 
+#include "host/geometry/Reach.h"
 #include "host/rays/RayDevice.h"
+#include "host/rays/Visibility.h"
 
 namespace host {
 
 namespace {
 
 template <class Item>
-void fillBuffer(RTCGeometry geometry, RTCBufferType type, RTCFormat format, const std::vector<Item>& items) {
+bool fillBuffer(RTCGeometry geometry, RTCBufferType type, RTCFormat format, const std::vector<Item>& items) {
   void* buffer = rtcSetNewGeometryBuffer(geometry, type, 0, format, sizeof(Item), items.size());
   if (buffer != nullptr) std::copy(items.begin(), items.end(), static_cast<Item*>(buffer));
+  return buffer != nullptr;
+}
+
+/// False without enough memory.
+bool attachTriangles(RTCScene scene, const Mesh& mesh) {
+  const RTCGeometry geometry = rtcNewGeometry(rayDevice(), RTC_GEOMETRY_TYPE_TRIANGLE);
+  if (geometry == nullptr) return false;
+  const bool filled = fillBuffer(geometry, RTC_BUFFER_TYPE_VERTEX, RTC_FORMAT_FLOAT3, mesh.positions) &&
+                      fillBuffer(geometry, RTC_BUFFER_TYPE_INDEX, RTC_FORMAT_UINT3, mesh.triangles);
+  if (filled) rtcCommitGeometry(geometry);
+  const bool attached = filled && rtcAttachGeometry(scene, geometry) != RTC_INVALID_GEOMETRY_ID;
+  rtcReleaseGeometry(geometry);
+  return attached;
 }
 
 /// Prepared meshes for as long as their mesh lives; those of the dead go when another is prepared.
@@ -26,7 +41,8 @@ class Prepared {
     if (known != entries_.end() && known->second.mesh.lock() == mesh) return known->second.prepared;
     forgetTheDead();
     auto prepared = std::make_shared<const RayMesh>(*mesh);
-    entries_[mesh.get()] = {mesh, prepared};
+    // Without memory it is tried again next time.
+    if (prepared->scene() != nullptr) entries_[mesh.get()] = {mesh, prepared};
     return prepared;
   }
 
@@ -53,30 +69,28 @@ std::shared_ptr<const RayMesh> RayMesh::of(const std::shared_ptr<const Mesh>& me
   return prepared.get(mesh);
 }
 
-RayMesh::RayMesh(const Mesh& mesh) : scene_(rtcNewScene(rayDevice())) {
-  rtcSetSceneFlags(scene_, RTC_SCENE_FLAG_ROBUST | RTC_SCENE_FLAG_CONTEXT_FILTER_FUNCTION);
-  if (!mesh.triangles.empty()) {
-    const RTCGeometry geometry = rtcNewGeometry(rayDevice(), RTC_GEOMETRY_TYPE_TRIANGLE);
-    fillBuffer(geometry, RTC_BUFFER_TYPE_VERTEX, RTC_FORMAT_FLOAT3, mesh.positions);
-    fillBuffer(geometry, RTC_BUFFER_TYPE_INDEX, RTC_FORMAT_UINT3, mesh.triangles);
-    rtcCommitGeometry(geometry);
-    rtcAttachGeometry(scene_, geometry);
-    rtcReleaseGeometry(geometry);
-  }
-  rtcCommitScene(scene_);
+RayMesh::RayMesh(const Mesh& mesh) : scene_(newRayScene()) {
+  if (scene_ == nullptr) return;
+  // What is out of reach is as if it were not there.
+  const bool empty = mesh.triangles.empty() || !isWithin(FARTHEST_CORNER, mesh.bounds);
+  usable_ = (empty || attachTriangles(scene_, mesh)) && commitRayScene(scene_);
 }
 
-RayMesh::~RayMesh() { rtcReleaseScene(scene_); }
+RayMesh::~RayMesh() {
+  if (scene_ != nullptr) rtcReleaseScene(scene_);
+}
 
 std::optional<MeshHit> intersect(const std::shared_ptr<const Mesh>& mesh, const Ray& ray) {
   const std::optional<CasterRay> caster = casterRay(ray);
   if (!mesh || !caster) return std::nullopt;
+  const std::shared_ptr<const RayMesh> prepared = RayMesh::of(mesh);
+  if (prepared->scene() == nullptr) return std::nullopt;
   RTCRayHit query{};
   query.ray = caster->ray;
   query.hit.geomID = RTC_INVALID_GEOMETRY_ID;
   RTCIntersectContext context;
   rtcInitIntersectContext(&context);
-  rtcIntersect1(RayMesh::of(mesh)->scene(), &context, &query);
+  rtcIntersect1(prepared->scene(), &context, &query);
   if (query.hit.geomID == RTC_INVALID_GEOMETRY_ID) return std::nullopt;
   return MeshHit{query.ray.tfar / caster->unit, query.hit.primID, query.hit.u, query.hit.v,
                  normalAt(*mesh, query.hit.primID, query.hit.u, query.hit.v)};

@@ -34,10 +34,12 @@ class RayMesh {
   RayMesh(const RayMesh&) = delete;
   RayMesh& operator=(const RayMesh&) = delete;
 
-  RTCSceneTy* scene() const { return scene_; }
+  /// Null when there was not enough memory for it.
+  RTCSceneTy* scene() const { return usable_ ? scene_ : nullptr; }
 
  private:
   RTCSceneTy* scene_;
+  bool usable_ = false;
 };
 
 /// The nearest hit on either side of the surface, ahead of the ray's start; nothing for a ray without direction.

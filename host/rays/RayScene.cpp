@@ -6,6 +6,7 @@
 #include "host/geometry/Bounds.h"
 #include "host/rays/InstanceScene.h"
 #include "host/rays/RayDevice.h"
+#include "host/rays/Visibility.h"
 
 namespace host {
 
@@ -14,13 +15,7 @@ namespace {
 /// The volume that the axes span; negative for a mirroring transform.
 float determinant(const Matrix3& m) { return (m.GetRow(0) ^ m.GetRow(1)) % m.GetRow(2); }
 
-/// Whether an item can be seen at all: a transform that flattens it to nothing has no way back for rays.
-bool showable(const ViewItem& item) {
-  if (!item.mesh || item.mesh->triangles.empty()) return false;
-  const Point3 t = item.toWorld.GetTrans();
-  const float volume = determinant(item.toWorld);
-  return volume != 0.0F && std::isfinite(volume) && std::isfinite(t.x + t.y + t.z);
-}
+bool isShown(const ViewItem& item) { return visibilityOf(item) == Visibility::Shown; }
 
 /// Normals are carried by the cofactors, which stay right under uneven scaling; the sign keeps them outside when
 /// mirrored.
@@ -100,7 +95,7 @@ const Surface& RayScene::surface(std::size_t item, std::uint16_t materialId) con
 Box3 RayScene::bounds() const {
   Box3 box;
   for (const ViewItem& item : items_) {
-    if (showable(item)) box += transformed(item.mesh->bounds, item.toWorld);
+    if (isShown(item)) box += transformed(item.mesh->bounds, item.toWorld);
   }
   return box;
 }
@@ -110,22 +105,23 @@ void RayScene::setItems(std::vector<ViewItem> items) {
   translucent_ = std::any_of(items_.begin(), items_.end(), isTranslucent);
   resting_ = std::make_unique<InstanceScene>();
   moving_ = std::make_unique<InstanceScene>();
+  complete_ = true;
   reach_.Init();
   for (std::size_t i = 0; i < items_.size(); ++i) {
     const ViewItem& item = items_[i];
-    if (!showable(item)) continue;
-    resting_->place(static_cast<unsigned>(i), RayMesh::of(item.mesh), item.toWorld);
+    if (!isShown(item)) continue;
+    complete_ = resting_->place(static_cast<unsigned>(i), RayMesh::of(item.mesh), item.toWorld) && complete_;
     reach_ += reachOf(item);
   }
-  resting_->commit();
+  complete_ = resting_->commit() && complete_;
 }
 
 void RayScene::moveItems(const std::vector<Move>& moves) {
   if (moves.empty()) return;
   bool restingChanged = false;
   for (const Move& move : moves) restingChanged = place(move) || restingChanged;
-  if (restingChanged) resting_->commit();
-  moving_->commit();
+  if (restingChanged) complete_ = resting_->commit() && complete_;
+  complete_ = moving_->commit() && complete_;
 }
 
 bool RayScene::place(const Move& move) {
@@ -134,8 +130,8 @@ bool RayScene::place(const Move& move) {
   item.toWorld = move.toWorld;
   const bool rested = resting_->holds(number);
   if (rested) resting_->remove(number);
-  if (showable(item)) {
-    moving_->place(number, RayMesh::of(item.mesh), move.toWorld);
+  if (isShown(item)) {
+    complete_ = moving_->place(number, RayMesh::of(item.mesh), move.toWorld) && complete_;
     reach_ += reachOf(item);
   } else {
     moving_->remove(number);
@@ -166,7 +162,7 @@ std::optional<SceneHit> RayScene::intersect(const Ray& ray, const Accept& accept
   RTCRayHit query = queryFrom(*caster);
   std::optional<unsigned> item;
   for (const InstanceScene* level : {resting_.get(), moving_.get()}) {
-    if (level->empty()) continue;
+    if (level->empty() || level->scene() == nullptr) continue;
     // A hit of the second level is nearer than that of the first, or it is none.
     const RTCHit before = query.hit;
     query.hit.geomID = RTC_INVALID_GEOMETRY_ID;
@@ -190,10 +186,10 @@ bool RayScene::occluded(const Ray& ray, float upTo, float opacity) const {
   Passing passing{{}, this, nullptr, opacity, resting_.get()};
   rtcInitIntersectContext(&passing.context);
   if (translucent_ && opacity > 0.0F) passing.context.filter = lookThroughTranslucent;
-  rtcOccluded1(resting_->scene(), &passing.context, &caster->ray);
-  if (caster->ray.tfar >= 0.0F && !moving_->empty()) {
-    passing.level = moving_.get();
-    rtcOccluded1(moving_->scene(), &passing.context, &caster->ray);
+  for (const InstanceScene* level : {resting_.get(), moving_.get()}) {
+    if (level->empty() || level->scene() == nullptr || caster->ray.tfar < 0.0F) continue;
+    passing.level = level;
+    rtcOccluded1(level->scene(), &passing.context, &caster->ray);
   }
   return caster->ray.tfar < 0.0F;
 }

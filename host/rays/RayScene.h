@@ -53,6 +53,8 @@ class RayScene {
   /// Around everything that can be hit, in the world; empty for an empty scene.
   Box3 bounds() const;
   bool hasTranslucent() const { return translucent_; }
+  /// False when there was not enough memory for everything that can be seen; what there was not enough for is not hit.
+  bool complete() const { return complete_; }
 
   /// The nearest hit ahead of the ray's start, on either side of a surface, no farther than `upTo`.
   std::optional<SceneHit> intersect(const Ray& ray, const Accept& accept = {},
@@ -85,6 +87,7 @@ class RayScene {
   /// Around everything that is or was here; most rays of a picture miss it and need no more than that.
   Box3 reach_;
   bool translucent_ = false;
+  bool complete_ = true;
 };
 
 }  // namespace host

@@ -18,6 +18,8 @@ class LayerManager final : public ILayerManager {
   ILayer* GetRootLayer() const override { return layers_.front().get(); }
 
   const std::vector<Ref<Layer>>& layers() const { return layers_; }
+  /// Of a name that no layer has; nothing is recorded.
+  void add(const MSTR& name) { layers_.emplace_back(new Layer(scene_, name)); }
   /// Leaves the default layer alone.
   void clear();
 

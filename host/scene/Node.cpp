@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "host/geometry/Bounds.h"
+#include "host/geometry/Reach.h"
 #include "host/scene/Geometry.h"
 #include "host/scene/Scene.h"
 #include "host/services/Change.h"
@@ -141,7 +142,8 @@ void Node::place(const Matrix3& nodeTM, const Matrix3& objectTM, bool keepKids) 
 
 Box3 Node::worldBounds() {
   const auto* geometry = dynamic_cast<const Geometry*>(object_.get());
-  return geometry != nullptr ? transformed(geometry->bounds(), GetObjectTM(0)) : Box3();
+  const Box3 box = geometry != nullptr ? transformed(geometry->bounds(), GetObjectTM(0)) : Box3();
+  return isWithin(FARTHEST_PLACE, box) ? box : Box3();
 }
 
 void Node::setLayer(const Ref<Layer>& layer) { change(&Node::layer_, layer, Concern::Data); }

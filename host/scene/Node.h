@@ -64,7 +64,7 @@ class Node final : public INode {
   /// Null for the root node alone.
   Layer* layer() const { return layer_.get(); }
   bool inScene() const { return isRoot_ || parent_ != nullptr; }
-  /// The bounds of the geometry in the world, children left out; empty without geometry.
+  /// The bounds of the geometry in the world, children left out; empty without geometry and out of reach.
   Box3 worldBounds();
 
   void setLayer(const Ref<Layer>& layer);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <unordered_set>
 
 #include "host/scene/GroupHead.h"
 #include "host/scene/SceneContent.h"
@@ -139,6 +140,10 @@ void Scene::select(Node& node, bool clearFirst) {
   changeSelection(selection);
 }
 
+void Scene::select(const std::vector<Node*>& nodes) {
+  changeSelection(std::vector<Ref<Node>>(nodes.begin(), nodes.end()));
+}
+
 void Scene::clearSelection() { changeSelection({}); }
 
 bool Scene::isSelected(const Node& node) const {
@@ -165,9 +170,9 @@ Node* Scene::group(const std::vector<Node*>& members, const MSTR& name) {
   Matrix3 tm(TRUE);
   tm.SetTrans(centre(members));
   head->SetNodeTM(0, tm);
+  const std::unordered_set<const Node*> all(members.begin(), members.end());
   for (Node* member : members) {
-    const bool isTop = std::find(members.begin(), members.end(), member->parent_) == members.end();
-    if (isTop) attach(*member, *head, true);
+    if (all.count(member->parent_) == 0) attach(*member, *head, true);
     member->setGroupMember(true);
   }
   return head;
@@ -175,8 +180,8 @@ Node* Scene::group(const std::vector<Node*>& members, const MSTR& name) {
 
 void Scene::clear() {
   selection_.clear();
-  const std::vector<Ref<Node>> tops = root_->children_;
-  for (const Ref<Node>& top : tops) unlink(*top);
+  for (const Ref<Node>& top : root_->children_) top->parent_ = nullptr;
+  root_->children_.clear();
   layers_->clear();
   usedNames_.clear();
   touchAppearance();
@@ -185,10 +190,7 @@ void Scene::clear() {
 void Scene::replace(const SceneContent& content) {
   clear();
   if (!content.layers.empty()) layers_->GetRootLayer()->SetName(content.layers.front());
-  for (std::size_t i = 1; i < content.layers.size(); ++i) {
-    MSTR name = content.layers[i];
-    layers_->CreateLayer(name);
-  }
+  for (std::size_t i = 1; i < content.layers.size(); ++i) layers_->add(content.layers[i]);
   for (const NodeContent& top : content.nodes) build(top, *root_);
 }
 

@@ -50,6 +50,8 @@ class Scene {
   unsigned int remove(Node& node);
 
   void select(Node& node, bool clearFirst);
+  /// Nodes of the scene, each once, in place of what was selected.
+  void select(const std::vector<Node*>& nodes);
   void clearSelection();
   bool isSelected(const Node& node) const;
   const std::vector<Ref<Node>>& selection() const { return selection_; }

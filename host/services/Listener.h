@@ -12,6 +12,8 @@ class Listener {
   static Listener& instance();
 
   void report(const std::string& line) { lines_.push_back(line); }
+  /// For what is met again and again while it lasts: not a second time while the line stands there.
+  void reportOnce(const std::string& line);
   const std::vector<std::string>& lines() const { return lines_; }
   void clear() { lines_.clear(); }
 

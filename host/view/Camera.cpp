@@ -77,8 +77,10 @@ std::optional<QPointF> Camera::project(const Point3& world, int width, int heigh
   const float depth = p % forward_;
   if (!(depth > 0.0F)) return std::nullopt;
   const float scale = static_cast<float>(height) / (2.0F * std::tan(angle_ / 2.0F) * depth);
-  return QPointF(static_cast<double>(static_cast<float>(width) / 2.0F + (p % right_) * scale),
-                 static_cast<double>(static_cast<float>(height) / 2.0F - (p % up_) * scale));
+  const float x = static_cast<float>(width) / 2.0F + (p % right_) * scale;
+  const float y = static_cast<float>(height) / 2.0F - (p % up_) * scale;
+  if (!std::isfinite(x) || !std::isfinite(y)) return std::nullopt;
+  return QPointF(static_cast<double>(x), static_cast<double>(y));
 }
 
 }  // namespace host

@@ -2,9 +2,12 @@
 
 #include <map>
 
+#include "host/files/Paths.h"
+#include "host/rays/Visibility.h"
 #include "host/scene/ProxyObject.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
+#include "host/services/Listener.h"
 #include "host/view/Surfaces.h"
 
 namespace host {
@@ -32,11 +35,39 @@ bool isPlaceholder(const Geometry& geometry) {
   return surroundings != nullptr && !surroundings->problem().empty();
 }
 
+/// Nodes that have something to show and cannot be shown, in one line however many they are.
+class OutOfReach {
+ public:
+  void add(Node& node) {
+    if (++count_ <= MOST_NAMED) names_ += (count_ == 1 ? "\"" : ", \"") + shortened(node.GetName()) + "\"";
+  }
+  void report() const {
+    if (count_ == 0) return;
+    const std::string others = count_ > MOST_NAMED ? " and " + std::to_string(count_ - MOST_NAMED) + " more" : "";
+    Listener::instance().reportOnce(
+        "Not shown, because too far away (beyond 10,000,000,000 scene units), too large, "
+        "too small or too skewed: " +
+        names_ + others + ".");
+  }
+
+ private:
+  static constexpr std::size_t MOST_NAMED = 10;
+
+  static std::string shortened(const std::wstring& name) {
+    constexpr std::size_t longest = 60;
+    return toUtf8(name.size() > longest ? name.substr(0, longest) + L"..." : name);
+  }
+
+  std::size_t count_ = 0;
+  std::string names_;
+};
+
 }  // namespace
 
 std::vector<ViewItem> viewItems(const Scene& scene) {
   std::vector<ViewItem> items;
   SurfaceTable surfaces;
+  OutOfReach outOfReach;
   for (Node* node : scene.nodes()) {
     const auto* geometry = dynamic_cast<const Geometry*>(node->GetObjectRef());
     std::shared_ptr<const Mesh> mesh = geometry != nullptr ? geometry->mesh() : nullptr;
@@ -44,11 +75,14 @@ std::vector<ViewItem> viewItems(const Scene& scene) {
     ViewItem item;
     item.mesh = std::move(mesh);
     item.toWorld = node->GetObjectTM(0);
-    item.surfaces = surfaces.of(node->GetMtl());
     item.node = node;
     if (isPlaceholder(*geometry)) item.label = node->GetName();
+    if (visibilityOf(item) == Visibility::OutOfReach) outOfReach.add(*node);
     items.push_back(std::move(item));
   }
+  outOfReach.report();
+  // Textures take of the memory what the meshes leave.
+  for (ViewItem& item : items) item.surfaces = surfaces.of(item.node->GetMtl());
   return items;
 }
 

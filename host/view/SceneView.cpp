@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "host/geometry/Bounds.h"
+#include "host/rays/Visibility.h"
 #include "host/scene/Scene.h"
+#include "host/services/Listener.h"
 #include "host/view/SceneItems.h"
 
 namespace host {
@@ -11,7 +13,7 @@ namespace host {
 namespace {
 
 Box3 boundsOf(const ViewItem& item) {
-  return item.mesh != nullptr ? transformed(item.mesh->bounds, item.toWorld) : Box3();
+  return visibilityOf(item) == Visibility::Shown ? transformed(item.mesh->bounds, item.toWorld) : Box3();
 }
 
 /// Filters may be slow in the eyes of a ray that meets hundreds of triangles: each node is asked about once.
@@ -33,9 +35,14 @@ class RememberedAnswers {
 
 }  // namespace
 
+RayScene& SceneView::prepared() {
+  if (!rays_) rays_.emplace();
+  return *rays_;
+}
+
 const RayScene& SceneView::rays() {
   update();
-  return rays_;
+  return prepared();
 }
 
 SceneView::Changes SceneView::takeChanges() {
@@ -48,8 +55,8 @@ SceneView::Changes SceneView::takeChanges() {
 INode* SceneView::pick(const Ray& ray, const RayScene::Accept& accept) {
   update();
   RememberedAnswers answers(accept);
-  const auto hit = accept ? rays_.intersect(ray, std::ref(answers)) : rays_.intersect(ray);
-  return hit ? rays_.items()[hit->item].node : nullptr;
+  const auto hit = accept ? prepared().intersect(ray, std::ref(answers)) : prepared().intersect(ray);
+  return hit ? prepared().items()[hit->item].node : nullptr;
 }
 
 void SceneView::update() {
@@ -66,7 +73,9 @@ void SceneView::rebuild() {
   movesSeen_ = scene_.moveCount();
   itemOf_.clear();
   for (std::size_t i = 0; i < items.size(); ++i) itemOf_[static_cast<Node*>(items[i].node)] = i;
-  rays_.setItems(std::move(items));
+  RayScene& rays = prepared();
+  rays.setItems(std::move(items));
+  if (!rays.complete()) Listener::instance().reportOnce("Not everything is shown: there is not enough memory.");
   built_ = true;
   changes_ = {true, Box3()};
   ++rebuilds_;
@@ -83,14 +92,14 @@ void SceneView::moveWhatFollowed() {
   followed_.erase(std::unique(followed_.begin(), followed_.end()), followed_.end());
   std::vector<RayScene::Move> moves;
   for (const std::size_t index : followed_) {
-    const ViewItem& item = rays_.items()[index];
+    const ViewItem& item = prepared().items()[index];
     const Matrix3 toWorld = item.node->GetObjectTM(0);
     if (toWorld == item.toWorld) continue;
     changes_.bounds += boundsOf(item);
     moves.push_back({index, toWorld});
   }
-  rays_.moveItems(moves);
-  for (const RayScene::Move& move : moves) changes_.bounds += boundsOf(rays_.items()[move.item]);
+  prepared().moveItems(moves);
+  for (const RayScene::Move& move : moves) changes_.bounds += boundsOf(prepared().items()[move.item]);
   moves_ += moves.size();
   followed_.clear();
 }

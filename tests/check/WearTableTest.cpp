@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "apps/cli/CommandLine.h"
-#include "apps/cli/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
 #include "check/Checker.h"
 #include "check/explain/Explain.h"
 #include "check/report/WearReport.h"
@@ -39,7 +39,7 @@ int runQuietly(std::vector<std::string> arguments) {
 
 /// Whether the command builds it without anything to complain of.
 bool isBuilt(const std::filesystem::path& root, const WearRow& row, const std::string& pose) {
-  return runQuietly({"create", root.string(), "--cloth", row.clothing, "--pose", pose, "--bare"}) == cli::EXIT_CLEAN;
+  return runQuietly({"create", root.string(), "--cloth", row.clothing, "--pose", pose, "--bare"}) == apps::EXIT_CLEAN;
 }
 
 template <class Visit>
@@ -153,7 +153,7 @@ TEST(Explain, AgreesWithTheTableAndWithWhatCanBeCreated) {
     for (const char* pose : {"p1", "p2"}) {
       const std::vector<std::string> command = {"create", root.string(), "--cloth", "k1", "--pose",
                                                 pose,     "--bare",      "--asset", asset};
-      if (runQuietly(command) == cli::EXIT_CLEAN) ++created;
+      if (runQuietly(command) == apps::EXIT_CLEAN) ++created;
     }
     const check::Explanation one = check::explainId(root, asset).explanations.at(0);
     EXPECT_EQ(one.works, created > 0) << asset << ": " << one.verdict;

@@ -6,7 +6,7 @@
 #include <map>
 #include <nlohmann/json.hpp>
 
-#include "apps/cli/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
 #include "tests/cli/ProgramRun.h"
 #include "tests/support/LocalAppData.h"
 #include "tests/support/TemporaryFolder.h"
@@ -44,7 +44,7 @@ class AuthorCommands : public testing::Test {
 };
 
 TEST_F(AuthorCommands, InitWritesNothingButWhatBuilds) {
-  ASSERT_EQ(run({"init", root()}).status, cli::EXIT_CLEAN);
+  ASSERT_EQ(run({"init", root()}).status, apps::EXIT_CLEAN);
   const std::map<std::string, QSize> pictures = {{"mannequin/leisure/blue.png", {100, 300}},
                                                  {"mannequin/previews/leisure_standing.png", {100, 300}},
                                                  {"mannequin/previews/preview_leisure.png", {110, 330}},
@@ -62,10 +62,10 @@ TEST_F(AuthorCommands, InitWritesNothingButWhatBuilds) {
   std::sort(expected.begin(), expected.end());
   EXPECT_EQ(files(), expected);
   const Outcome listed = run({"list", root()});
-  EXPECT_EQ(listed.status, cli::EXIT_CLEAN);
+  EXPECT_EQ(listed.status, apps::EXIT_CLEAN);
   EXPECT_EQ(listed.err, "");
   const Outcome created = run({"create", root()});
-  EXPECT_EQ(created.status, cli::EXIT_CLEAN) << created.err;
+  EXPECT_EQ(created.status, apps::EXIT_CLEAN) << created.err;
   EXPECT_THAT(created.out, HasSubstr("pose.vrmesh  material Mannequin Plain"));
   EXPECT_THAT(created.out, HasSubstr("leisure_standing.vrmesh  material Mannequin Leisure Blue"));
 }
@@ -73,14 +73,14 @@ TEST_F(AuthorCommands, InitWritesNothingButWhatBuilds) {
 TEST_F(AuthorCommands, InitTouchesNothingWhereItCannotWriteItAll) {
   folder_.write("people/.hidden", "mine");
   const Outcome refused = run({"init", root()});
-  EXPECT_EQ(refused.status, cli::EXIT_USAGE);
+  EXPECT_EQ(refused.status, apps::EXIT_USAGE);
   EXPECT_THAT(refused.err, HasSubstr("not empty"));
   EXPECT_EQ(files(), std::vector<std::string>{".hidden"});
-  EXPECT_EQ(run({"init", root() + "/.hidden"}).status, cli::EXIT_USAGE);
-  EXPECT_EQ(run({"init", root() + "/.hidden/below"}).status, cli::EXIT_FINDINGS);
+  EXPECT_EQ(run({"init", root() + "/.hidden"}).status, apps::EXIT_USAGE);
+  EXPECT_EQ(run({"init", root() + "/.hidden/below"}).status, apps::EXIT_INTERNAL);
   EXPECT_EQ(folder_.read("people/.hidden"), "mine");
   fs::remove(root() + "/.hidden");
-  EXPECT_EQ(run({"init", root()}).status, cli::EXIT_CLEAN) << "an empty folder will do";
+  EXPECT_EQ(run({"init", root()}).status, apps::EXIT_CLEAN) << "an empty folder will do";
 }
 
 TEST_F(AuthorCommands, AddWritesAsTheAuthorDoesAndLeavesEveryOtherByte) {
@@ -128,7 +128,7 @@ TEST_F(AuthorCommands, AddWritesAsTheAuthorDoesAndLeavesEveryOtherByte) {
   for (const auto& one : cases) {
     describe(one.before);
     const Outcome outcome = add(one.arguments);
-    EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
+    EXPECT_EQ(outcome.status, apps::EXIT_CLEAN) << outcome.err;
     EXPECT_EQ(description(), one.after);
     EXPECT_EQ(files(), std::vector<std::string>{"zorvel.xml"});
   }
@@ -144,33 +144,33 @@ TEST_F(AuthorCommands, AddRefusesWithOneLineAndTheFileAsItWas) {
     int status;
     const char* says;
   } cases[] = {
-      {good, {"pose", "x", "--to", "ana"}, cli::EXIT_FINDINGS, "nearest: anna"},
-      {good, {"pose", "x"}, cli::EXIT_USAGE, "--to has to say which character it belongs to: anna, bob"},
-      {good, {"pose", "wALK", "--to", "anna"}, cli::EXIT_FINDINGS, "does not tell from \"wALK\""},
-      {good, {"pose", "w", "--to", "anna"}, cli::EXIT_FINDINGS, "folder \"w\" is that of \"Walk\""},
-      {good, {"pose", "skin", "--to", "anna"}, cli::EXIT_USAGE, "\"skin\" has another use"},
-      {good, {"character", "bob"}, cli::EXIT_FINDINGS, "already a character with the id \"bob\"."},
-      {good, {"character", "x", "--folder", "a/b"}, cli::EXIT_USAGE, "the character /"},
-      {good, {"character", "nul.x"}, cli::EXIT_USAGE, "device nul"},
-      {good, {"character", "x\xFF"}, cli::EXIT_USAGE, "XML cannot hold"},
-      {good, {"pose", "x", "--multiple"}, cli::EXIT_USAGE, "--multiple says nothing about a pose"},
-      {good, {"hat", "x"}, cli::EXIT_USAGE, "hat"},
-      {good, {"style", "x", "--to", "bob"}, cli::EXIT_FINDINGS, "no clothing yet"},
-      {good, {"asset", "x", "--to", "bob"}, cli::EXIT_FINDINGS, "no category"},
-      {good, {"asset", "x", "--to", "bob", "--global", "g"}, cli::EXIT_FINDINGS, "no shared asset"},
+      {good, {"pose", "x", "--to", "ana"}, apps::EXIT_FINDINGS, "nearest: anna"},
+      {good, {"pose", "x"}, apps::EXIT_USAGE, "--to has to say which character it belongs to: anna, bob"},
+      {good, {"pose", "wALK", "--to", "anna"}, apps::EXIT_FINDINGS, "does not tell from \"wALK\""},
+      {good, {"pose", "w", "--to", "anna"}, apps::EXIT_FINDINGS, "folder \"w\" is that of \"Walk\""},
+      {good, {"pose", "skin", "--to", "anna"}, apps::EXIT_USAGE, "\"skin\" has another use"},
+      {good, {"character", "bob"}, apps::EXIT_FINDINGS, "already a character with the id \"bob\"."},
+      {good, {"character", "x", "--folder", "a/b"}, apps::EXIT_USAGE, "the character /"},
+      {good, {"character", "nul.x"}, apps::EXIT_USAGE, "device nul"},
+      {good, {"character", "x\xFF"}, apps::EXIT_USAGE, "XML cannot hold"},
+      {good, {"pose", "x", "--multiple"}, apps::EXIT_USAGE, "--multiple says nothing about a pose"},
+      {good, {"hat", "x"}, apps::EXIT_USAGE, "hat"},
+      {good, {"style", "x", "--to", "bob"}, apps::EXIT_FINDINGS, "no clothing yet"},
+      {good, {"asset", "x", "--to", "bob"}, apps::EXIT_FINDINGS, "no category"},
+      {good, {"asset", "x", "--to", "bob", "--global", "g"}, apps::EXIT_FINDINGS, "no shared asset"},
       {"<zorvel><character id='c'><cloth><clothing id='a'/></cloth><poses><pose id='b_c'/><pose id='c'/></poses>"
        "</character></zorvel>",
        {"clothing", "a_b"},
-       cli::EXIT_FINDINGS,
+       apps::EXIT_FINDINGS,
        "two pictures would have one name"},
-      {"<zorvel/>", {"pose", "x"}, cli::EXIT_FINDINGS, "no character yet"},
-      {"<zorvel><character></zorvel>", {"character", "x"}, cli::EXIT_UNREADABLE, "zorvel.xml:1:29: not well-formed"},
-      {"<catalogue/>", {"character", "x"}, cli::EXIT_UNREADABLE, "document element"},
-      {std::string("\xFF\xFE<\0z\0o\0r\0v\0e\0l\0/\0>\0", 20), {"character", "x"}, cli::EXIT_UNREADABLE, "UTF-16"},
-      {"<?xml version='1.0' encoding='Shift_JIS'?><zorvel/>", {"character", "x"}, cli::EXIT_UNREADABLE, "Shift_JIS"},
+      {"<zorvel/>", {"pose", "x"}, apps::EXIT_FINDINGS, "no character yet"},
+      {"<zorvel><character></zorvel>", {"character", "x"}, apps::EXIT_UNREADABLE, "zorvel.xml:1:29: not well-formed"},
+      {"<catalogue/>", {"character", "x"}, apps::EXIT_UNREADABLE, "document element"},
+      {std::string("\xFF\xFE<\0z\0o\0r\0v\0e\0l\0/\0>\0", 20), {"character", "x"}, apps::EXIT_UNREADABLE, "UTF-16"},
+      {"<?xml version='1.0' encoding='Shift_JIS'?><zorvel/>", {"character", "x"}, apps::EXIT_UNREADABLE, "Shift_JIS"},
       {"<!DOCTYPE zorvel [<!ENTITY e '<character/>'>]><zorvel>&e;</zorvel>",
        {"character", "x"},
-       cli::EXIT_UNREADABLE,
+       apps::EXIT_UNREADABLE,
        "document type"}};
   for (const auto& one : cases) {
     describe(one.description);
@@ -188,7 +188,7 @@ TEST_F(AuthorCommands, AddRefusesWithOneLineAndTheFileAsItWas) {
 }
 
 TEST_F(AuthorCommands, AddNamesTheFilesThatAreStillNeededUntilTheyAreThere) {
-  ASSERT_EQ(run({"init", root()}).status, cli::EXIT_CLEAN);
+  ASSERT_EQ(run({"init", root()}).status, apps::EXIT_CLEAN);
   EXPECT_THAT(add({"clothing", "formal"}).out,
               HasSubstr("Still to be put into " + root() +
                         ":\n"
@@ -198,13 +198,13 @@ TEST_F(AuthorCommands, AddNamesTheFilesThatAreStillNeededUntilTheyAreThere) {
                         "  mannequin/formal/plain.png               picture, 100 x 300 pixels\n"
                         "  mannequin/formal/materials.mat           library that holds the material \"Mannequin "
                         "Formal Plain\"\n"));
-  ASSERT_EQ(add({"category", "bags", "--multiple"}).status, cli::EXIT_CLEAN);
-  ASSERT_EQ(add({"asset", "scarf", "--type", "specific"}).status, cli::EXIT_CLEAN);
+  ASSERT_EQ(add({"category", "bags", "--multiple"}).status, apps::EXIT_CLEAN);
+  ASSERT_EQ(add({"asset", "scarf", "--type", "specific"}).status, apps::EXIT_CLEAN);
   EXPECT_THAT(add({"asset", "bench", "--type", "global"}).out, HasSubstr("global_assets/bench/asset.vrmesh"));
   const std::string reference = add({"asset", "my_bench", "--global", "bench"}).out;
   EXPECT_THAT(reference, HasSubstr("1 row of the AssetMatrix"));
   EXPECT_THAT(reference, Not(HasSubstr("Still")));
-  ASSERT_EQ(add({"asset", "lamp", "--no-rows"}).status, cli::EXIT_CLEAN);
+  ASSERT_EQ(add({"asset", "lamp", "--no-rows"}).status, apps::EXIT_CLEAN);
   // Letter case does not count on disk.
   folder_.write("people/mannequin/Walking/POSE.vrmesh", "x");
   const std::string pose = add({"pose", "walking"}).out;
@@ -222,7 +222,7 @@ TEST_F(AuthorCommands, AddNamesTheFilesThatAreStillNeededUntilTheyAreThere) {
 }
 
 TEST_F(AuthorCommands, DoctorNamesWhatIsNotWellAndWhatToDo) {
-  ASSERT_EQ(run({"init", root()}).status, cli::EXIT_CLEAN);
+  ASSERT_EQ(run({"init", root()}).status, apps::EXIT_CLEAN);
   const support::LocalAppData settings;
   const auto problems = [](const std::vector<std::string>& arguments) {
     const Outcome outcome = run(arguments);
@@ -232,7 +232,7 @@ TEST_F(AuthorCommands, DoctorNamesWhatIsNotWellAndWhatToDo) {
       EXPECT_EQ(check["good"].get<bool>(), !check.contains("remedy"));
       if (!check["good"].get<bool>()) names += check["name"].get<std::string>() + ";";
     }
-    EXPECT_EQ(outcome.status, names.empty() ? cli::EXIT_CLEAN : cli::EXIT_FINDINGS);
+    EXPECT_EQ(outcome.status, names.empty() ? apps::EXIT_CLEAN : apps::EXIT_FINDINGS);
     EXPECT_EQ(json["good"].get<bool>(), names.empty());
     return names;
   };

@@ -10,8 +10,8 @@
 #include <nlohmann/json.hpp>
 
 #include "apps/cli/CommandLine.h"
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/TerminalColor.h"
+#include "apps/support/ExitStatus.h"
 #include "check/JudgementFile.h"
 #include "tests/cli/ProgramRun.h"
 #include "tests/support/SmallRepository.h"
@@ -46,27 +46,27 @@ TEST_F(CheckCommand, RefusesOptionsThatItDoesNotUnderstandInOneLine) {
     std::vector<std::string> arguments = {"check", root()};
     arguments.insert(arguments.end(), one.options.begin(), one.options.end());
     const Outcome outcome = run(arguments);
-    EXPECT_EQ(outcome.status, cli::EXIT_USAGE);
+    EXPECT_EQ(outcome.status, apps::EXIT_USAGE);
     EXPECT_THAT(outcome.err, StartsWith(one.says));
     EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << "one line";
     EXPECT_EQ(outcome.out, "");
   }
-  EXPECT_EQ(run({"check"}).status, cli::EXIT_USAGE);
-  EXPECT_EQ(run({"check", root(), "--format", "pdf"}).status, cli::EXIT_USAGE);
-  EXPECT_EQ(run({"check", root(), "--color", "red"}).status, cli::EXIT_USAGE);
-  EXPECT_EQ(run({"rules", "--format", "sarif"}).status, cli::EXIT_USAGE);
+  EXPECT_EQ(run({"check"}).status, apps::EXIT_USAGE);
+  EXPECT_EQ(run({"check", root(), "--format", "pdf"}).status, apps::EXIT_USAGE);
+  EXPECT_EQ(run({"check", root(), "--color", "red"}).status, apps::EXIT_USAGE);
+  EXPECT_EQ(run({"rules", "--format", "sarif"}).status, apps::EXIT_USAGE);
 }
 
 TEST_F(CheckCommand, ReadsTheFileBesideTheDescriptionUnlessToldNotTo) {
   repository_.folder().write(check::JUDGEMENT_FILE, R"({"failOn": "sometimes"})");
   const Outcome outcome = run({"check", root()});
-  EXPECT_EQ(outcome.status, cli::EXIT_UNREADABLE);
+  EXPECT_EQ(outcome.status, apps::EXIT_UNREADABLE);
   EXPECT_EQ(outcome.err, "zorvel check: " + root() +
                              "/.zorvel-check.json: failOn: \"sometimes\" is none of error, warning, hint, never\n");
   EXPECT_EQ(outcome.out, "");
-  EXPECT_NE(run({"check", root(), "--no-config"}).status, cli::EXIT_UNREADABLE);
+  EXPECT_NE(run({"check", root(), "--no-config"}).status, apps::EXIT_UNREADABLE);
   repository_.folder().write(check::JUDGEMENT_FILE, R"({"failOn": "never"})");
-  EXPECT_EQ(run({"check", root()}).status, cli::EXIT_CLEAN);
+  EXPECT_EQ(run({"check", root()}).status, apps::EXIT_CLEAN);
 }
 
 TEST_F(CheckCommand, WritesEachFormatToStandardOutputOrWholeIntoAFile) {
@@ -86,7 +86,7 @@ TEST_F(CheckCommand, WritesEachFormatToStandardOutputOrWholeIntoAFile) {
   EXPECT_EQ(outcome.out, "");
   EXPECT_EQ(Json::parse(out_.read("report.json"))["repositories"][0]["root"], root());
   const Outcome nowhere = run({"check", root(), "--output", (out_.path() / "none/report").string()});
-  EXPECT_EQ(nowhere.status, cli::EXIT_INTERNAL);
+  EXPECT_EQ(nowhere.status, apps::EXIT_INTERNAL);
   EXPECT_THAT(nowhere.err, StartsWith("zorvel check: cannot write \""));
 }
 
@@ -112,9 +112,17 @@ TEST_F(CheckCommand, SaysWhenStandardOutputCannotBeWritten) {
     ::close(ends[0]);
     return ends[1];
   };
-  for (const std::vector<std::string>& arguments : {std::vector<std::string>{"check", root()}, {"rules"}}) {
-    EXPECT_EQ(statusTo(closedPipe(), arguments), cli::EXIT_INTERNAL);
-    EXPECT_EQ(statusTo(::open("/dev/full", O_WRONLY), arguments), cli::EXIT_INTERNAL);
+  for (const std::vector<std::string>& arguments : {std::vector<std::string>{"check", root()},
+                                                    {"rules"},
+                                                    {"list", root()},
+                                                    {"list", root(), "--json"},
+                                                    {"create", root()},
+                                                    {"explain", root(), "k1"},
+                                                    {"doctor"},
+                                                    {"--help"},
+                                                    {"--version"}}) {
+    EXPECT_EQ(statusTo(closedPipe(), arguments), apps::EXIT_INTERNAL);
+    EXPECT_EQ(statusTo(::open("/dev/full", O_WRONLY), arguments), apps::EXIT_INTERNAL);
   }
 }
 
@@ -124,9 +132,9 @@ TEST_F(CheckCommand, ExitsWithTheWorstThatBecameOfTheRepositories) {
   failed.hasFailed = true;
   check::JudgedRepository unreadable = failed;
   unreadable.result.isReadable = false;
-  EXPECT_EQ(cli::statusOf({clean}), cli::EXIT_CLEAN);
-  EXPECT_EQ(cli::statusOf({clean, failed, clean}), cli::EXIT_FINDINGS);
-  EXPECT_EQ(cli::statusOf({unreadable, failed}), cli::EXIT_UNREADABLE);
+  EXPECT_EQ(cli::statusOf({clean}), apps::EXIT_CLEAN);
+  EXPECT_EQ(cli::statusOf({clean, failed, clean}), apps::EXIT_FINDINGS);
+  EXPECT_EQ(cli::statusOf({unreadable, failed}), apps::EXIT_UNREADABLE);
 }
 
 TEST_F(CheckCommand, ColorsATerminalOnlyAndNotWhenItsUserSaysNo) {

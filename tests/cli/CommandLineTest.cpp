@@ -4,7 +4,7 @@
 #include <clocale>
 #include <nlohmann/json.hpp>
 
-#include "apps/cli/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
 #include "apps/support/NearestIds.h"
 #include "tests/cli/ProgramRun.h"
 #include "tests/support/SmallRepository.h"
@@ -41,26 +41,30 @@ TEST_F(CommandLine, AnswersTheExitStatusThatTheHelpPromises) {
     int status;
     const char* says;
   } cases[] = {
-      {{"--help"}, cli::EXIT_CLEAN, "Exit status"},
-      {{"create", "--help"}, cli::EXIT_CLEAN, "Exit status"},
-      {{"list", "--help"}, cli::EXIT_CLEAN, "Exit status"},
-      {{"sample", "--help"}, cli::EXIT_CLEAN, "Exit status"},
-      {{}, cli::EXIT_USAGE, "subcommand"},
-      {{"crate", root()}, cli::EXIT_USAGE, "subcommand"},
-      {{"create"}, cli::EXIT_USAGE, "DIR"},
-      {{"create", root(), "--unit", "elephants"}, cli::EXIT_USAGE, "elephants"},
-      {{"list", base + "/none"}, cli::EXIT_UNREADABLE, "not a folder"},
-      {{"list", base}, cli::EXIT_UNREADABLE, "no zorvel.xml"},
-      {{"list", base + "/malformed"}, cli::EXIT_UNREADABLE, "malformed/zorvel.xml:2:4: not well-formed XML: "},
-      {{"create", base + "/malformed"}, cli::EXIT_UNREADABLE, "malformed/zorvel.xml:2:4: not well-formed XML: "},
-      {{"list", base + "/empty"}, cli::EXIT_UNREADABLE, "well-formed"},
-      {{"create", base + "/other"}, cli::EXIT_UNREADABLE, "zorvel.xml:1:1: the document element is \"catalogue\""},
-      {{"list", root()}, cli::EXIT_CLEAN, "Anna"}};
+      {{"--help"}, apps::EXIT_CLEAN, "Exit status"},
+      {{"create", "--help"}, apps::EXIT_CLEAN, "Exit status"},
+      {{"list", "--help"}, apps::EXIT_CLEAN, "Exit status"},
+      {{"sample", "--help"}, apps::EXIT_CLEAN, "Exit status"},
+      {{}, apps::EXIT_USAGE, "subcommand"},
+      {{"crate", root()}, apps::EXIT_USAGE, "subcommand"},
+      {{"create"}, apps::EXIT_USAGE, "DIR"},
+      {{"create", root(), "--unit", "elephants"}, apps::EXIT_USAGE, "elephants"},
+      {{"create", root(), "--at", "0,2e10,0"}, apps::EXIT_USAGE, "2e10 is no number from -10,000,000,000 to"},
+      {{"create", root(), "--at", "0,0,nan"}, apps::EXIT_USAGE, "nan is no number"},
+      {{"create", root(), "--eye", "0,0,inf", "--target", "0,0,0"}, apps::EXIT_USAGE, "inf is no number"},
+      {{"create", root(), "--turn", "1e39"}, apps::EXIT_USAGE, "--turn"},
+      {{"list", base + "/none"}, apps::EXIT_UNREADABLE, "not a folder"},
+      {{"list", base}, apps::EXIT_UNREADABLE, "no zorvel.xml"},
+      {{"list", base + "/malformed"}, apps::EXIT_UNREADABLE, "malformed/zorvel.xml:2:4: not well-formed XML: "},
+      {{"create", base + "/malformed"}, apps::EXIT_UNREADABLE, "malformed/zorvel.xml:2:4: not well-formed XML: "},
+      {{"list", base + "/empty"}, apps::EXIT_UNREADABLE, "well-formed"},
+      {{"create", base + "/other"}, apps::EXIT_UNREADABLE, "zorvel.xml:1:1: the document element is \"catalogue\""},
+      {{"list", root()}, apps::EXIT_CLEAN, "Anna"}};
   for (const auto& one : cases) {
     const Outcome outcome = run(one.arguments);
     EXPECT_EQ(outcome.status, one.status) << testing::PrintToString(one.arguments);
     EXPECT_THAT(outcome.out + outcome.err, HasSubstr(one.says)) << testing::PrintToString(one.arguments);
-    if (one.status == cli::EXIT_UNREADABLE) {
+    if (one.status == apps::EXIT_UNREADABLE) {
       EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << "one line";
     }
   }
@@ -88,17 +92,17 @@ TEST_F(CommandLine, ListNamesWhatWasLeftOutOrSkippedWithItsPlace) {
     EXPECT_TRUE(Json::accept(outcome.out)) << "nothing but JSON on standard output";
     return std::make_pair(outcome.status, outcome.err);
   };
-  EXPECT_EQ(list("<globalAssets/>"), std::make_pair(int{cli::EXIT_CLEAN}, std::string()));
+  EXPECT_EQ(list("<globalAssets/>"), std::make_pair(int{apps::EXIT_CLEAN}, std::string()));
   EXPECT_EQ(
       list("<Character/>"),
-      std::make_pair(int{cli::EXIT_CLEAN},
+      std::make_pair(int{apps::EXIT_CLEAN},
                      file + ":2:2: \"Character\" in \"zorvel\" is skipped: nothing of that name is read there.\n"));
   EXPECT_EQ(list("<character id='x' folder='nobody'/>"),
-            std::make_pair(int{cli::EXIT_FINDINGS}, file + ":2:2: character \"x\" left out: there is no folder " +
-                                                        root() + "/nobody/previews.\n"));
+            std::make_pair(int{apps::EXIT_FINDINGS}, file + ":2:2: character \"x\" left out: there is no folder " +
+                                                         root() + "/nobody/previews.\n"));
   EXPECT_EQ(list("<character folder='anna'><cloth><clothing id='k9'/></cloth></character>"),
-            std::make_pair(int{cli::EXIT_FINDINGS}, file + ":2:34: clothing \"k9\" left out: there is no picture " +
-                                                        root() + "/anna/previews/preview_k9.png.\n"));
+            std::make_pair(int{apps::EXIT_FINDINGS}, file + ":2:34: clothing \"k9\" left out: there is no picture " +
+                                                         root() + "/anna/previews/preview_k9.png.\n"));
 }
 
 TEST_F(CommandLine, WhatARepositorySaysSteersNoTerminal) {
@@ -114,7 +118,7 @@ TEST_F(CommandLine, BuildsTheFirstUsableChoiceCleanlyAndWritesItsFiles) {
   repository_.mend();
   const Outcome outcome = run({"create", root(), "--picture", file("a.png"), "--width", "64", "--height", "48",
                                "--gltf", file("a.glb"), "--json", file("a.json")});
-  EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
+  EXPECT_EQ(outcome.status, apps::EXIT_CLEAN) << outcome.err;
   EXPECT_THAT(outcome.out, HasSubstr("Built ZORVEL Character Anna, 5 nodes"));
   EXPECT_THAT(outcome.out, HasSubstr("material Blue"));
   EXPECT_TRUE(isWritten("a.png"));
@@ -130,7 +134,7 @@ TEST_F(CommandLine, BuildsTheFirstUsableChoiceCleanlyAndWritesItsFiles) {
 TEST_F(CommandLine, NamesTheNearestIdsAndBuildsNothingForAnUnknownOne) {
   for (const char* option : {"--character", "--cloth", "--pose", "--skin", "--style", "--asset"}) {
     const Outcome outcome = run({"create", root(), option, "p11x", "--json", file("none.json")});
-    EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+    EXPECT_EQ(outcome.status, apps::EXIT_FINDINGS);
     EXPECT_THAT(outcome.err, HasSubstr("\"p11x\""));
     EXPECT_THAT(outcome.err, testing::AnyOf(HasSubstr("nearest: "), HasSubstr("known: ")));
     EXPECT_THAT(outcome.out, Not(HasSubstr("Built")));
@@ -146,7 +150,7 @@ TEST_F(CommandLine, BuildsWithoutWhatIsMissingOrUnreadableAndSaysWhich) {
   repository_.folder().write("anna/summer/materials.mat", std::string("\0\1\2binary", 9));
   repository_.folder().write("maps/skin_d.png", "no picture");
   const Outcome outcome = run({"create", root(), "--json", file("a.json")});
-  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+  EXPECT_EQ(outcome.status, apps::EXIT_FINDINGS);
   EXPECT_THAT(outcome.out, HasSubstr("Built ZORVEL Character Anna"));
   for (const char* named :
        {"pose.vrmesh", "k1_p1.vrmesh", "summer\\materials.mat", "\"Blue\"", "skin_d.png", "oak.png"}) {
@@ -160,7 +164,7 @@ TEST_F(CommandLine, NamesWhatIsLeftOutOrBuiltBare) {
   repository_.edit(R"(name="Standing" )", "");
   repository_.edit(R"(material="Blue" preview)", "preview");
   const Outcome outcome = run({"create", root(), "--asset", "a1", "--bare"});
-  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+  EXPECT_EQ(outcome.status, apps::EXIT_FINDINGS);
   EXPECT_THAT(outcome.out, HasSubstr("bag\\asset.vrmesh  material Canvas\n"));
   EXPECT_EQ(outcome.err,
             "finding: Body (p1): left out: it has no \"name\".\n"
@@ -172,7 +176,7 @@ TEST_F(CommandLine, ChoosesAssetsByTheRulesOfClothingPoseAndCategory) {
   repository_.mend();
   const Outcome outcome =
       run({"create", root(), "--asset", "a1:a1m1", "--asset", "a3", "--asset", "a6", "--asset", "g1:g1m1"});
-  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+  EXPECT_EQ(outcome.status, apps::EXIT_FINDINGS);
   EXPECT_THAT(outcome.out, HasSubstr("material Canvas"));
   EXPECT_THAT(outcome.out, HasSubstr("bench"));
   EXPECT_THAT(outcome.err, HasSubstr("a3 left out: the clothing excludes"));
@@ -181,7 +185,7 @@ TEST_F(CommandLine, ChoosesAssetsByTheRulesOfClothingPoseAndCategory) {
 
 TEST_F(CommandLine, LeavesNothingBehindWhereAFileCannotBeWritten) {
   const Outcome outcome = run({"create", root(), "--gltf", file("none/a.glb"), "--json", file("none/a.json")});
-  EXPECT_EQ(outcome.status, cli::EXIT_FINDINGS);
+  EXPECT_EQ(outcome.status, apps::EXIT_INTERNAL);
   EXPECT_THAT(outcome.err, HasSubstr("a.glb"));
   EXPECT_THAT(outcome.err, HasSubstr("a.json"));
   EXPECT_TRUE(std::filesystem::is_empty(out_.path()));
@@ -191,21 +195,21 @@ TEST_F(CommandLine, PlacesTheGroupWhereItIsTold) {
   repository_.mend();
   const Outcome outcome =
       run({"create", root(), "--unit", "meters", "--at", "1.5,-2,0.75", "--turn", "90", "--json", file("a.json")});
-  EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
+  EXPECT_EQ(outcome.status, apps::EXIT_CLEAN) << outcome.err;
   const Json head = json("a.json")["nodes"][0];
   EXPECT_EQ(head["transform"][3], Json({1.5, -2.0, 0.75}));
   EXPECT_NEAR(head["transform"][0][1].get<double>(), 0.01, 1e-7);
   EXPECT_EQ(head["children"][0]["selected"], true);
-  EXPECT_EQ(run({"create", root(), "--at", "1,2"}).status, cli::EXIT_USAGE);
+  EXPECT_EQ(run({"create", root(), "--at", "1,2"}).status, apps::EXIT_USAGE);
 }
 
 TEST_F(CommandLine, BuildsIntoASceneThatIsThereAndTakesThePictureFromWhereItIsTold) {
   repository_.mend();
-  ASSERT_EQ(run({"create", root(), "--unit", "meters", "--json", file("one.json")}).status, cli::EXIT_CLEAN);
+  ASSERT_EQ(run({"create", root(), "--unit", "meters", "--json", file("one.json")}).status, apps::EXIT_CLEAN);
   const Outcome outcome =
       run({"create", root(), "--into", file("one.json"), "--at", "2,0,0", "--json", file("two.json"), "--picture",
            file("near.png"), "--width", "32", "--height", "32", "--eye", "0,-9,1", "--target", "0,0,1"});
-  EXPECT_EQ(outcome.status, cli::EXIT_CLEAN) << outcome.err;
+  EXPECT_EQ(outcome.status, apps::EXIT_CLEAN) << outcome.err;
   EXPECT_THAT(outcome.out, HasSubstr("Built ZORVEL Character Anna, 5 nodes"));
   const Json scene = json("two.json");
   EXPECT_EQ(scene["unit"]["type"], json("one.json")["unit"]["type"]);
@@ -217,9 +221,9 @@ TEST_F(CommandLine, BuildsIntoASceneThatIsThereAndTakesThePictureFromWhereItIsTo
   EXPECT_NE(out_.read("near.png"), out_.read("far.png"));
 
   out_.write("torn.json", R"({"format": "zorvel-scene", "version": 1, "nodes": [)");
-  EXPECT_EQ(run({"create", root(), "--into", file("torn.json")}).status, cli::EXIT_UNREADABLE);
-  EXPECT_EQ(run({"create", root(), "--into", file("one.json"), "--unit", "meters"}).status, cli::EXIT_USAGE);
-  EXPECT_EQ(run({"create", root(), "--eye", "0,0,0"}).status, cli::EXIT_USAGE);
+  EXPECT_EQ(run({"create", root(), "--into", file("torn.json")}).status, apps::EXIT_UNREADABLE);
+  EXPECT_EQ(run({"create", root(), "--into", file("one.json"), "--unit", "meters"}).status, apps::EXIT_USAGE);
+  EXPECT_EQ(run({"create", root(), "--eye", "0,0,0"}).status, apps::EXIT_USAGE);
 }
 
 TEST_F(CommandLine, GivesEveryOptionToTheCommandWhenRunAsAProgram) {

@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "apps/cli/ExitStatus.h"
+#include "apps/support/ExitStatus.h"
 #include "tests/cli/ProgramRun.h"
 #include "tests/support/SmallRepository.h"
 
@@ -21,20 +21,20 @@ TEST(ExplainCommand, TellsTheStatusOfWhatItExplains) {
   repository.writePictures();
   const std::string root = repository.folder().path().string();
   const Outcome good = run({"explain", root, "k1"});
-  EXPECT_EQ(good.status, cli::EXIT_CLEAN) << good.out;
+  EXPECT_EQ(good.status, apps::EXIT_CLEAN) << good.out;
   EXPECT_THAT(good.out, StartsWith("clothing \"k1\"\n  ok  described  " + root + "/zorvel.xml:11:"));
   EXPECT_THAT(good.out, HasSubstr("style k1m1: \"Blue\" from anna/summer/materials.mat\n"));
   EXPECT_THAT(good.out, testing::EndsWith("=> offered and built in 2 of 2 poses\n"));
   const Outcome never = run({"explain", root, "a6"});
-  EXPECT_EQ(never.status, cli::EXIT_FINDINGS);
+  EXPECT_EQ(never.status, apps::EXIT_FINDINGS);
   EXPECT_THAT(never.out, HasSubstr("NO  poses      all poses: the asset matrix has no row for it\n"));
   EXPECT_THAT(never.out, HasSubstr("[ZV409]\n      Remedy: Add a row"));
   EXPECT_THAT(never.out, testing::EndsWith("=> never offered\n"));
   const Outcome unknown = run({"explain", root, "a7"});
-  EXPECT_EQ(unknown.status, cli::EXIT_FINDINGS);
+  EXPECT_EQ(unknown.status, apps::EXIT_FINDINGS);
   EXPECT_THAT(unknown.err, StartsWith("zorvel explain: There is no element with the id \"a7\"; nearest: a1, "));
-  EXPECT_EQ(run({"explain", root + "/anna", "k1"}).status, cli::EXIT_UNREADABLE);
-  EXPECT_EQ(run({"explain", root}).status, cli::EXIT_USAGE);
+  EXPECT_EQ(run({"explain", root + "/anna", "k1"}).status, apps::EXIT_UNREADABLE);
+  EXPECT_EQ(run({"explain", root}).status, apps::EXIT_USAGE);
 }
 
 TEST(ExplainCommand, PrintsJson) {
@@ -53,7 +53,7 @@ TEST(CheckMatrix, IsOfTextJsonAndCsv) {
   std::filesystem::remove(repository.folder().path() / "anna/summer/k1_p2.vrmesh");
   const std::string root = repository.folder().path().string();
   const Outcome text = run({"check", root, "--matrix"});
-  EXPECT_EQ(text.status, cli::EXIT_FINDINGS);
+  EXPECT_EQ(text.status, apps::EXIT_FINDINGS);
   EXPECT_THAT(text.out,
               HasSubstr("\n      1  2\n  k1  .  G\n  G k1 in p2: there is no mesh anna/summer/k1_p2.vrmesh [ZV403]\n"));
   const Json json = Json::parse(run({"check", root, "--matrix", "--format", "json"}).out);
@@ -62,7 +62,7 @@ TEST(CheckMatrix, IsOfTextJsonAndCsv) {
   EXPECT_EQ(cells[1]["file"], "anna/summer/k1_p2.vrmesh");
   EXPECT_THAT(run({"check", root, "--matrix", "--format", "csv"}).out, HasSubstr(",c1,k1,p2,grey,ZV403,"));
   for (const char* format : {"sarif", "junit"}) {
-    EXPECT_EQ(run({"check", root, "--matrix", "--format", format}).status, cli::EXIT_USAGE);
+    EXPECT_EQ(run({"check", root, "--matrix", "--format", format}).status, apps::EXIT_USAGE);
   }
 }
 

@@ -12,6 +12,8 @@
 
 namespace cli {
 
+using namespace apps;
+
 using namespace ZORVEL::RepositoryFormat;
 
 namespace {

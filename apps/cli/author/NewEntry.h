@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "apps/cli/ExitStatus.h"
 #include "apps/cli/author/AddOptions.h"
 #include "apps/cli/author/Element.h"
 #include "apps/cli/author/EntryKind.h"
+#include "apps/support/ExitStatus.h"
 
 namespace cli {
 
@@ -26,7 +26,7 @@ struct NewEntry {
 
   /// One line; empty for an entry that fits.
   std::string refusal;
-  ExitStatus status = EXIT_CLEAN;
+  apps::ExitStatus status = apps::EXIT_CLEAN;
 };
 
 NewEntry planEntry(const Element& description, const AddOptions& options);

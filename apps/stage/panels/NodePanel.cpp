@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QSet>
 
+#include "apps/stage/ShownText.h"
 #include "host/application/Application.h"
 #include "host/scene/Scene.h"
 
@@ -88,7 +89,7 @@ void NodePanel::rebuild() {
 
 void NodePanel::add(const host::Node& node, QTreeWidgetItem* parent) {
   auto& shown = const_cast<host::Node&>(node);
-  auto* item = new QTreeWidgetItem(parent, {QString::fromWCharArray(shown.GetName()), kindOf(shown)});
+  auto* item = new QTreeWidgetItem(parent, {shownText(QString::fromWCharArray(shown.GetName())), kindOf(shown)});
   item->setData(0, HANDLE_ROLE, static_cast<quint64>(shown.GetHandle()));
   item->setForeground(1, QColor(150, 150, 150));
   for (const auto& child : node.children()) add(*child, item);
@@ -108,10 +109,11 @@ void NodePanel::showSelection() {
 void NodePanel::takeSelection() {
   QHash<quint64, host::Node*> byHandle;
   for (host::Node* node : scene().nodes()) byHandle.insert(node->GetHandle(), node);
-  scene().clearSelection();
+  std::vector<host::Node*> selected;
   for (const QTreeWidgetItem* item : tree_->selectedItems()) {
-    if (host::Node* node = byHandle.value(handleOf(item))) scene().select(*node, false);
+    if (host::Node* node = byHandle.value(handleOf(item))) selected.push_back(node);
   }
+  scene().select(selected);
 }
 
 }  // namespace stage

@@ -6,6 +6,7 @@
 #include "apps/stage/viewport/GroundGrid.h"
 #include "host/application/Application.h"
 #include "host/geometry/Bounds.h"
+#include "host/rays/Visibility.h"
 #include "host/scene/Scene.h"
 
 namespace stage {
@@ -50,7 +51,7 @@ void paintSelection(QPainter& painter, const host::Viewport& viewport) {
 void paintLabels(QPainter& painter, const host::Viewport& viewport, const host::RayScene& rays) {
   const host::Camera camera = viewport.camera();
   for (const host::ViewItem& item : rays.items()) {
-    if (item.label.empty() || !item.mesh) continue;
+    if (item.label.empty() || host::visibilityOf(item) != host::Visibility::Shown) continue;
     const Point3 middle = host::transformed(item.mesh->bounds, item.toWorld).Center();
     const auto place = camera.project(middle, viewport.width(), viewport.height());
     if (place) paintPlate(painter, *place, QString::fromStdWString(item.label));

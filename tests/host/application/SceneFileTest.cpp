@@ -170,6 +170,17 @@ TEST_F(SceneFile, LeavesTheSceneAloneWhenAnyPartOfTheFileIsNotReadable) {
       {replaced("\"ref\": ", "\"ref\": 99"), "reference"},
       {replaced("\"type\": \"float\"", "\"type\": \"flat\""), "parameter type"},
       {replaced("\"radius\": 12.5", "\"radius\": \"wide\""), "damaged"},
+      {replaced("\"radius\": 12.5", "\"radius\": 1e39"), "a number is out of range: 1e+39"},
+      {replaced("\"radius\": 12.5", "\"radius\": 1e999"), "a number in it is out of range"},
+      {replaced("\"scale\": 2.5", "\"scale\": null"), "unit"},
+      {replaced("\"type\": 0", "\"type\": 4294967296"), "out of range: 4294967296"},
+      {replaced("\"version\": 1", "\"version\": 4294967297"), "out of range: 4294967297"},
+      {replaced("\"version\": 1", "\"version\": 1.5"), "out of range: 1.5"},
+      {replaced("\"id\": 1,", "\"id\": 18446744073709551615,"), "out of range"},
+      {replaced("\"class\": [", "\"class\": [-1, "), "out of range: -1"},
+      {replaced("\"triangles\": [", "\"materialIds\": [65536], \"triangles\": ["), "out of range: 65536"},
+      {replaced("\"triangles\": [", "\"triangles\": [[0, 1, 4294967296],"), "out of range: 4294967296"},
+      {replaced("\"type\": \"float\",", "\"id\": 70000, \"type\": \"float\","), "out of range: 70000"},
       {replaced("\"triangles\": [", "\"triangles\": [[0, 1, 99999],"), "mesh"},
       {deep, "too deep"}};
   for (const auto& one : damaged) {

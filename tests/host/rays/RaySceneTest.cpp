@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 #include "host/rays/RayMesh.h"
+#include "host/rays/Visibility.h"
 #include "tests/host/meshes/Shapes.h"
 
 using host::RayScene;
@@ -140,6 +142,49 @@ TEST(RayScene, AnswersNothingForItemsAndRaysThatAreNone) {
   EXPECT_FALSE(scene.intersect(ray({0, 0, 5}, {0, 0, 0})));
   EXPECT_FALSE(scene.intersect(ray({0, 0, 5}, {0, 0, std::nanf("")})));
   EXPECT_EQ(scene.intersect(ray({0.1F, 0.2F, 5}, {0, 0, -1}))->item, 2U);
+}
+
+TEST(RayScene, AsksTheRayCasterOnlyForWhatItCanMeasure) {
+  const float infinite = std::numeric_limits<float>::infinity();
+  const auto diagonal = [](float x, float y, float z) { return Matrix3({x, 0, 0}, {0, y, 0}, {0, 0, z}, {0, 0, 0}); };
+  const auto moved = [](const Point3& place) {
+    Matrix3 tm(TRUE);
+    tm.SetTrans(place);
+    return tm;
+  };
+  const struct {
+    Matrix3 toWorld;
+    host::Visibility expected;
+  } cases[] = {{moved({9e9F, -9e9F, 9e9F}), host::Visibility::Shown},
+               {diagonal(1e-5F, 1e-5F, 1e-5F), host::Visibility::Shown},
+               {diagonal(1e9F, 1e-6F, -1), host::Visibility::Shown},
+               {diagonal(0, 1, 1), host::Visibility::Nothing},
+               {moved({1e19F, 0, 0}), host::Visibility::OutOfReach},
+               {moved({0, -2e10F, 0}), host::Visibility::OutOfReach},
+               {moved({0, 0, infinite}), host::Visibility::OutOfReach},
+               {moved({std::nanf(""), 0, 0}), host::Visibility::OutOfReach},
+               {diagonal(3e38F, 3e38F, 3e38F), host::Visibility::OutOfReach},
+               {diagonal(1, 1, 1e-8F), host::Visibility::OutOfReach},
+               {Matrix3({1, 0, 0}, {1, 1e-6F, 0}, {0, 0, 1}, {0, 0, 0}), host::Visibility::OutOfReach}};
+  for (const auto& one : cases) {
+    ViewItem item = squareAt({});
+    item.toWorld = one.toWorld;
+    EXPECT_EQ(host::visibilityOf(item), one.expected) << &one - cases;
+    RayScene scene;
+    scene.setItems({item, squareAt({})});
+    scene.moveItem(1, one.toWorld);
+    for (const float far : {0.0F, 9e9F, 9e10F, 1e19F, 3e38F, infinite}) {
+      for (const Point3& from : {Point3(far, 0.1F, 0.2F), Point3(0.1F, 0.1F, far)}) {
+        scene.intersect(ray(from, Point3(0.1F, 0.1F, 0) - from));
+        scene.occluded(ray(from, {0, 0, -1}), far);
+        host::intersect(sharedSquare(), ray(from, {-far, 0, -1e-30F}));
+      }
+    }
+  }
+  auto huge = std::make_shared<host::Mesh>(shapes::square());
+  huge->positions[0].x = 1e19F;
+  completeMesh(*huge);
+  EXPECT_FALSE(host::intersect(huge, ray({0, 0, 5}, {0, 0, -1})));
 }
 
 TEST(RayMesh, IsHitInItsOwnSpaceFromEitherSide) {

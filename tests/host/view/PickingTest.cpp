@@ -13,6 +13,7 @@
 #include "host/scene/LampHelper.h"
 #include "host/scene/Scene.h"
 #include "host/scene/SurroundingsObject.h"
+#include "host/services/Listener.h"
 #include "host/services/UndoStack.h"
 #include "host/view/SceneView.h"
 #include "host/view/Viewports.h"
@@ -128,6 +129,21 @@ TEST_F(Picking, FollowsMovesWithoutMakingEverythingAnew) {
   EXPECT_EQ(pick(), box);
   GetCOREInterface()->DeleteNode(box);
   EXPECT_EQ(pick(), nullptr);
+}
+
+TEST_F(Picking, NamesWhatIsOutOfReachOnceAndShowsTheRest) {
+  host::Listener& listener = Application::instance().listener();
+  listener.clear();
+  Node* near = addBox(L"near", {});
+  for (int i = 0; i < 12; ++i) addBox(L"far", {1e19F, 0, 0})->SetName((L"far " + std::to_wstring(i)).c_str());
+  EXPECT_EQ(pick(), near);
+  near->SetName(L"renamed");
+  EXPECT_EQ(pick(), near);
+  ASSERT_EQ(listener.lines().size(), 1U);
+  EXPECT_THAT(listener.lines()[0], testing::StartsWith("Not shown, because too far away"));
+  EXPECT_THAT(listener.lines()[0], testing::HasSubstr(": \"far 0\", \"far 1\", "));
+  EXPECT_THAT(listener.lines()[0], testing::EndsWith("\"far 9\" and 2 more."));
+  EXPECT_LT(sceneView().rays().bounds().Width().Length(), 300.0F);
 }
 
 TEST_F(Picking, SelectsByClicksInTheStandardMode) {
