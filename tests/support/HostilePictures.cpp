@@ -1,12 +1,17 @@
 #include "tests/support/HostilePictures.h"
 
 #include <QBuffer>
+#include <QImageWriter>
 
 namespace support {
 
 std::string encoded(const QSize& size, const char* form, QImage::Format format, const QColor& color) {
   QImage image(size, format);
-  image.fill(color);
+  if (format == QImage::Format_Mono) {
+    image.fill(color == Qt::white ? 1U : 0U);
+  } else {
+    image.fill(color);
+  }
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
@@ -27,6 +32,17 @@ std::string pngWithPackedTexts(int count) {
   const std::string chunk("\0\0\0\5zTXtk\0\0xx\0\0\0\0", 17);
   for (int i = 0; i < count; ++i) bytes.insert(behindTheHead, chunk);
   return bytes;
+}
+
+std::string progressiveJpeg(const QSize& size) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  QImageWriter writer(&buffer, "JPG");
+  writer.setProgressiveScanWrite(true);
+  writer.write(image);
+  return bytes.toStdString();
 }
 
 std::string jpegWithScans(int count) {
