@@ -16,5 +16,7 @@ std::string hugePng();
 std::string pngWithPackedTexts(int count);
 /// A small picture of so many scans, of which the first has it all.
 std::string jpegWithScans(int count);
+/// A picture of 7 by 5 pixels in the corner of a canvas.
+std::string gifOnCanvas(int width, int height);
 
 }  // namespace support
