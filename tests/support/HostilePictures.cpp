@@ -52,4 +52,13 @@ std::string jpegWithScans(int count) {
   return bytes;
 }
 
+std::string gifOnCanvas(int width, int height) {
+  std::string bytes("GIF89awwhh\x80\0\0\xFF\0\0\0\0\0,\0\0\0\0\x07\0\x05\0\0\x02\x02\x44\x01\0;", 35);
+  bytes[6] = static_cast<char>(width & 0xFF);
+  bytes[7] = static_cast<char>(width >> 8);
+  bytes[8] = static_cast<char>(height & 0xFF);
+  bytes[9] = static_cast<char>(height >> 8);
+  return bytes;
+}
+
 }  // namespace support

@@ -17,5 +17,7 @@ std::string pngWithPackedTexts(int count);
 std::string progressiveJpeg(const QSize& size);
 /// A small picture of so many scans, of which the first has it all.
 std::string jpegWithScans(int count);
+/// A picture of 7 by 5 pixels in the corner of a canvas.
+std::string gifOnCanvas(int width, int height);
 
 }  // namespace support

@@ -30,7 +30,8 @@ TEST(Texture, RefusesWhatIsNoFileNoPictureOrOutOfAllProportion) {
                {std::string("\0\0\1\0\1\0", 6), "no picture that is read"},
                {support::hugePng(), "more pixels than 8192 by 8192"},
                {support::pngWithPackedTexts(9), "too many parts"},
-               {support::jpegWithScans(201), "too many scans"}};
+               {support::jpegWithScans(201), "too many scans"},
+               {support::gifOnCanvas(20000, 9), "far larger than its picture"}};
   for (const auto& one : cases) {
     const Texture::Result result = Texture::read(folder.write("some.png", one.bytes));
     EXPECT_FALSE(result.texture);
