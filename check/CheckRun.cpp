@@ -48,6 +48,7 @@ CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& opti
       viewed_(files_),
       observed_(description_) {
   result_.root = root.string();
+  survey_.keepsOffers = options.wantsWear;
   ZORVEL::Data2::Clear();
   result_.isReadable = readDescription(options);
   ReadingRules(survey_).run();
@@ -72,7 +73,7 @@ bool CheckRun::readDescription(const CheckerOptions& options) {
     return false;
   }
   if (!ZORVEL::Parser2::ParseRepository(prefix_.c_str())) return false;
-  const std::string tooLarge = whyTooLarge();
+  const std::string tooLarge = whyTooLarge(description_, survey_.keepsOffers);
   if (!tooLarge.empty()) findings_.addAt(RuleId::DescriptionBeyondLimits, 0, 0, {tooLarge});
   return tooLarge.empty();
 }

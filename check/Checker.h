@@ -12,7 +12,7 @@ struct CheckerOptions {
   /// Where the repository will lie on the artists' machines, a Windows path: lengths are measured from there. Empty for
   /// not measured.
   std::string targetRoot;
-  /// Whether the result is to have the tables of what can be worn.
+  /// Whether the result is to have the tables of what can be worn. What each page offers is kept for that.
   bool wantsWear = false;
   /// Whether the result is to have the files that belong to the repository.
   bool wantsFiles = false;

@@ -17,7 +17,10 @@ constexpr std::size_t MOST_EXPLAINED = 100;
 }  // namespace
 
 ExplainResult explainId(const std::filesystem::path& root, const std::string& id) {
-  CheckRun run(root, {});
+  CheckerOptions options;
+  // In which poses an element is offered is asked of the pages.
+  options.wantsWear = true;
+  CheckRun run(root, options);
   ExplainResult result;
   result.root = run.result().root;
   result.id = id;
@@ -30,7 +33,8 @@ ExplainResult explainId(const std::filesystem::path& root, const std::string& id
   const Elements elements(run.survey(), id);
   const std::vector<Element>& all = elements.withId();
   const std::size_t count = std::min(all.size(), MOST_EXPLAINED);
-  for (std::size_t i = 0; i < count; ++i) result.explanations.push_back(Explainer(run).explain(all[i]));
+  Explainer explainer(run);
+  for (std::size_t i = 0; i < count; ++i) result.explanations.push_back(explainer.explain(all[i]));
   result.leftOut = all.size() - count;
   if (result.explanations.empty()) {
     for (const std::string& near : apps::nearestIds(id, elements.ids()))

@@ -140,6 +140,7 @@ void OfferRules::choose(const DataContainer& clothing) {
 }
 
 void OfferRules::notePoses(const DataContainer& clothing, const PageOffer& page) {
+  if (!survey_.keepsOffers) return;
   for (const OfferedElement& element : page.shown) {
     survey_.poseOffers.push_back({&clothing, element.record, true, element.refusal});
   }

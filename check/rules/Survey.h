@@ -78,8 +78,9 @@ struct Survey {
   std::set<const ZORVEL::XmlElement*> misread = {};
   /// Pose and asset of a character that a row of the asset matrix seems to mean and misses; empty for any.
   std::set<std::tuple<const ZORVEL::CharacterData*, std::wstring, std::wstring>> missedPairs = {};
-  /// All poses, for each clothing that has an id of its own.
-  std::vector<PoseOffer> poseOffers = {};
+  /// All poses, for each clothing that has an id of its own; empty when nobody wants to know.
+  std::deque<PoseOffer> poseOffers = {};
+  bool keepsOffers = false;
 
   const ZORVEL::XmlElement* elementOf(const ZORVEL::DataContainer* record) const {
     return findings.description().elementOf(record);
