@@ -3,6 +3,7 @@
 #include "host/files/Paths.h"
 #include "model/Data2.h"
 #include "model/RepositoryFormat.h"
+#include "repository/DescriptionLimits.h"
 
 namespace check {
 
@@ -35,6 +36,12 @@ void Description::RecordRead(const ZORVEL::DataContainer& record, const XmlEleme
   const std::size_t number = numberOf(record);
   if (elements_.size() <= number) elements_.resize(number + 1);
   elements_[number] = &element;
+}
+
+double Description::memoryLeft() const {
+  if (!document_) return 0;
+  const std::size_t budget = ZORVEL::DescriptionLimits::BudgetFor(document_->GetSize());
+  return static_cast<double>(budget) - static_cast<double>(document_->GetCost());
 }
 
 const XmlElement* Description::elementOf(const ZORVEL::DataContainer* record) const {

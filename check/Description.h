@@ -29,6 +29,8 @@ class Description : public ZORVEL::ParseObserver {
   const ZORVEL::XmlElement* parentOf(const ZORVEL::XmlElement& element) const { return element.parent; }
   /// For a person: "character[anna]/cloth/clothing[dress]". Empty for the document element.
   std::string pathOf(const ZORVEL::XmlElement& element) const;
+  /// Bytes that it may cost, less what it costs.
+  double memoryLeft() const;
   /// Without the document element.
   int elementCount() const { return document_ ? document_->GetElementCount() - 1 : 0; }
 

@@ -38,6 +38,11 @@ void noteTrouble(const fs::path& path, const std::error_code& error) {
   host::DiskTroubles::instance().note(path.string(), error);
 }
 
+/// Bytes of paths that are kept to be found at once when they are asked for again; then all are forgotten.
+constexpr std::size_t MOST_REMEMBERED = std::size_t{32} << 20U;
+/// Beside the path itself.
+constexpr std::size_t REMEMBERED_PATH = 100;
+
 bool isPassedOver(const fs::directory_entry& entry) {
   std::error_code unknown;
   return entry.path().filename().native().front() == '.' || entry.is_symlink(unknown);
@@ -225,9 +230,18 @@ void FolderIndex::ensureListed(Folder& folder) const {
   if (!folder.isListed) list(folder);
 }
 
+template <class Known>
+void FolderIndex::remember(const std::wstring& path, Known& known, std::size_t& size) {
+  size += REMEMBERED_PATH + path.size() * sizeof(wchar_t);
+  if (size <= MOST_REMEMBERED) return;
+  known.clear();
+  size = 0;
+}
+
 FolderIndex::Place FolderIndex::folderAt(const std::wstring& below) {
   const auto known = asWritten_.find(below);
   if (known != asWritten_.end()) return known->second;
+  remember(below, asWritten_, rememberedInside_);
   return asWritten_[below] = walk(below);
 }
 
@@ -258,6 +272,7 @@ DiskEntry FolderIndex::lookOutside(const std::wstring& path) {
   const DiskEntry kind = !fs::exists(status)        ? DiskEntry::Absent
                          : fs::is_directory(status) ? DiskEntry::Folder
                                                     : DiskEntry::File;
+  remember(path, outside_, rememberedOutside_);
   return outside_[path] = kind;
 }
 

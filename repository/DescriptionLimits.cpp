@@ -1,5 +1,6 @@
 #include "repository/DescriptionLimits.h"
 
+#include <algorithm>
 #include <cstring>
 #include <cwchar>
 
@@ -12,12 +13,15 @@ using namespace RepositoryFormat;
 namespace {
 
 const std::size_t MEBIBYTE = std::size_t{1} << 20;
-// Of 512 MiB, less what a program takes without any description.
-const std::size_t FREE_COST = 440 * MEBIBYTE;
-// As an ordinary description needs, whose elements have a name, a folder and the like.
-const std::size_t COST_OF_BYTE = 8;
+// Of 512 MiB, less what a program takes without any description and what the checker keeps besides.
+const std::size_t FREE_COST = 400 * MEBIBYTE;
+// More than an ordinary description needs, whose elements have a name, a folder and the like.
+const std::size_t COST_OF_BYTE = 7;
+// Beyond this size nobody expects it to be done in half a gigabyte.
+const std::size_t LARGE_FILE = 64 * MEBIBYTE;
+const std::size_t COST_OF_BYTE_BEYOND = 24;
 
-const std::size_t ANY_ELEMENT = 300;
+const std::size_t ANY_ELEMENT = 250;
 const std::size_t ANY_ATTRIBUTE = sizeof(XmlAttribute) + 24;
 
 /// What one of them takes besides.
@@ -26,6 +30,9 @@ struct Extra {
   std::size_t cost;
 };
 const Extra EXTRAS[] = {{ELEMENT_CHARACTER, 1500}, {ELEMENT_CLOTHING, 1000}, {ELEMENT_POSE, 300}};
+// Of a list that is a page of the window: all of it is described at once. Short ones come one after the other.
+const int LONG_LIST = 2000;
+const std::size_t ON_LONG_PAGE = 500;
 
 std::size_t CostOf(const XmlAttribute& attribute) {
   // Once as it was read, and once as a text of the record.
@@ -42,8 +49,7 @@ XmlOptions DescriptionLimits::Get() {
   options.longestText = 4096;
   options.longestMarkup = MEBIBYTE;
   options.costOf = &CostOf;
-  options.freeCost = FREE_COST;
-  options.costOfByte = COST_OF_BYTE;
+  options.budgetFor = &BudgetFor;
   return options;
 }
 
@@ -52,8 +58,16 @@ std::size_t DescriptionLimits::CostOf(const XmlElement& element) {
   for (const Extra& extra : EXTRAS) {
     if (std::wcscmp(extra.element, element.name) == 0) cost += extra.cost;
   }
+  const bool isLong = element.parent && element.parent->childCount > LONG_LIST;
+  if (isLong && std::wcscmp(element.name, ELEMENT_MATRIX) != 0) cost += ON_LONG_PAGE;
   for (int i = 0; i < element.attributeCount; ++i) cost += ZORVEL::CostOf(element.attributes[i]);
   return cost;
+}
+
+std::size_t DescriptionLimits::BudgetFor(std::size_t bytes) {
+  const std::size_t ordinary = COST_OF_BYTE * std::min(bytes, LARGE_FILE);
+  const std::size_t beyond = bytes > LARGE_FILE ? COST_OF_BYTE_BEYOND * (bytes - LARGE_FILE) : 0;
+  return std::max(FREE_COST, ordinary) + beyond;
 }
 
 }  // namespace ZORVEL

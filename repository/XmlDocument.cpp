@@ -144,6 +144,7 @@ class XmlTreeBuilder {
     // the handler decides.
     xmlCtxtUseOptions(m_context, XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
     xmlParseDocument(m_context);
+    m_document.m_size = m_bytesRead;
     if (m_refused) return false;
     const bool wellFormed = m_context->wellFormed && m_context->nsWellFormed && m_document.m_root && IsAtEnd();
     return wellFormed || Refuse(XmlFault::NotWellFormed, L"not well formed");
@@ -327,8 +328,8 @@ class XmlTreeBuilder {
   }
 
   void CountCost(const XmlElement& element) {
-    if (m_options.costOf) m_cost += m_options.costOf(element);
-    if (m_cost > std::max(m_options.freeCost, m_options.costOfByte * m_bytesRead)) RefuseSize(L"too large");
+    if (m_options.costOf) m_document.m_cost += m_options.costOf(element);
+    if (m_options.budgetFor && m_document.m_cost > m_options.budgetFor(m_bytesRead)) RefuseSize(L"too large");
     const std::size_t size = m_document.m_arena.GetSize();
     if (size > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead) RefuseSize(L"entities grow beyond all bounds");
   }
@@ -387,7 +388,6 @@ class XmlTreeBuilder {
   std::size_t m_bytesRead = 0;
   // Of what is being read, as far as is known.
   std::size_t m_markupBegin = 0;
-  std::size_t m_cost = 0;
   std::size_t m_growth = 0;
   int m_declarationCount = 0;
   bool m_refused = false;

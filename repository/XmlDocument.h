@@ -60,9 +60,8 @@ struct XmlOptions {
 
   /// What an element costs whoever asks for the document, in bytes; its children are not there yet. Null for nothing.
   std::size_t (*costOf)(const XmlElement& element) = nullptr;
-  /// All elements together may cost so much, or so much for each byte read, whichever is more.
-  std::size_t freeCost = SIZE_MAX;
-  std::size_t costOfByte = 0;
+  /// What all together may cost when so many bytes of the file are read. Null for anything.
+  std::size_t (*budgetFor)(std::size_t bytes) = nullptr;
 };
 
 /// Memory for things that live as long as the document and need no destructor.
@@ -109,12 +108,18 @@ class XmlDocument {
   const XmlElement& GetRoot() const;
   /// With the document element.
   int GetElementCount() const { return m_elementCount; }
+  /// Of the file, in bytes.
+  std::size_t GetSize() const { return m_size; }
+  /// Of all elements, as the options have it.
+  std::size_t GetCost() const { return m_cost; }
 
  private:
   friend class XmlTreeBuilder;
 
   XmlArena m_arena;
   int m_elementCount = 0;
+  std::size_t m_size = 0;
+  std::size_t m_cost = 0;
   const XmlElement* m_root = nullptr;
 };
 

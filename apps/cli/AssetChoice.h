@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -41,12 +42,13 @@ class AssetChoice {
   const ZORVEL::DataContainer* find(const std::string& id) const;
   static bool fits(const Wish& wish, const ZORVEL::OfferedElement& element);
   bool visit(Wish& wish, const ZORVEL::PageOffer& page) const;
-  void click(std::size_t index);
+  void click(const Wish& wish);
   void reportLost(const ZORVEL::OfferedElement& element);
 
   const ZORVEL::CharacterData& character_;
   ChoiceResult& result_;
   std::vector<Wish> wishes_;
+  std::set<const ZORVEL::DataContainer*> clickedCategories_;
   /// What pages began with.
   std::vector<ZORVEL::OfferedElement> begun_;
 };

@@ -20,6 +20,7 @@
 #include "apps/cli/author/InitCommand.h"
 #include "apps/support/ExitStatus.h"
 #include "host/files/DiskTroubles.h"
+#include "host/files/FilesRead.h"
 #include "host/files/PrintableText.h"
 #include "host/geometry/Reach.h"
 
@@ -253,7 +254,10 @@ Command addDoctor(CLI::App& app) {
 }
 
 int report(const CLI::App& app, const CLI::ParseError& error) {
-  return app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE;
+  // The help, or the version.
+  if (error.get_exit_code() == 0) return app.exit(error);
+  host::printLine(std::cerr, std::string("zorvel: ") + error.what() + " (--help says more)");
+  return EXIT_USAGE;
 }
 
 int runCommand(int argc, const char* const* argv) try {
@@ -289,6 +293,7 @@ int tellTroubles(int status) {
 
 int run(int argc, const char* const* argv) {
   const ClosedPipesAreErrors guard;
+  host::FilesRead::forget();
   const int status = tellTroubles(runCommand(argc, argv));
   const std::string error = finishStandardOutput();
   if (error.empty()) return status;

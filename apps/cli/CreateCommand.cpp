@@ -9,10 +9,14 @@
 #include "apps/cli/LabelFonts.h"
 #include "apps/cli/PlaceByClicks.h"
 #include "apps/cli/Progress.h"
+#include "apps/cli/ResultFiles.h"
 #include "apps/support/ExitStatus.h"
 #include "apps/support/LoadedRepository.h"
+#include "apps/support/OutsideFiles.h"
+#include "check/Checker.h"
 #include "host/application/Application.h"
 #include "host/application/SceneFile.h"
+#include "host/files/FilesRead.h"
 #include "host/files/Paths.h"
 #include "host/files/PictureFile.h"
 #include "host/files/PrintableText.h"
@@ -81,6 +85,9 @@ host::Camera cameraFor(const CreateOptions& options, const Box3& bounds) {
   return host::Camera::framing(bounds, static_cast<float>(options.width) / static_cast<float>(options.height));
 }
 
+/// Of the processor: several times what a picture of that size takes.
+double mostSecondsToDraw(const CreateOptions& options) { return 6.0 + 20e-6 * options.width * options.height; }
+
 std::string writePicture(const CreateOptions& options, std::vector<host::ViewItem> items) {
   const LabelFonts fonts(items);
   host::RayScene rays;
@@ -91,7 +98,10 @@ std::string writePicture(const CreateOptions& options, std::vector<host::ViewIte
   render.width = options.width;
   render.height = options.height;
   render.progress = [&progress](float done) { progress.report(done); };
-  return host::writePicture(host::render(rays, cameraFor(options, rays.bounds()), render), options.picture);
+  render.mostSeconds = mostSecondsToDraw(options);
+  const QImage picture = host::render(rays, cameraFor(options, rays.bounds()), render);
+  if (picture.isNull()) return "it takes too long to draw: too many triangles lie in one place";
+  return host::writePicture(picture, options.picture);
 }
 
 /// False when one of them could not be written.
@@ -123,6 +133,31 @@ bool prepareScene(const CreateOptions& options) {
   return error.empty();
 }
 
+ResultFiles resultsOf(const CreateOptions& options) {
+  ResultFiles results;
+  results.add("--gltf", options.gltf);
+  results.add("--json", options.json);
+  results.add("--picture", options.picture);
+  return results;
+}
+
+/// Empty when the results may be written over what is there. A scene may replace the one that it was built into.
+std::string whyTaken(const CreateOptions& options, ResultFiles::Paths files) {
+  files.push_back(options.into);
+  return resultsOf(options).whyTaken(files, "--json", options.into);
+}
+
+/// Before anything is built.
+std::string whyRefused(const CreateOptions& options) {
+  const ResultFiles results = resultsOf(options);
+  const std::string same = results.whyTheSame();
+  if (!same.empty()) return same;
+  if (!results.mayReplaceIn(options.repository)) return whyTaken(options, {});
+  check::CheckerOptions wanted;
+  wanted.wantsFiles = true;
+  return whyTaken(options, check::checkRepository(options.repository, wanted).files);
+}
+
 int build(const CreateOptions& options, Findings& findings) {
   if (!prepareScene(options)) return EXIT_UNREADABLE;
   host::Application& application = host::Application::instance();
@@ -139,6 +174,10 @@ int build(const CreateOptions& options, Findings& findings) {
   tell(report, findings);
   // Reads every mesh and texture, so that those which cannot be read are named even when no file is asked for.
   std::vector<host::ViewItem> items = host::viewItems(application.scene());
+  if (const std::string refusal = whyTaken(options, host::FilesRead::list()); !refusal.empty()) {
+    complain(refusal);
+    return EXIT_USAGE;
+  }
   const bool good = writeFiles(options, std::move(items));
   for (const std::string& line : application.listener().lines()) findings.add(line);
   return good ? EXIT_CLEAN : EXIT_INTERNAL;
@@ -147,6 +186,10 @@ int build(const CreateOptions& options, Findings& findings) {
 }  // namespace
 
 int runCreate(const CreateOptions& options) {
+  if (const std::string refusal = whyRefused(options); !refusal.empty()) {
+    complain(refusal);
+    return EXIT_USAGE;
+  }
   const apps::LoadedRepository repository(options.repository);
   if (!repository.error().empty()) {
     complain(repository.error());
@@ -159,6 +202,9 @@ int runCreate(const CreateOptions& options) {
   for (const std::string& note : choice.notes) findings.add(note);
   const int status = build(options, findings);
   for (const std::string& finding : findings.lines()) host::printLine(std::cerr, "finding: " + finding);
+  for (const std::string& note : apps::notesOnOutsideFiles(options.repository, options.into)) {
+    host::printLine(std::cerr, note);
+  }
   // The scene's objects name files of this repository; nothing of them may outlive it.
   host::Application::instance().reset();
   return status == EXIT_CLEAN && !findings.lines().empty() ? EXIT_FINDINGS : status;

@@ -7,6 +7,7 @@
 #include "apps/support/ExitStatus.h"
 #include "apps/support/LoadedRepository.h"
 #include "apps/support/ModelText.h"
+#include "apps/support/OutsideFiles.h"
 #include "apps/support/ParseNoteText.h"
 #include "host/files/Paths.h"
 #include "host/files/PrintableText.h"
@@ -227,6 +228,7 @@ int runList(const std::filesystem::path& repository, bool asJson) {
   } else {
     print(repository);
   }
+  for (const std::string& note : notesOnOutsideFiles(repository)) host::printLine(std::cerr, note);
   return reportNotes(loaded.notes(), repository) ? EXIT_CLEAN : EXIT_FINDINGS;
 }
 

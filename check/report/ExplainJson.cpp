@@ -39,6 +39,7 @@ std::string explainJson(const ExplainResult& result) {
   json["id"] = host::printable(result.id);
   json["elements"] = nlohmann::ordered_json::array();
   for (const Explanation& explanation : result.explanations) json["elements"].push_back(explanationJson(explanation));
+  if (result.leftOut > 0) json["leftOut"] = result.leftOut;
   json["nearest"] = result.nearest;
   return json.dump(2) + '\n';
 }

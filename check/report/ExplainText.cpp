@@ -60,6 +60,7 @@ std::string explainText(const ExplainResult& result) {
   for (const Explanation& explanation : result.explanations) {
     text += (text.empty() ? "" : "\n") + textOf(explanation, repository);
   }
+  if (result.leftOut > 0) text += "\n\u2026 and " + std::to_string(result.leftOut) + " more elements have this id\n";
   if (!text.empty()) return text;
   text = "There is no element with the id \"" + host::printable(result.id) + '"';
   for (std::size_t i = 0; i < result.nearest.size(); ++i) text += (i == 0 ? "; nearest: " : ", ") + result.nearest[i];

@@ -140,6 +140,7 @@ void OfferRules::choose(const DataContainer& clothing) {
 }
 
 void OfferRules::notePoses(const DataContainer& clothing, const PageOffer& page) {
+  if (!survey_.keepsOffers) return;
   for (const OfferedElement& element : page.shown) {
     survey_.poseOffers.push_back({&clothing, element.record, true, element.refusal});
   }
@@ -235,7 +236,7 @@ void OfferRules::takePicture(const PageOffer& page, const OfferedElement& elemen
   const DataContainer* record = element.style != nullptr ? element.style : element.record;
   // A pose has one for each clothing.
   if (page.kind != PageKind::Poses && !pictured_.insert(record).second) return;
-  survey_.pictures.push_back({element.picturePath, page.kind, record});
+  survey_.pictures.push_back({survey_.paths.keep(element.picturePath), page.kind, record});
 }
 
 void OfferRules::tellPictureMissing(RuleId rule, const OfferedElement& element, EntryKind kind) {

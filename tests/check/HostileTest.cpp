@@ -140,7 +140,7 @@ TEST_F(HostileRepository, MeshesAndLibrariesOfAnySizeAndShapeGiveAnAnswer) {
       {"anna/skin/skin.mat", "{" + numbered("\"k@\": 0,", 200000) + "\"k\": 0}", "ZV514"},
       {"anna/skin/skin.mat", library + repeated("[],", 1000001) + "0]}", "ZV514"},
       {"anna/skin/skin.mat", library + R"({"class": "multi", "name": ")" + std::string(200000, 'x') + "\"}]}", "ZV514"},
-      {"anna/skin/skin.mat", library + twice + "]}", "ZV512"},
+      {"anna/skin/skin.mat", library + twice + "]}", "ZV514"},
       {"anna/standing/pose.vrmesh", corners + "f" + repeated(" 1 2 3", 200000), "ZV327"},
       {"anna/standing/pose.vrmesh", corners + repeated("f" + repeated(" 1 2 3", 170) + "\n", 4000), "ZV327"},
       {"anna/standing/pose.vrmesh", "v 0 0 0\n" + repeated("v\n", 1000000), "ZV325"}};

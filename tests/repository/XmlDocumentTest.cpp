@@ -216,8 +216,7 @@ TEST_F(XmlDocumentTest, RefusesWhatIsLongOrCostsMoreThanItMay) {
   options.longestMarkup = 100000;
   options.mostNames = 5;
   options.costOf = [](const XmlElement& element) { return std::size_t{element.parent ? 100U : 0U}; };
-  options.freeCost = 1000;
-  options.costOfByte = 2;
+  options.budgetFor = [](std::size_t bytes) { return std::max<std::size_t>(1000, 2 * bytes); };
   const std::string long30(30, 'n');
   const std::string long40(40, 't');
   const struct {

@@ -8,6 +8,7 @@
 #include "apps/cli/author/NeededFiles.h"
 #include "apps/cli/author/NewEntry.h"
 #include "apps/support/ExitStatus.h"
+#include "apps/support/OutsideFiles.h"
 #include "host/files/Paths.h"
 #include "host/files/PrintableText.h"
 #include "model/RepositoryFormat.h"
@@ -81,6 +82,7 @@ int runAdd(const AddOptions& options) {
   printEntry(options, entry);
   const std::wstring root = host::toWide(fs::absolute(options.repository).lexically_normal().string());
   printFiles(options.repository, root, neededFiles(root, withAdditions(description.root(), entry.additions), entry));
+  for (const std::string& note : notesOnOutsideFiles(options.repository)) host::printLine(std::cerr, note);
   return EXIT_CLEAN;
 }
 

@@ -36,8 +36,7 @@ class Complaint : public ZORVEL::ParseObserver {
 /// What is edited is held several times over, to be compared.
 ZORVEL::XmlOptions bounds() {
   ZORVEL::XmlOptions options = ZORVEL::DescriptionLimits::Get();
-  options.freeCost = std::size_t{100} << 20U;
-  options.costOfByte = 0;
+  options.budgetFor = [](std::size_t) { return std::size_t{100} << 20U; };
   return options;
 }
 

@@ -45,6 +45,12 @@ FILETIME fileTime(const std::timespec& time) {
   return {static_cast<DWORD>(shown), static_cast<DWORD>(shown >> 32U)};
 }
 
+/// Linux also opens folders for reading, and waits for the other end of a pipe; Windows has neither.
+bool isSpecial(const std::filesystem::path& file) {
+  struct stat status {};
+  return ::stat(file.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
+}
+
 }  // namespace
 
 DWORD WINAPI GetFileAttributesW(LPCWSTR path) {
@@ -71,10 +77,8 @@ std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode) {
   const std::string narrow = openMode(mode);
   if (!path || narrow.empty()) return nullptr;
   const std::filesystem::path file = host::resolvePath(path);
-  if (narrow.front() != 'r') return std::fopen(file.c_str(), (narrow + 'e').c_str());
-  // Linux also opens folders for reading, and waits for the other end of a pipe; Windows has neither.
+  if (isSpecial(file)) return nullptr;
+  if (narrow != "rb" && narrow != "r") return std::fopen(file.c_str(), (narrow + 'e').c_str());
   host::RegularFile regular(file);
-  if (!regular.isOpen()) return nullptr;
-  if (narrow.find('+') != std::string::npos) return std::fopen(file.c_str(), (narrow + 'e').c_str());
-  return ::fdopen(regular.release(), narrow.c_str());
+  return regular.isOpen() ? ::fdopen(regular.release(), narrow.c_str()) : nullptr;
 }
