@@ -1,5 +1,6 @@
 #include "ui/PictureForm.h"
 
+#include <QImageReader>
 #include <QtEndian>
 
 namespace ZORVEL {
@@ -44,6 +45,17 @@ bool IsJpegInProportion(QIODevice& device) {
   return scans <= MOST_SCANS;
 }
 
+/// The reader makes room for the canvas at the beginning of the file, even where it says itself that the picture is
+/// smaller.
+bool IsGifInProportion(QIODevice& device) {
+  const QByteArray canvas = device.seek(6) ? device.read(4) : QByteArray();
+  device.seek(0);
+  const QSize size = QImageReader(&device, "gif").size();
+  if (canvas.size() < 4 || !size.isValid()) return true;
+  const auto* sides = reinterpret_cast<const uchar*>(canvas.constData());
+  return qFromLittleEndian<quint16>(sides) <= size.width() && qFromLittleEndian<quint16>(sides + 2) <= size.height();
+}
+
 QByteArray Tell(QIODevice& device, bool& isInProportion) {
   device.seek(0);
   const QByteArray beginning = device.read(8);
@@ -55,7 +67,10 @@ QByteArray Tell(QIODevice& device, bool& isInProportion) {
     isInProportion = IsJpegInProportion(device);
     return "jpeg";
   }
-  if (beginning.startsWith("GIF8")) return "gif";
+  if (beginning.startsWith("GIF8")) {
+    isInProportion = IsGifInProportion(device);
+    return "gif";
+  }
   return beginning.startsWith("BM") ? "bmp" : "";
 }
 

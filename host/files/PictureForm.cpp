@@ -1,6 +1,7 @@
 #include "host/files/PictureForm.h"
 
 #include <QIODevice>
+#include <QImageReader>
 #include <QtEndian>
 
 namespace host {
@@ -61,12 +62,25 @@ PictureForm jpeg(QIODevice& device) {
   return form;
 }
 
+/// The reader makes room for the canvas at the beginning of the file, even where it says itself that the picture is
+/// smaller.
+PictureForm gif(QIODevice& device) {
+  const QByteArray canvas = device.seek(6) ? device.read(4) : QByteArray();
+  device.seek(0);
+  const QSize size = QImageReader(&device, "gif").size();
+  if (canvas.size() < 4 || !size.isValid()) return {"gif", {}, false, false};
+  const int width = qFromLittleEndian<quint16>(canvas.constData());
+  const int height = qFromLittleEndian<quint16>(canvas.constData() + 2);
+  if (width > size.width() || height > size.height()) return refused("the GIF file is far larger than its picture");
+  return {"gif", {}, false, false};
+}
+
 PictureForm told(QIODevice& device) {
   device.seek(0);
   const QByteArray beginning = device.read(BEGINNING);
   if (beginning.startsWith("\x89PNG\r\n\x1A\n") && beginning.size() == BEGINNING) return png(device, beginning);
   if (beginning.startsWith("\xFF\xD8\xFF")) return jpeg(device);
-  if (beginning.startsWith("GIF8")) return {"gif", {}, false, false};
+  if (beginning.startsWith("GIF8")) return gif(device);
   if (beginning.startsWith("BM")) return {"bmp", {}, false, false};
   return refused("the file is no picture that is read (PNG, JPEG, GIF and BMP are)");
 }

@@ -1,10 +1,14 @@
 #include "host/files/TemporaryFolder.h"
 
+#include <dirent.h>
+#include <fcntl.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <mutex>
 #include <new>
 #include <set>
+#include <string_view>
 
 #include "host/files/Uninterrupted.h"
 
@@ -45,6 +49,26 @@ class Living {
   std::set<fs::path> folders_;
 };
 
+/// Without allocating anything: memory may have run out. What cannot be removed stays.
+void removeTree(int folder, const char* name) {
+  if (::unlinkat(folder, name, 0) == 0) return;
+  const int inside = ::openat(folder, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+  if (inside < 0) return;
+  alignas(dirent64) char entries[2048];
+  for (ssize_t size = 0; (size = ::getdents64(inside, entries, sizeof entries)) > 0;) {
+    for (ssize_t at = 0; at < size;) {
+      const auto* entry = reinterpret_cast<const dirent64*>(entries + at);
+      at += entry->d_reclen;
+      const std::string_view entryName = entry->d_name;
+      if (entryName != "." && entryName != "..") removeTree(inside, entry->d_name);
+    }
+  }
+  ::close(inside);
+  ::unlinkat(folder, name, AT_REMOVEDIR);
+}
+
+bool isThere(const fs::path& path) { return ::access(path.c_str(), F_OK) == 0; }
+
 fs::path makeFolder(const std::string& name) {
   std::error_code error;
   std::string pattern = (fs::temp_directory_path(error) / (name + "XXXXXX")).string();
@@ -70,9 +94,8 @@ TemporaryFolder::~TemporaryFolder() {
 void TemporaryFolder::removeAll() {
   constexpr int MOST_ATTEMPTS = 100;
   for (const fs::path& folder : Living::take()) {
-    std::error_code error;
     // What another thread writes meanwhile keeps the folder from being removed.
-    for (int i = 0; i < MOST_ATTEMPTS && fs::exists(folder, error); ++i) fs::remove_all(folder, error);
+    for (int i = 0; i < MOST_ATTEMPTS && isThere(folder); ++i) removeTree(AT_FDCWD, folder.c_str());
   }
 }
 

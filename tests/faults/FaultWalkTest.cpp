@@ -126,8 +126,9 @@ class FaultWalk : public testing::Test {
   std::string root() const { return repository_.folder().path().string(); }
 
   static void tell(const Use& use, const WalkedFault& walked, const WalkResult& result) {
-    std::cout << use.name << ": " << walked.name << ": " << result.tried << " of " << result.places
-              << " places, status";
+    std::cout << use.name << ": " << walked.name << ": " << result.tried << " of " << result.places << " places";
+    if (result.ofOthers > 0) std::cout << " (and " << result.ofOthers << " of the ray caster's own, not tried)";
+    std::cout << ", status";
     for (const auto& [status, count] : result.statuses) std::cout << ' ' << status << ": " << count;
     std::cout << std::endl;
     constexpr std::size_t SHOWN = 5;

@@ -44,6 +44,8 @@ class Walker {
     Fault counting = walked_.fault;
     undisturbed_ = subject.run(command_, counting);
     result_.places = undisturbed_.tally.calls;
+    const bool isAskedFor = (counting.kinds & (faults::MAP | faults::THREAD)) != 0;
+    if (isAskedFor) result_.ofOthers = undisturbed_.tally.ofOthers;
     if (undisturbed_.status != 0) result_.faults.push_back("undisturbed: " + undisturbed_.err);
     step_ = most == 0 ? 1 : std::max(1UL, (result_.places + most - 1) / most);
     // Not always the same ones of every step.

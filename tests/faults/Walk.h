@@ -20,6 +20,8 @@ struct WalkResult {
   /// Places where it can go wrong, and at how many of them it did.
   unsigned long places = 0;
   unsigned long tried = 0;
+  /// Calls that are told apart and not tried.
+  unsigned long ofOthers = 0;
   /// How many runs ended with each status.
   std::map<int, unsigned long> statuses;
   /// Each with the place and the last line that the program wrote.

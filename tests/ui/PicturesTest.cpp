@@ -89,6 +89,8 @@ TEST_F(Pictures, AreMeasuredWithoutBeingDecoded) {
                 "it is not a picture (PNG, JPEG, GIF or BMP)"},
                {support::pngWithPackedTexts(9), QSize(), "it holds too much besides its pixels"},
                {support::jpegWithScans(201), QSize(), "it holds too much besides its pixels"},
+               {support::gifOnCanvas(100, 90), QSize(100, 90), ""},
+               {support::gifOnCanvas(20000, 90), QSize(), "it holds too much besides its pixels"},
                {hugePng(), QSize(), "it is too large (20000 x 20000 pixels)"}};
   for (const auto& one : cases) {
     QByteArray bytes = QByteArray::fromStdString(one.bytes);

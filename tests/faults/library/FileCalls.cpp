@@ -309,10 +309,12 @@ STANDS_IN(dirent64*, readdir64, DIR* folder) {
 }
 
 STANDS_IN(void*, mmap, void* wanted, std::size_t size, int protection, int flags, int descriptor, off_t offset) {
-  if (faults::decide(faults::MAP, nullptr) != Fate::Normal) return failing(faults::MAP, MAP_FAILED);
+  if (faults::isOwn(__builtin_return_address(0)) && faults::decide(faults::MAP, nullptr) != Fate::Normal)
+    return failing(faults::MAP, MAP_FAILED);
   return (*real_mmap)(wanted, size, protection, flags, descriptor, offset);
 }
 STANDS_IN(void*, mmap64, void* wanted, std::size_t size, int protection, int flags, int descriptor, off64_t offset) {
-  if (faults::decide(faults::MAP, nullptr) != Fate::Normal) return failing(faults::MAP, MAP_FAILED);
+  if (faults::isOwn(__builtin_return_address(0)) && faults::decide(faults::MAP, nullptr) != Fate::Normal)
+    return failing(faults::MAP, MAP_FAILED);
   return (*real_mmap64)(wanted, size, protection, flags, descriptor, offset);
 }
