@@ -245,7 +245,6 @@ FolderIndex::Place FolderIndex::folderAt(const std::wstring& below) {
   return asWritten_[below] = walk(below);
 }
 
-
 FolderIndex::Place FolderIndex::walk(std::wstring_view below) {
   std::vector<Folder*> way = {top_.get()};
   while (!below.empty()) {

@@ -8,8 +8,8 @@ namespace ZORVEL {
 
 class DataContainer;
 
-/// Finds records of a long list, and their children, by unique id. It is made when it is first asked for, and anew after
-/// any list of records has changed; then records that have no id yet get one, in the order of the list.
+/// Finds records of a long list, and their children, by unique id. It is made when it is first asked for, and anew
+/// after any list of records has changed; then records that have no id yet get one, in the order of the list.
 class UniqueIndex {
  public:
   struct Entry {

@@ -48,8 +48,8 @@ void nest(const CompleteRepository& repository, int count) {
 }
 
 void useEntities(const CompleteRepository& repository, int count) {
-  repository.edit("<zorvel>", "<!DOCTYPE zorvel [<!ENTITY e '" + std::string(1000, 'x') + "'>]><zorvel>" +
-                                  repeated("&e;", count));
+  repository.edit("<zorvel>",
+                  "<!DOCTYPE zorvel [<!ENTITY e '" + std::string(1000, 'x') + "'>]><zorvel>" + repeated("&e;", count));
 }
 
 void nameDifferently(const CompleteRepository& repository, int count) {
@@ -101,9 +101,9 @@ void addMaterials(const CompleteRepository& repository, int count) {
 }
 
 void addStyles(const CompleteRepository& repository, int count) {
-  repository.edit("<material id=\"red\"",
-                  numbered("<material id='m@' name='M' preview='red.png' material='Red'/>", count) +
-                      "<material id=\"red\"");
+  repository.edit(
+      "<material id=\"red\"",
+      numbered("<material id='m@' name='M' preview='red.png' material='Red'/>", count) + "<material id=\"red\"");
 }
 
 void addSkins(const CompleteRepository& repository, int count) {
@@ -172,7 +172,8 @@ void addInstances(const CompleteRepository& repository, int count) {
   const std::string positions = "AAAAAAAAAAAAAAAAAAAAAAAAyEIAAAAAAADIQgAAAAA=";  // three corners
   repository.write(
       "anna/standing/pose.vrmesh",
-      glbOf(R"({"asset": {"version": "2.0"}, "buffers": [{"byteLength": 36, "uri": "data:application/octet-stream;base64,)" +
+      glbOf(
+          R"({"asset": {"version": "2.0"}, "buffers": [{"byteLength": 36, "uri": "data:application/octet-stream;base64,)" +
           positions + R"("}], "bufferViews": [{"buffer": 0, "byteLength": 36}], "accessors": [{"bufferView": 0,
  "componentType": 5126, "count": 3, "type": "VEC3", "min": [0, 0, 0], "max": [0, 100, 100]}],
  "meshes": [{"primitives": [{"attributes": {"POSITION": 0}}]}], "scenes": [{"nodes": [0)" +
@@ -181,9 +182,8 @@ void addInstances(const CompleteRepository& repository, int count) {
 }
 
 void addValues(const CompleteRepository& repository, int count) {
-  repository.write("anna/skin/skin.mat",
-                   R"({"format": "zorvel-material-library", "version": 1, "materials": [)" + repeated("{}, ", count) +
-                       "{}]}");
+  repository.write("anna/skin/skin.mat", R"({"format": "zorvel-material-library", "version": 1, "materials": [)" +
+                                             repeated("{}, ", count) + "{}]}");
 }
 
 }  // namespace

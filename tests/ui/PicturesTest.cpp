@@ -82,13 +82,13 @@ TEST_F(Pictures, AreMeasuredWithoutBeingDecoded) {
                {good.substr(0, good.size() / 2), QSize(110, 330), ""},
                {encoded(QSize(8192, 8192), "PNG", QImage::Format_Mono), QSize(8192, 8192), ""},
                {support::pngWithPackedTexts(4), QSize(7, 5), ""},
-               {support::jpegWithScans(20), QSize(7, 5), ""},
+               {support::progressiveJpeg(0), QSize(7, 5), ""},
                {"no picture at all\n", QSize(), "it is not a picture (PNG, JPEG, GIF or BMP)"},
                {encoded(QSize(9, 9), "PPM"), QSize(), "it is not a picture (PNG, JPEG, GIF or BMP)"},
                {"<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>", QSize(),
                 "it is not a picture (PNG, JPEG, GIF or BMP)"},
                {support::pngWithPackedTexts(9), QSize(), "it holds too much besides its pixels"},
-               {support::jpegWithScans(201), QSize(), "it holds too much besides its pixels"},
+               {support::progressiveJpeg(200), QSize(), "it holds too much besides its pixels"},
                {hugePng(), QSize(), "it is too large (20000 x 20000 pixels)"}};
   for (const auto& one : cases) {
     QByteArray bytes = QByteArray::fromStdString(one.bytes);
