@@ -21,7 +21,7 @@ namespace host {
 namespace {
 
 /// Each piece of a build reads its libraries anew; those of a stranger may be large, and many.
-constexpr std::size_t MOST_LIBRARY_BYTES = std::size_t{512} << 20U;
+constexpr std::size_t MOST_LIBRARY_BYTES = std::size_t{128} << 20U;
 
 Application& application() { return Application::instance(); }
 

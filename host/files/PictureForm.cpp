@@ -3,6 +3,7 @@
 #include <QIODevice>
 #include <QImageReader>
 #include <QtEndian>
+#include <algorithm>
 
 namespace host {
 
@@ -37,7 +38,7 @@ PictureForm png(QIODevice& device, const QByteArray& beginning) {
   for (int chunk = 0; chunk < MOST_CHUNKS && packed <= MOST_PACKED_TEXTS; ++chunk) {
     const QByteArray header = device.seek(at) ? device.read(8) : QByteArray();
     if (header.size() < 8 || header.endsWith("IEND")) {
-      return {"png", {}, shrinksWhileReading(beginning), false};
+      return {"png", {}, shrinksWhileReading(beginning), 0};
     }
     if (mayBePacked(header.mid(4))) ++packed;
     at += qint64{qFromBigEndian<quint32>(header.constData())} + 12;
@@ -45,21 +46,38 @@ PictureForm png(QIODevice& device, const QByteArray& beginning) {
   return refused("the PNG file has too many parts beside its picture");
 }
 
-/// Markers stand alone behind an FF, which is followed by a zero where it is none.
+/// From the header of a progressive JPEG, behind its marker: numbers of two bytes each for every channel.
+double coefficientBytes(const QByteArray& header) {
+  double all = 0;
+  int densest = 1;
+  for (int channel = 0; channel < 4 && channel < header.at(7); ++channel) {
+    const auto sampling = static_cast<unsigned char>(header.at(9 + 3 * channel));
+    const int density = (sampling >> 4) * (sampling & 15);
+    densest = std::max(densest, density);
+    all += density;
+  }
+  return 2 * all / densest;
+}
+
+/// Markers stand behind an FF, which is followed by a zero where it is none.
 PictureForm jpeg(QIODevice& device) {
-  PictureForm form{"jpeg", {}, true, false};
+  constexpr qint64 block = 1 << 16;
+  constexpr qint64 header = 21;
   int scans = 0;
+  qint64 progressiveAt = -1;
   bool isMarker = false;
   device.seek(0);
-  for (QByteArray block = device.read(1 << 16); !block.isEmpty(); block = device.read(1 << 16)) {
-    for (const char byte : block) {
-      if (isMarker && byte == '\xC2') form.isProgressive = true;
-      if (isMarker && byte == '\xDA') ++scans;
-      isMarker = byte == '\xFF';
+  for (QByteArray bytes = device.read(block); !bytes.isEmpty(); bytes = device.read(block)) {
+    const qint64 begin = device.pos() - bytes.size();
+    for (int i = 0; i < bytes.size(); ++i) {
+      if (isMarker && bytes.at(i) == '\xC2') progressiveAt = begin + i + 1;
+      if (isMarker && bytes.at(i) == '\xDA') ++scans;
+      isMarker = bytes.at(i) == '\xFF';
     }
     if (scans > MOST_SCANS) return refused("the JPEG file has too many scans");
   }
-  return form;
+  if (progressiveAt < 0 || !device.seek(progressiveAt)) return {"jpeg", {}, true, 0};
+  return {"jpeg", {}, true, coefficientBytes(device.read(header).leftJustified(header, '\0'))};
 }
 
 /// The reader makes room for the canvas at the beginning of the file, even where it says itself that the picture is
@@ -68,11 +86,11 @@ PictureForm gif(QIODevice& device) {
   const QByteArray canvas = device.seek(6) ? device.read(4) : QByteArray();
   device.seek(0);
   const QSize size = QImageReader(&device, "gif").size();
-  if (canvas.size() < 4 || !size.isValid()) return {"gif", {}, false, false};
+  if (canvas.size() < 4 || !size.isValid()) return {"gif", {}, false, 0};
   const int width = qFromLittleEndian<quint16>(canvas.constData());
   const int height = qFromLittleEndian<quint16>(canvas.constData() + 2);
   if (width > size.width() || height > size.height()) return refused("the GIF file is far larger than its picture");
-  return {"gif", {}, false, false};
+  return {"gif", {}, false, 0};
 }
 
 PictureForm told(QIODevice& device) {
@@ -81,7 +99,7 @@ PictureForm told(QIODevice& device) {
   if (beginning.startsWith("\x89PNG\r\n\x1A\n") && beginning.size() == BEGINNING) return png(device, beginning);
   if (beginning.startsWith("\xFF\xD8\xFF")) return jpeg(device);
   if (beginning.startsWith("GIF8")) return gif(device);
-  if (beginning.startsWith("BM")) return {"bmp", {}, false, false};
+  if (beginning.startsWith("BM")) return {"bmp", {}, false, 0};
   return refused("the file is no picture that is read (PNG, JPEG, GIF and BMP are)");
 }
 

@@ -13,10 +13,11 @@ struct PictureForm {
   QByteArray name;
   /// Why it is not read, in one line.
   std::string problem;
-  /// Whether its reader makes a smaller picture without making the whole one first.
+  /// Whether its reader makes a smaller picture without making the whole one first; JPEG by 2, 4 or 8.
   bool shrinksWhileReading = false;
-  /// Whether its reader keeps all that the picture is made from until the end.
-  bool isProgressive = false;
+  /// What its reader keeps until the end besides the picture, in bytes for each pixel: of progressive JPEG all that the
+  /// picture is made from.
+  double bytesKept = 0;
 };
 
 /// Tells PNG, JPEG, GIF and BMP by their content, whatever the file is called; others are not read, so that no other

@@ -56,13 +56,25 @@ QSize shrunk(const QSize& size, int factor) {
 
 /// What decoding takes at a time, besides what is kept.
 std::size_t bytesToDecode(const QImageReader& reader, const PictureForm& form, int shrinking) {
-  constexpr std::size_t coefficients = 6;
   const QImage::Format format = reader.imageFormat();
   const std::size_t bits = format == QImage::Format_Invalid ? 32 : QImage::toPixelFormat(format).bitsPerPixel();
   const std::size_t whole = pixelsOf(reader.size());
-  const std::size_t kept = form.isProgressive ? coefficients * whole : 0;
-  if (shrinking == 1 && bits == 32) return kept;
-  return kept + (form.shrinksWhileReading ? pixelsOf(shrunk(reader.size(), shrinking)) * 16 : whole * bits / 8);
+  const auto besides = static_cast<std::size_t>(form.bytesKept * static_cast<double>(whole));
+  const bool isDirect = shrinking == 1 ? bits == 32 : form.shrinksWhileReading;
+  return isDirect ? besides : besides + whole * bits / 8;
+}
+
+/// A factor of at least `shrinking` that the reader can apply, larger where that is what it takes to decode the picture
+/// at all; 0 where nothing helps.
+int possibleShrinking(const QImageReader& reader, const PictureForm& form, int shrinking) {
+  const bool byHalves = form.name == "jpeg";
+  int factor = 1;
+  while (factor < shrinking) factor = byHalves ? 2 * factor : factor + 1;
+  for (int tries = 0; tries < 4; ++tries, factor *= 2) {
+    const std::size_t kept = pixelsOf(shrunk(reader.size(), factor)) * sizeof(QRgb);
+    if (TextureRoom::instance().mayUse(kept + bytesToDecode(reader, form, factor))) return factor;
+  }
+  return 0;
 }
 
 /// Strip by strip: Qt would make a whole picture of 32 bits first, whatever this one has. Null for a picture that is.
@@ -89,10 +101,11 @@ QImage decoded(QImageReader& reader, const PictureForm& form, int shrinking) {
 
 Texture::Result decode(QImageReader& reader, const PictureForm& form, const std::filesystem::path& file) {
   TextureRoom& room = TextureRoom::instance();
-  const int shrinking = room.shrinkingOf(reader.size());
+  const int shrinking = possibleShrinking(reader, form, room.shrinkingOf(reader.size()));
+  if (shrinking == 0) return {nullptr, "it takes too much memory to decode the picture", true};
   const Room::Share pixels = room.decoded().take(pixelsOf(reader.size()));
   const Room::Share bytes = room.kept().take(pixelsOf(shrunk(reader.size(), shrinking)) * sizeof(QRgb));
-  if (pixels == nullptr || bytes == nullptr || !room.mayUse(bytesToDecode(reader, form, shrinking))) {
+  if (pixels == nullptr || bytes == nullptr) {
     return {nullptr, "the scene has no room for it: its textures are too large together", true};
   }
   const QImage picture = decoded(reader, form, shrinking);

@@ -34,22 +34,17 @@ std::string pngWithPackedTexts(int count) {
   return bytes;
 }
 
-std::string progressiveJpeg(const QSize& size) {
-  QImage image(size, QImage::Format_RGB32);
-  image.fill(Qt::red);
+std::string progressiveJpeg(int moreScans) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
-  QImageWriter writer(&buffer, "JPG");
+  QImageWriter writer(&buffer, "jpeg");
   writer.setProgressiveScanWrite(true);
+  QImage image({7, 5}, QImage::Format_RGB32);
+  image.fill(Qt::black);
   writer.write(image);
+  const QByteArray scan("\xFF\xDA\0\x08\x01\x01\0\0\x3F\0", 10);
+  for (int i = 0; i < moreScans; ++i) bytes.insert(bytes.size() - 2, scan);
   return bytes.toStdString();
-}
-
-std::string jpegWithScans(int count) {
-  std::string bytes = encoded({7, 5}, "JPG");
-  const std::string scan("\xFF\xDA\0\x08\x01\x01\0\0\x3F\0", 10);
-  for (int i = 1; i < count; ++i) bytes.insert(bytes.size() - 2, scan);
-  return bytes;
 }
 
 std::string gifOnCanvas(int width, int height) {

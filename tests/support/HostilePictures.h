@@ -14,9 +14,8 @@ std::string encoded(const QSize& size, const char* form, QImage::Format format =
 std::string hugePng();
 /// A small picture with so many chunks that may unpack to far more than they are.
 std::string pngWithPackedTexts(int count);
-std::string progressiveJpeg(const QSize& size);
-/// A small picture of so many scans, of which the first has it all.
-std::string jpegWithScans(int count);
+/// A small picture of ten scans that have it all, and more that have nothing.
+std::string progressiveJpeg(int moreScans);
 /// A picture of 7 by 5 pixels in the corner of a canvas.
 std::string gifOnCanvas(int width, int height);
 
