@@ -22,7 +22,9 @@ const std::size_t LARGE_FILE = 64 * MEBIBYTE;
 const std::size_t COST_OF_BYTE_BEYOND = 24;
 
 const std::size_t ANY_ELEMENT = 250;
-const std::size_t ANY_ATTRIBUTE = sizeof(XmlAttribute) + 24;
+const std::size_t ANY_FIELD = 24;
+// A row of the asset matrix, of which there may be one for each asset in each pose. It has no record of its own.
+const std::size_t ANY_ROW = 330;
 
 /// What one of them takes besides.
 struct Extra {
@@ -34,9 +36,20 @@ const Extra EXTRAS[] = {{ELEMENT_CHARACTER, 1500}, {ELEMENT_CLOTHING, 1000}, {EL
 const int LONG_LIST = 2000;
 const std::size_t ON_LONG_PAGE = 500;
 
-std::size_t CostOf(const XmlAttribute& attribute) {
-  // Once as it was read, and once as a text of the record.
-  return ANY_ATTRIBUTE + (std::strlen(attribute.text) + 1) * (1 + sizeof(wchar_t));
+std::size_t CostOf(const XmlAttribute& attribute) { return sizeof(attribute) + std::strlen(attribute.text) + 1; }
+
+std::size_t CostOfField(const XmlAttribute& attribute) {
+  return CostOf(attribute) + ANY_FIELD + (std::strlen(attribute.text) + 1) * sizeof(wchar_t);
+}
+
+/// It keeps its ids as texts, and of the others the numbers.
+std::size_t CostOfRow(const XmlElement& row) {
+  std::size_t cost = ANY_ROW;
+  for (int i = 0; i < row.attributeCount; ++i) cost += ZORVEL::CostOf(row.attributes[i]);
+  for (const wchar_t* id : {FIELD_POSE_ID, FIELD_MATRIX_ASSET_ID}) {
+    if (const XmlAttribute* attribute = row.FindAttribute(id)) cost += CostOfField(*attribute);
+  }
+  return cost;
 }
 
 }  // namespace
@@ -54,13 +67,14 @@ XmlOptions DescriptionLimits::Get() {
 }
 
 std::size_t DescriptionLimits::CostOf(const XmlElement& element) {
+  if (std::wcscmp(element.name, ELEMENT_MATRIX) == 0) return CostOfRow(element);
   std::size_t cost = ANY_ELEMENT;
   for (const Extra& extra : EXTRAS) {
     if (std::wcscmp(extra.element, element.name) == 0) cost += extra.cost;
   }
   const bool isLong = element.parent && element.parent->childCount > LONG_LIST;
-  if (isLong && std::wcscmp(element.name, ELEMENT_MATRIX) != 0) cost += ON_LONG_PAGE;
-  for (int i = 0; i < element.attributeCount; ++i) cost += ZORVEL::CostOf(element.attributes[i]);
+  if (isLong) cost += ON_LONG_PAGE;
+  for (int i = 0; i < element.attributeCount; ++i) cost += CostOfField(element.attributes[i]);
   return cost;
 }
 

@@ -2,6 +2,7 @@
 
 #include <units.h>
 
+#include <algorithm>
 #include <iostream>
 #include <set>
 
@@ -147,6 +148,12 @@ std::string whyTaken(const CreateOptions& options, ResultFiles::Paths files) {
   return resultsOf(options).whyTaken(files, "--json", options.into);
 }
 
+/// That is how preview pictures are made. Whether it is a texture that is drawn shows when it has been read.
+bool mayBeRemade(const std::filesystem::path& file, const std::filesystem::path& picture) {
+  std::error_code error;
+  return file.extension() == ".png" && std::filesystem::equivalent(file, picture, error);
+}
+
 /// Before anything is built.
 std::string whyRefused(const CreateOptions& options) {
   const ResultFiles results = resultsOf(options);
@@ -155,7 +162,12 @@ std::string whyRefused(const CreateOptions& options) {
   if (!results.mayReplaceIn(options.repository)) return whyTaken(options, {});
   check::CheckerOptions wanted;
   wanted.wantsFiles = true;
-  return whyTaken(options, check::checkRepository(options.repository, wanted).files);
+  ResultFiles::Paths files = check::checkRepository(options.repository, wanted).files;
+  // The checker looks into more than is needed to build.
+  host::FilesRead::forget();
+  const auto isRemade = [&options](const std::filesystem::path& file) { return mayBeRemade(file, options.picture); };
+  files.erase(std::remove_if(files.begin(), files.end(), isRemade), files.end());
+  return whyTaken(options, std::move(files));
 }
 
 int build(const CreateOptions& options, Findings& findings) {

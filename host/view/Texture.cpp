@@ -65,12 +65,13 @@ std::size_t bytesToDecode(const QImageReader& reader, const PictureForm& form, i
   return kept + (form.shrinksWhileReading ? pixelsOf(shrunk(reader.size(), shrinking)) * 16 : whole * bits / 8);
 }
 
-/// Strip by strip: Qt would make a whole picture of 32 bits first, whatever this one has.
+/// Strip by strip: Qt would make a whole picture of 32 bits first, whatever this one has. Null for a picture that is.
 QImage shrunkWhole(const QImage& picture, const QSize& size, int factor) {
-  QImage result(size, QImage::Format_RGB32);
+  QImage result(picture.isNull() ? QSize() : size, QImage::Format_RGB32);
   for (int y = 0; y < size.height() && !result.isNull(); ++y) {
     const QImage strip = picture.copy(0, y * factor, picture.width(), factor).convertToFormat(QImage::Format_RGB32);
     const QImage line = strip.scaled(size.width(), 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (line.isNull()) return line;
     const auto* from = reinterpret_cast<const QRgb*>(line.constScanLine(0));
     std::copy_n(from, size.width(), reinterpret_cast<QRgb*>(result.scanLine(y)));
   }

@@ -53,8 +53,8 @@ class StageWindow : public support::StageFixture {
 };
 
 TEST_F(StageWindow, NamesAndMessagesAreShownAsOneLineOfPlainText) {
-  const std::wstring evil = L"<b>x</b>[*]\nforged\u202e";
-  const QString shown = "<b>x</b>[*]\\x0aforged\\u202e";
+  const std::wstring evil = L"<b>x<i>[*]\nforged\u202e";
+  const QString shown = "<b>x<i>[*]\\x0aforged\\u202e";
   scene().nodes().front()->SetName(evil.c_str());
   Application::instance().listener().report(host::toUtf8(evil));
   const std::filesystem::path file = folder_.path() / host::toUtf8(evil + L".json");
@@ -70,7 +70,7 @@ TEST_F(StageWindow, NamesAndMessagesAreShownAsOneLineOfPlainText) {
   EXPECT_FALSE(tree->findItems(shown, Qt::MatchExactly | Qt::MatchRecursive).isEmpty());
   EXPECT_TRUE(window().files().save(file));
   settle();
-  EXPECT_THAT(window().windowTitle().toStdString(), testing::StartsWith("<b>x</b>[*][*]\\x0aforged\\u202e.json"));
+  EXPECT_THAT(window().windowTitle().toStdString(), testing::StartsWith("<b>x<i>[*][*]\\x0aforged\\u202e.json"));
 }
 
 /// One command that counts its calls.
