@@ -7,6 +7,7 @@
 #include <cmath>
 #include <iostream>
 #include <map>
+#include <stdexcept>
 
 #include "apps/cli/CheckCommand.h"
 #include "apps/cli/CreateCommand.h"
@@ -260,6 +261,13 @@ int report(const CLI::App& app, const CLI::ParseError& error) {
   return EXIT_USAGE;
 }
 
+int failInternally(const std::exception& error) {
+  host::printLine(std::cerr, std::string("zorvel: internal error: ") + error.what());
+  return EXIT_INTERNAL;
+}
+
+/// Memory that has run out is not caught: libraries that are left by that exception may keep a lock for ever, or crash
+/// when they are cleaned up. The program ends where it is thrown (apps::startProgram).
 int runCommand(int argc, const char* const* argv) try {
   CLI::App app("zorvel: makes, checks, lists, builds and previews character repositories");
   app.footer(EXIT_TEXT);
@@ -277,9 +285,10 @@ int runCommand(int argc, const char* const* argv) try {
     if (command.app->parsed()) return command.run();
   }
   return EXIT_USAGE;
-} catch (const std::exception& error) {
-  host::printLine(std::cerr, std::string("zorvel: internal error: ") + error.what());
-  return EXIT_INTERNAL;
+} catch (const std::runtime_error& error) {
+  return failInternally(error);
+} catch (const std::logic_error& error) {
+  return failInternally(error);
 }
 
 /// What the disk gave no answer to looks in every command as if it were not there. Nothing is clean then.

@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <exception>
 #include <iostream>
 
 #include "apps/guide/WindowDriver.h"
@@ -7,7 +6,6 @@
 #include "apps/stage/Stage.h"
 #include "apps/support/ProgramStart.h"
 #include "apps/support/RuntimeFolder.h"
-#include "host/files/PrintableText.h"
 
 namespace {
 
@@ -69,7 +67,7 @@ void takeFine(guide::WindowDriver& driver) {
 
 }  // namespace
 
-int main(int argc, char** argv) try {
+int main(int argc, char** argv) {
   apps::startProgram("zorvel-guide-pictures");
   if (argc < 3) {
     std::cerr << USAGE;
@@ -91,7 +89,4 @@ int main(int argc, char** argv) try {
   guide::WindowDriver driver(stage.window(), argv[2]);
   argc > 3 ? takeFine(driver) : takeAll(driver);
   return 0;
-} catch (const std::exception& error) {
-  host::printLine(std::cerr, std::string("zorvel-guide-pictures: ") + error.what());
-  return 1;
 }

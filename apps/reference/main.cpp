@@ -1,4 +1,3 @@
-#include <exception>
 #include <iostream>
 
 #include "apps/reference/Documents.h"
@@ -6,7 +5,7 @@
 #include "host/files/PrintableText.h"
 #include "host/files/WholeFile.h"
 
-int main(int argc, char** argv) try {
+int main(int argc, char** argv) {
   apps::startProgram("zorvel-reference");
   if (argc != 2) {
     std::cerr
@@ -20,7 +19,4 @@ int main(int argc, char** argv) try {
     return 1;
   }
   return 0;
-} catch (const std::exception& error) {
-  host::printLine(std::cerr, std::string("zorvel-reference: ") + error.what());
-  return 1;
 }

@@ -1,15 +1,12 @@
 #include <QApplication>
-#include <exception>
-#include <iostream>
 
 #include "apps/stage/DarkTheme.h"
 #include "apps/stage/Stage.h"
 #include "apps/support/ExitStatus.h"
 #include "apps/support/ProgramStart.h"
 #include "apps/support/RuntimeFolder.h"
-#include "host/files/PrintableText.h"
 
-int main(int argc, char** argv) try {
+int main(int argc, char** argv) {
   apps::startProgram("zorvel-stage");
   // Help and mistakes need no display.
   const stage::ParsedOptions parsed = stage::parseOptions(argc, argv);
@@ -25,7 +22,4 @@ int main(int argc, char** argv) try {
   stage::applyDarkTheme(application);
   stage::Stage run(*parsed.options);
   return run.run();
-} catch (const std::exception& error) {
-  host::printLine(std::cerr, std::string("zorvel-stage: internal error: ") + error.what());
-  return apps::EXIT_INTERNAL;
 }

@@ -13,6 +13,7 @@
 #include <new>
 
 #include "apps/support/ExitStatus.h"
+#include "host/files/PrintableText.h"
 #include "host/files/SignalWatch.h"
 #include "host/files/TemporaryFolder.h"
 
@@ -58,7 +59,7 @@ void removeTemporaryFolders() {
   } catch (const std::bad_alloc&) {
     endWithoutMemory();
   } catch (const std::exception& error) {
-    end(error.what());
+    end(host::printable(error.what()).c_str());
   } catch (...) {
   }
   end("an exception of an unknown kind");

@@ -130,6 +130,8 @@ class FaultWalk : public testing::Test {
     if (result.ofOthers > 0) std::cout << " (and " << result.ofOthers << " of the ray caster's own, not tried)";
     std::cout << ", status";
     for (const auto& [status, count] : result.statuses) std::cout << ' ' << status << ": " << count;
+    for (const auto& [library, count] : result.othersWithoutMemory)
+      std::cout << ", ended in " << library << ": " << count;
     std::cout << std::endl;
     constexpr std::size_t SHOWN = 5;
     for (std::size_t i = 0; i < std::min(SHOWN, result.faults.size()); ++i) {

@@ -20,6 +20,8 @@ namespace {
 
 /// A run takes a fraction of a second; this is far beyond that on a busy machine, and still no wait for ever.
 constexpr std::chrono::seconds TIME_LIMIT{60};
+/// Where it waits, see faults::Tally.
+constexpr std::chrono::milliseconds TIME_TO_TELL{200};
 
 std::string contentOf(const fs::path& file) {
   std::ostringstream content;
@@ -48,6 +50,8 @@ int waitFor(pid_t process, bool& isInTime) {
   while (::waitpid(process, &status, WNOHANG) == 0) {
     if (isInTime && std::chrono::steady_clock::now() > end) {
       isInTime = false;
+      ::kill(process, SIGUSR2);
+      std::this_thread::sleep_for(TIME_TO_TELL);
       ::kill(process, SIGKILL);
     }
     std::this_thread::sleep_for(pause);

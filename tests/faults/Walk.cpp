@@ -69,6 +69,12 @@ class Walker {
     }
   }
 
+  bool isOfOthersWithoutMemory(const Ending& ending) const {
+    const std::string place = ending.tally.place;
+    const bool isOurs = place.empty() || place.find("zorvel") != std::string::npos || place == "fault-window";
+    return walked_.fault.kinds == faults::MEMORY && (ending.signal != 0 || !ending.isInTime) && !isOurs;
+  }
+
   void judge(unsigned long place, const Ending& ending) {
     const std::string fault = walked_.fault.action == "signal"
                                   ? faultOfEnded(ending, undisturbed_, walked_.fault.signal, strictness_)
@@ -76,7 +82,9 @@ class Walker {
     const std::lock_guard<std::mutex> lock(mutex_);
     ++result_.tried;
     ++result_.statuses[ending.signal != 0 ? 128 + ending.signal : ending.status];
-    if (!fault.empty()) {
+    if (!fault.empty() && isOfOthersWithoutMemory(ending)) {
+      ++result_.othersWithoutMemory[ending.tally.place];
+    } else if (!fault.empty()) {
       result_.faults.push_back("place " + std::to_string(place) + ": " + fault + " (status " +
                                std::to_string(ending.status) + "): " + lastLine(ending.err));
     }

@@ -22,6 +22,9 @@ struct WalkResult {
   unsigned long tried = 0;
   /// Calls that are told apart and not tried.
   unsigned long ofOthers = 0;
+  /// Crashes and waits for ever in libraries that were refused memory, by their names: those check for it nowhere, and
+  /// nothing here can.
+  std::map<std::string, unsigned long> othersWithoutMemory;
   /// How many runs ended with each status.
   std::map<int, unsigned long> statuses;
   /// Each with the place and the last line that the program wrote.

@@ -180,6 +180,11 @@ bool isOwn(const void* caller) {
   return false;
 }
 
+void tellPlace(const char* library) {
+  const char* slash = std::strrchr(library, '/');
+  std::strncpy(plan.tally->place, slash != nullptr ? slash + 1 : library, sizeof plan.tally->place - 1);
+}
+
 void noteOpened(int descriptor, const char* path) {
   if (descriptor >= 0 && static_cast<std::size_t>(descriptor) < MOST_DESCRIPTORS) {
     counted[descriptor] = begun && path != nullptr && isBelow(path);

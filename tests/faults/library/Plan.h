@@ -29,6 +29,8 @@ struct Tally {
   unsigned long ofKind[KIND_COUNT];
   /// Calls that are told apart, see isOwn.
   unsigned long ofOthers;
+  /// Where it crashed, or was when it was asked with SIGUSR2: the innermost library that is not the C library.
+  char place[256];
 };
 
 /// Whether calls count: since main has begun, and not in the library itself.
@@ -54,6 +56,8 @@ void drop();
 
 /// The whole path, in `buffer` where it is made from a folder's descriptor.
 const char* wholePath(int folder, const char* path, char (&buffer)[4096]);
+
+void tellPlace(const char* library);
 
 /// Writes a line for whoever watches: what is done, and on what.
 void watch(char what, const char* path);

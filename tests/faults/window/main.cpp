@@ -2,7 +2,6 @@
 // place, undo, redo, save. What the listener says goes to standard error.
 #include <QApplication>
 #include <algorithm>
-#include <exception>
 #include <iostream>
 
 #include "apps/guide/WindowDriver.h"
@@ -61,14 +60,11 @@ int use(const std::filesystem::path& repository, const std::filesystem::path& mo
 
 }  // namespace
 
-int main(int argc, char** argv) try {
+int main(int argc, char** argv) {
   apps::startProgram("fault-window");
   if (argc != 4) return apps::EXIT_USAGE;
   qputenv("QT_LOGGING_RULES", "default.warning=false");
   const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   return use(argv[1], argv[2], argv[3]);
-} catch (const std::exception& error) {
-  std::cerr << "fault-window: internal error: " << error.what() << '\n';
-  return apps::EXIT_INTERNAL;
 }
