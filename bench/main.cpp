@@ -3,8 +3,10 @@
 #include <QApplication>
 
 #include "bench/BenchStore.h"
+#include "host/files/SignalWatch.h"
 
 int main(int argc, char** argv) {
+  host::watchSignals();
   // No display is needed, and none would be as fast as another.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_LOGGING_RULES", "*.warning=false");

@@ -1,16 +1,19 @@
 #include "check/CheckRun.h"
 
 #include "apps/support/ModelText.h"
+#include "check/JudgementFile.h"
 #include "check/Workload.h"
 #include "check/rules/BuildRules.h"
 #include "check/rules/FileRules.h"
 #include "check/rules/FolderRules.h"
 #include "check/rules/IdRules.h"
 #include "check/rules/MatrixRules.h"
+#include "check/rules/NamedFiles.h"
 #include "check/rules/OfferRules.h"
 #include "check/rules/ReadingRules.h"
 #include "check/rules/ReferenceRules.h"
 #include "core/Settings.h"
+#include "host/files/Paths.h"
 #include "model/Data2.h"
 #include "model/RepositoryPaths.h"
 #include "repository/Parser2.h"
@@ -45,6 +48,7 @@ CheckRun::CheckRun(const std::filesystem::path& root, const CheckerOptions& opti
       viewed_(files_),
       observed_(description_) {
   result_.root = root.string();
+  survey_.keepsOffers = options.wantsWear;
   ZORVEL::Data2::Clear();
   result_.isReadable = readDescription(options);
   ReadingRules(survey_).run();
@@ -69,9 +73,17 @@ bool CheckRun::readDescription(const CheckerOptions& options) {
     return false;
   }
   if (!ZORVEL::Parser2::ParseRepository(prefix_.c_str())) return false;
-  const std::string tooLarge = whyTooLarge();
+  const std::string tooLarge = whyTooLarge(description_, survey_.keepsOffers);
   if (!tooLarge.empty()) findings_.addAt(RuleId::DescriptionBeyondLimits, 0, 0, {tooLarge});
   return tooLarge.empty();
+}
+
+std::vector<std::filesystem::path> CheckRun::files() {
+  if (result_.isReadable) NamedFiles(survey_).refer();
+  std::vector<std::filesystem::path> files = {host::resolvePath(ZORVEL::RepositoryPaths::Description(prefix_)),
+                                              std::filesystem::path(result_.root) / JUDGEMENT_FILE};
+  for (const std::wstring& file : files_.askedFor()) files.push_back(files_.nativePath(prefix_ + file));
+  return files;
 }
 
 CheckRun::Store::~Store() { ZORVEL::Data2::Clear(); }

@@ -22,6 +22,8 @@ class CheckRun {
   /// What was found is in the result, no longer in the survey.
   CheckResult& result() { return result_; }
   Survey& survey() { return survey_; }
+  /// See CheckResult.
+  std::vector<std::filesystem::path> files();
   MaterialLibraryIndex& libraries() { return contents_.libraries(); }
 
  private:

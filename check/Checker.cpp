@@ -10,6 +10,7 @@ CheckResult checkRepository(const std::filesystem::path& root, const CheckerOpti
   // One that is refused for its size may have too many to be shown.
   if (options.wantsWear && run.result().isReadable)
     run.result().wear = WearTables(run.survey(), run.result().findings).make();
+  if (options.wantsFiles) run.result().files = run.files();
   return std::move(run.result());
 }
 

@@ -12,8 +12,10 @@ struct CheckerOptions {
   /// Where the repository will lie on the artists' machines, a Windows path: lengths are measured from there. Empty for
   /// not measured.
   std::string targetRoot;
-  /// Whether the result is to have the tables of what can be worn.
+  /// Whether the result is to have the tables of what can be worn. What each page offers is kept for that.
   bool wantsWear = false;
+  /// Whether the result is to have the files that belong to the repository.
+  bool wantsFiles = false;
   /// Told from 0 to 1 how far it is; may be empty.
   std::function<void(double done)> progress;
 };

@@ -12,17 +12,19 @@
 
 #include "check/ParallelWork.h"
 #include "host/files/RegularFile.h"
+#include "host/formats/MaterialLibraryFile.h"
 #include "host/meshes/GltfMeshReader.h"
 #include "host/meshes/MeshFile.h"
 #include "host/meshes/ObjMeshReader.h"
+#include "ui/PictureForm.h"
 #include "ui/PictureReader.h"
 
 namespace check {
 
 namespace {
 
-/// More than this nobody sensible puts into one file; to read it would take long and say little.
-constexpr std::size_t LARGEST_FILE = std::size_t{64} << 20U;
+/// A picture of 8192 by 8192 pixels, each another one, is a file about as large.
+constexpr std::size_t LARGEST_PICTURE = std::size_t{256} << 20U;
 /// Enough to tell one form from another.
 constexpr std::size_t BEGINNING = 4096;
 /// What costs a share about as much as a single byte does.
@@ -66,6 +68,8 @@ class Taken {
 struct Place {
   const std::string& path;
   Room& room;
+  /// Of a larger one only the beginning is read.
+  std::size_t most;
 };
 
 struct Bytes {
@@ -87,10 +91,10 @@ Bytes readFile(const Place& place, const Judge& wantsAll) {
     bytes.text.resize(BEGINNING);
     return bytes;
   }
-  if (bytes.isOpened && !file.isAtEnd() && file.size() <= LARGEST_FILE) {
+  if (bytes.isOpened && !file.isAtEnd() && file.size() <= place.most) {
     bytes.taken = std::make_unique<Taken>(place.room, file.size());
     bytes.text.reserve(static_cast<std::size_t>(file.size()) + 1);
-    bytes.isOpened = file.readUpTo(LARGEST_FILE + 1, bytes.text);
+    bytes.isOpened = file.readUpTo(place.most + 1, bytes.text);
   }
   bytes.isWhole = file.isAtEnd();
   return bytes;
@@ -99,7 +103,8 @@ Bytes readFile(const Place& place, const Judge& wantsAll) {
 bool isText(std::string_view bytes) { return bytes.find('\0') == std::string_view::npos; }
 
 const char* const NOT_OPENED = "it cannot be opened";
-const char* const TOO_LARGE = "it has more than 64 MiB";
+
+std::string tooLarge(const Place& file) { return "it has more than " + std::to_string(file.most >> 20U) + " MiB"; }
 
 /// A picture whose end is missing is shown in part or not at all. Of PNG, which nearly all are, the last of its chunks
 /// tells; others are read.
@@ -107,7 +112,8 @@ bool isCutOff(const std::string& bytes, const QByteArray& format) {
   if (format != "png") {
     QBuffer buffer;
     buffer.setData(bytes.data(), static_cast<int>(bytes.size()));
-    QImageReader reader(&buffer);
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false);
     return reader.read().isNull();
   }
   const std::string end("IEND\xAE\x42\x60\x82", 8);
@@ -117,16 +123,16 @@ bool isCutOff(const std::string& bytes, const QByteArray& format) {
 void look(const Place& file, PictureContent& picture) {
   const Bytes bytes = readFile(file, [](std::string_view) { return true; });
   picture.form = bytes.isOpened ? Form::Damaged : Form::Unreadable;
-  picture.problem = bytes.isOpened ? TOO_LARGE : NOT_OPENED;
+  picture.problem = bytes.isOpened ? tooLarge(file) : NOT_OPENED;
   if (!bytes.isWhole) return;
   QBuffer buffer;
   buffer.setData(bytes.text.data(), static_cast<int>(bytes.text.size()));
   buffer.open(QIODevice::ReadOnly);
   QString problem;
   picture.size = ZORVEL::PictureReader::Measure(buffer, problem);
-  buffer.seek(0);
   const bool isSmall = picture.size.width() <= MOST_DECODED / std::max(1, picture.size.height());
-  if (problem.isEmpty() && isSmall && isCutOff(bytes.text, QImageReader::imageFormat(&buffer))) {
+  QString ignored;
+  if (problem.isEmpty() && isSmall && isCutOff(bytes.text, ZORVEL::PictureForm::Of(buffer, ignored))) {
     problem = QStringLiteral("it is damaged or cut off");
   }
   picture.problem = problem.toStdString();
@@ -144,7 +150,7 @@ void look(const Place& file, MeshContent& mesh) {
   if (!isOpen && !isText(bytes.text)) {
     mesh.form = Form::Closed;
   } else if (isOpen && !bytes.isWhole) {
-    mesh.problem = TOO_LARGE;
+    mesh.problem = tooLarge(file);
   } else {
     const host::MeshResult result = host::readMesh(bytes.text);
     mesh.problem = result.error;
@@ -163,7 +169,7 @@ void look(const Place& file, LibraryContent& library) {
   if (!isText(bytes.text)) {
     library.form = Form::Closed;
   } else if (!bytes.isWhole) {
-    library.problem = TOO_LARGE;
+    library.problem = tooLarge(file);
   } else {
     library.form = Form::Open;
     library.text = std::move(bytes.text);
@@ -173,9 +179,9 @@ void look(const Place& file, LibraryContent& library) {
 using Job = std::function<void()>;
 
 template <class Wanted>
-void addJobs(Wanted& wanted, Room& room, std::vector<Job>& jobs) {
+void addJobs(Wanted& wanted, Room& room, std::size_t most, std::vector<Job>& jobs) {
   for (auto& entry : wanted) {
-    jobs.push_back([&one = entry.second, &room] { look(Place{one.place, room}, one.content); });
+    jobs.push_back([&one = entry.second, &room, most] { look(Place{one.place, room, most}, one.content); });
   }
 }
 
@@ -189,9 +195,9 @@ const LibraryContent* Contents::library(const std::wstring& path) const {
 void Contents::read(const std::function<void(std::size_t, std::size_t)>& progress) {
   std::vector<Job> jobs;
   Room room;
-  addJobs(pictures_, room, jobs);
-  addJobs(meshes_, room, jobs);
-  addJobs(libraries_, room, jobs);
+  addJobs(pictures_, room, LARGEST_PICTURE, jobs);
+  addJobs(meshes_, room, host::LARGEST_MESH_FILE, jobs);
+  addJobs(libraries_, room, host::LARGEST_LIBRARY, jobs);
   ParallelWork<Job>([](const Job& job, std::vector<Job>&) { job(); }, progress).run(std::move(jobs));
 }
 

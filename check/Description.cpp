@@ -1,7 +1,9 @@
 #include "check/Description.h"
 
 #include "host/files/Paths.h"
+#include "model/Data2.h"
 #include "model/RepositoryFormat.h"
+#include "repository/DescriptionLimits.h"
 
 namespace check {
 
@@ -10,39 +12,42 @@ using ZORVEL::XmlElement;
 namespace {
 
 std::string stepTo(const XmlElement& element) {
-  const wchar_t* id = element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID);
+  const ZORVEL::XmlAttribute* id = element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID);
   std::string step = host::toUtf8(element.name);
-  if (id != nullptr) step += '[' + host::toUtf8(id) + ']';
+  if (id != nullptr) step += std::string("[") + id->text + ']';
   return step;
+}
+
+/// Each record has got its own while it was read; unique ids go up by ten.
+std::size_t numberOf(const ZORVEL::DataContainer& record) {
+  return static_cast<std::size_t>(ZORVEL::Data2::GetUnique(&record)) / 10;
 }
 
 }  // namespace
 
-void Description::DocumentRead(const std::shared_ptr<const ZORVEL::XmlDocument>& document) {
-  document_ = document;
-  std::vector<const XmlElement*> waiting = {&document->GetRoot()};
-  while (!waiting.empty()) {
-    const XmlElement* parent = waiting.back();
-    waiting.pop_back();
-    for (const XmlElement* child = parent->firstChild; child != nullptr; child = child->nextSibling) {
-      parents_.emplace(child, parent);
-      if (child->firstChild != nullptr) waiting.push_back(child);
-    }
-  }
+void Description::Noted(const ZORVEL::ParseNote& note) {
+  notes_.push_back(note);
+  if (note.kind != ZORVEL::ParseNoteKind::ClothingWithoutPreview) return;
+  const XmlElement* list = note.source->parent;
+  if (list != nullptr) charactersWithout_.insert(list->parent);
 }
 
 void Description::RecordRead(const ZORVEL::DataContainer& record, const XmlElement& element) {
-  elements_[&record] = &element;
+  const std::size_t number = numberOf(record);
+  if (elements_.size() <= number) elements_.resize(number + 1);
+  elements_[number] = &element;
+}
+
+double Description::memoryLeft() const {
+  if (!document_) return 0;
+  const std::size_t budget = ZORVEL::DescriptionLimits::BudgetFor(document_->GetSize());
+  return static_cast<double>(budget) - static_cast<double>(document_->GetCost());
 }
 
 const XmlElement* Description::elementOf(const ZORVEL::DataContainer* record) const {
-  const auto found = elements_.find(record);
-  return found != elements_.end() ? found->second : nullptr;
-}
-
-const XmlElement* Description::parentOf(const XmlElement& element) const {
-  const auto found = parents_.find(&element);
-  return found != parents_.end() ? found->second : nullptr;
+  if (record == nullptr) return nullptr;
+  const std::size_t number = numberOf(*record);
+  return number < elements_.size() ? elements_[number] : nullptr;
 }
 
 std::string Description::pathOf(const XmlElement& element) const {

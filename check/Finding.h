@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,9 @@ struct CheckResult {
   std::vector<Finding> findings;
   /// Of each character, when they were asked for.
   std::vector<WearTable> wear;
+  /// The description, all that it names and what that names in turn, as far as they are there; when they were asked
+  /// for.
+  std::vector<std::filesystem::path> files;
   /// False when there is no description that could be read: the one finding says why.
   bool isReadable = true;
   int characterCount = 0;

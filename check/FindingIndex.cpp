@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "check/Findings.h"
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -21,7 +21,7 @@ const Finding* FindingIndex::find(const ZORVEL::XmlElement* element, RuleId rule
 
 const Finding* FindingIndex::find(const ZORVEL::XmlElement* element, RuleId rule, const std::string& subject) const {
   // As it was cut when it was taken in.
-  const std::string wanted = printable(Value(subject).text());
+  const std::string wanted = host::printable(Value(subject).text());
   const std::vector<const Finding*>& here = at(element);
   const auto found = std::find_if(here.begin(), here.end(),
                                   [&](const Finding* one) { return one->rule == rule && one->subject == wanted; });

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "check/PrintableText.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -16,6 +16,8 @@ const char* const DESCRIPTION = "zorvel.xml";
 constexpr std::size_t LONGEST_QUOTE = 1000;
 /// Nobody reads more findings of one rule; how many more there are is told.
 constexpr int MOST_OF_A_RULE = 10'000;
+/// Of all findings together; reports take as much again and more.
+constexpr std::size_t MOST_MEMORY = std::size_t{24} << 20U;
 
 bool goesOn(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80; }
 
@@ -38,6 +40,25 @@ std::string filledIn(const std::string& sentence, const std::vector<Value>& valu
     at = sentence.find('}', open) + 1;
   }
   return text;
+}
+
+/// Whether other rules want to know if this was told of an element.
+bool isAskedFor(RuleId rule) {
+  switch (rule) {
+    case RuleId::AssetIdDuplicate:
+    case RuleId::FolderEmpty:
+    case RuleId::FolderOutside:
+    case RuleId::GlobalReferencedTwice:
+    case RuleId::GlobalWithoutType:
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::size_t sizeOf(const Finding& finding) {
+  return sizeof(finding) + finding.file.size() + finding.element.size() + finding.subject.size() +
+         finding.message.size();
 }
 
 /// What a finding says that the element lacks; empty for one that says something else.
@@ -105,15 +126,18 @@ Finding Findings::at(RuleId rule, const XmlElement* element) const {
 }
 
 void Findings::add(RuleId rule, const XmlElement* element, std::vector<Value> values) {
-  if (element != nullptr) told_.emplace(rule, element);
+  if (element != nullptr && isAskedFor(rule)) told_.emplace(rule, element);
+  if (isFull(rule)) return;
   insert(at(rule, element), values, element);
 }
 
 void Findings::addMisspelt(RuleId rule, const XmlElement& element, const std::wstring& meant,
                            std::vector<Value> values) {
+  if (isFull(rule)) return;
   if (++counts_[rule].misspellings > MOST_OF_A_RULE) return insert(at(rule, &element), values);
   Misspelling misspelling = {host::toUtf8(meant), values.front().text(), at(rule, &element)};
   fillIn(misspelling.finding, values);
+  memory_ += sizeOf(misspelling.finding);
   misspellings_[&element].push_back(std::move(misspelling));
 }
 
@@ -124,7 +148,7 @@ void Findings::takeMisspelling(Finding& finding, const XmlElement* element) {
   for (Misspelling& one : known->second) {
     if (one.meant != missingAttribute(finding)) continue;
     one.isTold = true;
-    finding.message += printable("; \"" + one.attribute + "\" is written \"" + one.meant + '"');
+    finding.message += host::printable("; \"" + one.attribute + "\" is written \"" + one.meant + '"');
   }
 }
 
@@ -138,14 +162,14 @@ void Findings::addAt(RuleId rule, int line, int column, std::vector<Value> value
   finding.file = DESCRIPTION;
   finding.line = line;
   finding.column = column;
-  insert(std::move(finding), values);
+  if (!isFull(rule)) insert(std::move(finding), values);
 }
 
 void Findings::addToFile(RuleId rule, const std::string& file, std::vector<Value> values) {
   Finding finding;
   finding.rule = rule;
   finding.file = file;
-  insert(std::move(finding), values);
+  if (!isFull(rule)) insert(std::move(finding), values);
 }
 
 bool Findings::has(RuleId rule, const ZORVEL::DataContainer* record) const {
@@ -166,26 +190,31 @@ bool Findings::hasOtherThanHints() const {
 void Findings::fillIn(Finding& finding, const std::vector<Value>& values) {
   const Rule& rule = ruleOf(finding.rule);
   finding.severity = rule.severity;
-  finding.file = printable(shortened(std::move(finding.file)));
-  finding.element = printable(shortened(std::move(finding.element)));
-  if (!values.empty()) finding.subject = printable(values.front().text());
-  finding.message = printable(filledIn(rule.sentence, values));
+  finding.file = host::printable(shortened(std::move(finding.file)));
+  finding.element = host::printable(shortened(std::move(finding.element)));
+  if (!values.empty()) finding.subject = host::printable(values.front().text());
+  finding.message = host::printable(filledIn(rule.sentence, values));
 }
 
 void Findings::insert(Finding finding, const std::vector<Value>& values, const XmlElement* element) {
-  Counts& counts = counts_[finding.rule];
-  if (counts.taken == MOST_OF_A_RULE) {
-    ++counts.leftOut;
-    return;
-  }
   fillIn(finding, values);
   takeMisspelling(finding, element);
   keep(std::move(finding));
 }
 
+bool Findings::isFull(RuleId rule) {
+  Counts& counts = counts_[rule];
+  const bool isFull = counts.taken >= MOST_OF_A_RULE || (counts.taken > 0 && memory_ > MOST_MEMORY);
+  if (isFull) ++counts.leftOut;
+  return isFull;
+}
+
 void Findings::keep(Finding finding) {
   Counts& counts = counts_[finding.rule];
-  if (findings_.insert(std::move(finding)).second) ++counts.taken;
+  const auto [kept, isNew] = findings_.insert(std::move(finding));
+  if (!isNew) return;
+  ++counts.taken;
+  memory_ += sizeOf(*kept);
 }
 
 void Findings::tellLeftOut(RuleId rule, int count) {

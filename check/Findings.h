@@ -27,8 +27,8 @@ class Value {
   std::string text_;
 };
 
-/// Takes in what is found. The same thing is taken in once, and of one rule at most ten thousand; how many more there
-/// are is told at the end.
+/// Takes in what is found. The same thing is taken in once, and of one rule at most ten thousand, and of all together
+/// as much as a report can hold; how many more there are is told at the end.
 class Findings {
  public:
   explicit Findings(const Description& description) : description_(description) {}
@@ -75,12 +75,15 @@ class Findings {
   static void fillIn(Finding& finding, const std::vector<Value>& values);
   void insert(Finding finding, const std::vector<Value>& values, const ZORVEL::XmlElement* element = nullptr);
   void keep(Finding finding);
+  /// Whether there are as many findings of the rule as will be, or as much of all; then this one counts as left out.
+  bool isFull(RuleId rule);
   void takeMisspelling(Finding& finding, const ZORVEL::XmlElement* element);
   void tellLeftOut(RuleId rule, int count);
 
   const Description& description_;
   std::set<Finding, InOrder> findings_;
   std::map<RuleId, Counts> counts_;
+  std::size_t memory_ = 0;
   std::map<const ZORVEL::XmlElement*, std::vector<Misspelling>> misspellings_;
   std::set<std::pair<RuleId, const ZORVEL::XmlElement*>> told_;
 };

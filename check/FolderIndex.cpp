@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "check/ParallelWork.h"
+#include "host/files/DiskTroubles.h"
 #include "host/files/NameCase.h"
 #include "host/files/Paths.h"
 
@@ -33,6 +34,15 @@ struct FolderIndex::Folder {
 
 namespace {
 
+void noteTrouble(const fs::path& path, const std::error_code& error) {
+  host::DiskTroubles::instance().note(path.string(), error);
+}
+
+/// Bytes of paths that are kept to be found at once when they are asked for again; then all are forgotten.
+constexpr std::size_t MOST_REMEMBERED = std::size_t{32} << 20U;
+/// Beside the path itself.
+constexpr std::size_t REMEMBERED_PATH = 100;
+
 bool isPassedOver(const fs::directory_entry& entry) {
   std::error_code unknown;
   return entry.path().filename().native().front() == '.' || entry.is_symlink(unknown);
@@ -53,8 +63,10 @@ std::wstring_view nextName(std::wstring_view& rest) {
 bool leadsOut(const fs::path& path, const fs::path& folder) {
   std::error_code error;
   const fs::path target = fs::canonical(path, error);
+  noteTrouble(path, error);
   if (error) return false;
   const fs::path around = fs::canonical(folder, error);
+  noteTrouble(folder, error);
   return !error && std::mismatch(around.begin(), around.end(), target.begin(), target.end()).first != around.end();
 }
 
@@ -87,13 +99,19 @@ void FolderIndex::add(const fs::directory_entry& entry, Folder& folder) const {
   const std::wstring name = host::toWide(entry.path().filename().string());
   std::error_code unknown;
   const bool isLink = entry.is_symlink(unknown);
+  noteTrouble(entry.path(), unknown);
   // A link that leads nowhere is nothing.
-  if (isLink && !entry.exists(unknown)) return;
+  const bool isThere = !isLink || entry.exists(unknown);
+  noteTrouble(entry.path(), unknown);
+  if (!isThere) return;
   Entry& added = folder.entries[name];
   added.isLinkOut = isLink && leadsOut(entry.path(), root_);
   if (added.isLinkOut) return;
-  if (!entry.is_directory(unknown)) {
+  const bool isFolder = entry.is_directory(unknown);
+  noteTrouble(entry.path(), unknown);
+  if (!isFolder) {
     added.file.isRegular = entry.is_regular_file(unknown);
+    noteTrouble(entry.path(), unknown);
     return;
   }
   added.folder = std::make_unique<Folder>();
@@ -212,9 +230,18 @@ void FolderIndex::ensureListed(Folder& folder) const {
   if (!folder.isListed) list(folder);
 }
 
+template <class Known>
+void FolderIndex::remember(const std::wstring& path, Known& known, std::size_t& size) {
+  size += REMEMBERED_PATH + path.size() * sizeof(wchar_t);
+  if (size <= MOST_REMEMBERED) return;
+  known.clear();
+  size = 0;
+}
+
 FolderIndex::Place FolderIndex::folderAt(const std::wstring& below) {
   const auto known = asWritten_.find(below);
   if (known != asWritten_.end()) return known->second;
+  remember(below, asWritten_, rememberedInside_);
   return asWritten_[below] = walk(below);
 }
 
@@ -241,9 +268,11 @@ DiskEntry FolderIndex::lookOutside(const std::wstring& path) {
   if (known != outside_.end()) return known->second;
   std::error_code unknown;
   const fs::file_status status = fs::status(host::resolvePath(path), unknown);
+  noteTrouble(host::nativePath(path), unknown);
   const DiskEntry kind = !fs::exists(status)        ? DiskEntry::Absent
                          : fs::is_directory(status) ? DiskEntry::Folder
                                                     : DiskEntry::File;
+  remember(path, outside_, rememberedOutside_);
   return outside_[path] = kind;
 }
 

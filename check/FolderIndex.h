@@ -104,6 +104,9 @@ class FolderIndex : public ZORVEL::DiskView {
   Place folderAt(const std::wstring& below);
   Place walk(std::wstring_view below);
   ZORVEL::DiskEntry lookOutside(const std::wstring& path);
+  /// Makes room for it in `known`, whose paths take `size` bytes.
+  template <class Known>
+  static void remember(const std::wstring& path, Known& known, std::size_t& size);
   void forEachFolder(const std::function<void(const Folder&)>& visit) const;
   static bool addUnreferenced(const Folder& folder, std::vector<std::pair<std::string, int>>& result);
 
@@ -112,6 +115,8 @@ class FolderIndex : public ZORVEL::DiskView {
   std::unique_ptr<Folder> top_;
   std::unordered_map<std::wstring, Place> asWritten_;
   std::unordered_map<std::wstring, ZORVEL::DiskEntry> outside_;
+  std::size_t rememberedInside_ = 0;
+  std::size_t rememberedOutside_ = 0;
   std::set<CaseDifference> caseDifferences_;
   std::map<std::string, std::string> linksOut_;
   std::vector<std::wstring> askedFor_;

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "apps/support/NearestIds.h"
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -14,7 +14,7 @@ using Severities = std::map<std::string, std::optional<Severity>>;
 const Severities SEVERITIES = {
     {"error", Severity::Error}, {"hint", Severity::Hint}, {"off", std::nullopt}, {"warning", Severity::Warning}};
 
-std::string quotedSafely(const std::string& text) { return '"' + printable(text) + '"'; }
+std::string quotedSafely(const std::string& text) { return '"' + host::printable(text) + '"'; }
 
 std::string lowerCase(std::string text) {
   for (char& c : text) {

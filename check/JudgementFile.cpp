@@ -7,8 +7,8 @@
 
 #include "apps/support/NearestIds.h"
 #include "check/FolderIndex.h"
-#include "check/PrintableText.h"
 #include "host/files/JsonBounds.h"
+#include "host/files/PrintableText.h"
 #include "host/files/RegularFile.h"
 
 namespace check {
@@ -22,7 +22,7 @@ using Take = std::function<std::string(const std::string&)>;
 constexpr std::uintmax_t MOST_JUDGEMENT_BYTES = 1 << 20;
 
 std::string at(const std::string& key, const std::string& error) {
-  return error.empty() ? error : printable(key) + ": " + error;
+  return error.empty() ? error : host::printable(key) + ": " + error;
 }
 
 std::string takeText(const std::string& key, const Json& value, const Take& take) {
@@ -111,7 +111,7 @@ std::string readJudgement(const std::filesystem::path& repository, Judgement& ju
   std::string text;
   std::string error = leadsOut(file, repository) ? "leads out of the repository" : read(file, text);
   if (error.empty()) error = takeFile(text, judgement);
-  return error.empty() ? error : printable(file.string()) + ": " + error;
+  return error.empty() ? error : host::printable(file.string()) + ": " + error;
 }
 
 }  // namespace check

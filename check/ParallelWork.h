@@ -8,10 +8,12 @@
 #include <exception>
 #include <functional>
 #include <mutex>
-#include <system_error>
+#include <new>
 #include <thread>
 #include <utility>
 #include <vector>
+
+#include "host/services/Threads.h"
 
 namespace check {
 
@@ -27,7 +29,8 @@ class ParallelWork {
 
   ParallelWork(Work work, Progress progress) : work_(std::move(work)), progress_(std::move(progress)) {}
 
-  /// Returns when all is done. What the work throws comes out here, once.
+  /// Returns when all is done. What the work throws comes out here, once, unless memory has run out, which ends the
+  /// program.
   void run(std::vector<Item> items) {
     waiting_ = std::move(items);
     known_ = waiting_.size();
@@ -48,11 +51,7 @@ class ParallelWork {
 
   /// As many as the machine allows, where it allows fewer.
   void startThreads(std::size_t count) {
-    try {
-      while (threads_.size() < count && !isRefused_) threads_.emplace_back([this] { workOn(); });
-    } catch (const std::system_error&) {
-      isRefused_ = true;
-    }
+    if (!isRefused_) isRefused_ = !host::startThreads(threads_, count, [this] { workOn(); });
   }
 
   void watch() {
@@ -87,10 +86,14 @@ class ParallelWork {
     }
   }
 
+  /// Who runs out of memory ends here: a library that was left by an exception may keep its locks for ever, and the
+  /// others would wait for it.
   std::exception_ptr doOne(Item item, std::vector<Item>& more) const {
     try {
       work_(std::move(item), more);
       return nullptr;
+    } catch (const std::bad_alloc&) {
+      std::terminate();
     } catch (...) {
       return std::current_exception();
     }

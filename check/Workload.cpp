@@ -1,7 +1,11 @@
 #include "check/Workload.h"
 
+#include <algorithm>
+
 #include "apps/support/ModelText.h"
 #include "model/CharacterData.h"
+#include "model/Fields.h"
+#include "model/RepositoryFormat.h"
 
 namespace check {
 
@@ -9,6 +13,10 @@ namespace {
 
 /// Of one character, each of which is kept until the character is done.
 constexpr double MOST_PAIRS = 400'000;
+/// Bytes for one, beside the path of the file that it lacks.
+constexpr double PAIR_MEMORY = 200;
+/// Bytes that may be taken even where the description is as large as it may be.
+constexpr double FREE_MEMORY = 50'000'000;
 /// Of all characters; a few million take a second.
 constexpr double MOST_STEPS = 20'000'000;
 /// A comparison or a move, as many of which take as long as a step.
@@ -45,16 +53,40 @@ double stepsFor(const ZORVEL::CharacterData& character) {
   return (clothes + poses) * offered + countSelects(character) * assets + mandatory * clothes + cheap / CHEAP_IN_STEP;
 }
 
+/// Characters of the ids and folders, which the paths of files are made of.
+double letters(const ZORVEL::CharacterData& character, ZORVEL::CONTAINER container) {
+  std::size_t letters = 0;
+  for (const ZORVEL::DataContainer* element : apps::elementsOf(character, container)) {
+    for (const wchar_t* name : {ZORVEL::RepositoryFormat::FIELD_ID, ZORVEL::RepositoryFormat::FIELD_FOLDER}) {
+      letters += ZORVEL::Fields::TextOrEmpty(element, name).size();
+    }
+  }
+  return static_cast<double>(letters);
+}
+
+/// Of each clothing in each pose it is known why it is not offered: there is no such file.
+double memoryForPairs(const ZORVEL::CharacterData& character) {
+  const double clothes = count(character, ZORVEL::CLOTH);
+  const double poses = count(character, ZORVEL::POSES);
+  const auto folder = ZORVEL::Fields::TextOrEmpty(&character, ZORVEL::RepositoryFormat::FIELD_FOLDER).size();
+  const double inPaths = clothes * letters(character, ZORVEL::POSES) + poses * letters(character, ZORVEL::CLOTH) +
+                         clothes * poses * static_cast<double>(folder);
+  return clothes * poses * PAIR_MEMORY + inPaths * sizeof(wchar_t);
+}
+
 std::string textOf(double count) { return std::to_string(static_cast<long long>(count)); }
 
 }  // namespace
 
-std::string whyTooLarge() {
+std::string whyTooLarge(const Description& description, bool keepsOffers) {
   double steps = 0;
+  double kept = 0;
   for (const ZORVEL::CharacterData* character : apps::characters()) {
     const double clothes = count(*character, ZORVEL::CLOTH);
     const double poses = count(*character, ZORVEL::POSES);
-    if (clothes * poses > MOST_PAIRS) {
+    const double pairs = memoryForPairs(*character);
+    kept = keepsOffers ? kept + 2 * pairs : std::max(kept, pairs);
+    if (clothes * poses > MOST_PAIRS || kept > description.memoryLeft() + FREE_MEMORY) {
       return "a character has " + textOf(clothes) + " clothes and " + textOf(poses) +
              " poses, and all of them together are too many to be checked";
     }

@@ -28,6 +28,8 @@ FileStamp FileStamp::Of(const std::wstring& path) {
 }
 
 const FileStamp& FileStamps::Get(const std::wstring& path) {
+  // A view knows without asking the disk, and there may be a path for each clothing in each pose.
+  if (ViewedDisk::GetView()) return m_viewed = FileStamp::Of(path);
   const auto found = m_stamps.find(path);
   return found != m_stamps.end() ? found->second : m_stamps.emplace(path, FileStamp::Of(path)).first->second;
 }

@@ -21,12 +21,14 @@ struct FileStamp {
 /// Asks the disk once for each path, however often it is asked itself. For the length of one refresh.
 class FileStamps {
  public:
+  /// Valid until the next call.
   const FileStamp& Get(const std::wstring& path);
   bool Exists(const std::wstring& path) { return Get(path).exists; }
   void Clear() { m_stamps.clear(); }
 
  private:
   std::unordered_map<std::wstring, FileStamp> m_stamps;
+  FileStamp m_viewed;
 };
 
 }  // namespace ZORVEL

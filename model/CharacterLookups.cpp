@@ -12,6 +12,7 @@
 #include "model/RecordIndex.h"
 #include "model/RepositoryFormat.h"
 #include "model/Selection2.h"
+#include "model/UniqueIndex.h"
 
 namespace ZORVEL {
 
@@ -138,6 +139,14 @@ bool CharacterData::CheckAssetStyleForClothSelection(const DataContainer* asset,
   const DataContainer* cloth = GetCloth(Selection2::GetCloth());
   const DataContainer* selects = cloth && cloth->GetChildCount() > SELECT ? cloth->GetChild(SELECT) : nullptr;
   if (!selects || !assetId) return false;
+  if (const RecordIndex* index = selects->GetChildIndex(IndexedField::AssetId)) {
+    const RecordIndex::Entries entries = index->Find(assetId);
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const RecordIndex::Entry& entry) {
+      return !material || NamesMaterial(entry.record, materialId);
+    });
+    index->TellLacking(found != entries.end() ? found->place : selects->GetChildCount());
+    return found != entries.end();
+  }
   for (int i = 0; i < selects->GetChildCount(); ++i) {
     const DataContainer* entry = selects->GetChild(i);
     const wchar_t* entryAsset = Fields::Text(entry, FIELD_ASSET_ID);
@@ -159,6 +168,14 @@ bool CharacterData::FindsSelected(const DataContainer* entry) const {
 }
 
 bool CharacterData::GetAssetAndMaterial(int unique, DataContainer*& asset, DataContainer*& material) const {
+  const auto at = [this](int place) { return GetContainerElement(ASSETS, place); };
+  if (const UniqueIndex* index = UniqueIndex::Of(&m_containers[ASSETS], GetCount(ASSETS), at)) {
+    const UniqueIndex::Entry* const entry = index->Find(unique);
+    if (!entry) return false;
+    asset = at(entry->place);
+    material = entry->child;
+    return true;
+  }
   for (int i = 0; i < GetCount(ASSETS); ++i) {
     DataContainer* candidate = GetContainerElement(ASSETS, i);
     if (candidate && Data2::FindRecordOrChild(unique, *candidate, material)) {

@@ -12,6 +12,7 @@
 #include "model/RecordIndex.h"
 #include "model/RepositoryFormat.h"
 #include "model/RepositoryValidation.h"
+#include "model/UniqueIndex.h"
 #include "model/UniqueRegistry.h"
 
 namespace ZORVEL {
@@ -55,6 +56,11 @@ Record* FindRecord(const std::vector<std::unique_ptr<Record>>& records, const wc
     if (recordId && std::wcscmp(recordId, id) == 0) return record.get();
   }
   return nullptr;
+}
+
+const UniqueIndex* IndexOf(const std::vector<std::unique_ptr<DataContainer>>& records) {
+  const auto at = [&records](int place) { return records[static_cast<std::size_t>(place)].get(); };
+  return UniqueIndex::Of(&records, static_cast<int>(records.size()), at);
 }
 
 template <class Record>
@@ -120,7 +126,15 @@ DataContainer* Data2::GetGlobalAssetForAsset(const DataContainer* asset) {
 DataContainer* Data2::FindGlobalAssetById(const wchar_t* id) { return FindRecord(TheStore().globalAssets, id); }
 
 bool Data2::GetGlobalAssetAndMaterial(int unique, DataContainer*& globalAsset, DataContainer*& material) {
-  for (const auto& record : TheStore().globalAssets) {
+  const auto& records = TheStore().globalAssets;
+  if (const UniqueIndex* index = IndexOf(records)) {
+    const UniqueIndex::Entry* const entry = index->Find(unique);
+    if (!entry) return false;
+    globalAsset = records[static_cast<std::size_t>(entry->place)].get();
+    material = entry->child;
+    return true;
+  }
+  for (const auto& record : records) {
     if (FindRecordOrChild(unique, *record, material)) {
       globalAsset = record.get();
       return true;
@@ -147,6 +161,10 @@ const wchar_t* Data2::GetIdForUnique(int unique) { return Fields::Text(UniqueReg
 bool Data2::IsGlobalAssetUnique(int unique) {
   const DataContainer* element = UniqueRegistry::Find(unique);
   const auto& records = TheStore().globalAssets;
+  if (const UniqueIndex* index = element ? IndexOf(records) : nullptr) {
+    const UniqueIndex::Entry* const entry = index->Find(unique);
+    return entry && !entry->child;
+  }
   return element &&
          std::any_of(records.begin(), records.end(), [element](const auto& record) { return record.get() == element; });
 }

@@ -124,16 +124,15 @@ void PageOffers::VisitExceptPoses(const Visit& visit) const {
   }
 }
 
-std::vector<OfferedElement> PageOffers::GetAssetsWithoutPage() const {
-  PageOffer none;
+void PageOffers::VisitAssetsWithoutPage(const std::function<void(const OfferedElement&)>& visit) const {
   for (int i = 0; i < m_character.GetCount(ASSETS); ++i) {
     const DataContainer* asset = m_character.GetContainerElement(ASSETS, i);
     if (!asset || m_character.GetCategory(asset)) continue;
     const wchar_t* id = Fields::OptionalText(asset, FIELD_CATEGORY);
-    Hide(none, Describe(asset, std::wstring()),
-         id ? Refusal(WhyNot::CategoryUnknown, id) : Refusal(WhyNot::CategoryUnnamed, FIELD_CATEGORY));
+    OfferedElement element = Describe(asset, std::wstring());
+    element.refusal = id ? Refusal(WhyNot::CategoryUnknown, id) : Refusal(WhyNot::CategoryUnnamed, FIELD_CATEGORY);
+    visit(element);
   }
-  return none.hidden;
 }
 
 PageOffer PageOffers::MakePoses() const {

@@ -29,7 +29,7 @@ class PageOffers {
   void VisitExceptPoses(const Visit& visit) const;
 
   /// Assets that no page lists in any pose, for want of a category.
-  std::vector<OfferedElement> GetAssetsWithoutPage() const;
+  void VisitAssetsWithoutPage(const std::function<void(const OfferedElement&)>& visit) const;
 
  private:
   PageOffer MakePoses() const;

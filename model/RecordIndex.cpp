@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <limits>
 #include <map>
 #include <utility>
 
@@ -15,9 +16,11 @@ using namespace RepositoryFormat;
 namespace {
 
 const int SHORTEST_LIST = 16;
+// Of records without the field, each time that the list is asked: who has more has no ids at all, and asks as often.
+const int MOST_TOLD = 200;
 
 /// By IndexedField.
-const wchar_t* const INDEXED_FIELDS[] = {FIELD_ID, FIELD_GLOBAL_ID, FIELD_CATEGORY};
+const wchar_t* const INDEXED_FIELDS[] = {FIELD_ID, FIELD_GLOBAL_ID, FIELD_CATEGORY, FIELD_ASSET_ID};
 
 struct TextOrder {
   bool operator()(const RecordIndex::Entry& left, const RecordIndex::Entry& right) const {
@@ -59,11 +62,16 @@ RecordIndex::Entries RecordIndex::Find(const wchar_t* text) const {
 int RecordIndex::FindFirst(const wchar_t* text) const {
   const Entries found = Find(text);
   const bool isFound = found.first != found.last;
+  TellLacking(isFound ? found.first->place : std::numeric_limits<int>::max());
+  return isFound ? found.first->place : -1;
+}
+
+void RecordIndex::TellLacking(int place) const {
+  int told = 0;
   for (const Entry& lacking : m_lacking) {
-    if (isFound && lacking.place > found.first->place) break;
+    if (lacking.place > place || ++told > MOST_TOLD) break;
     Fields::Text(lacking.record, m_field);
   }
-  return isFound ? found.first->place : -1;
 }
 
 bool RecordIndex::IsIndexed(const wchar_t* field) {

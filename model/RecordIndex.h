@@ -8,7 +8,7 @@ namespace ZORVEL {
 
 class DataContainer;
 
-enum class IndexedField { Id, GlobalId, Category };
+enum class IndexedField { Id, GlobalId, Category, AssetId };
 
 /// Finds the records of a long list by the text of a field. It answers as going through the list would: it is made when
 /// it is first asked for, and anew after any list of records or any such field has changed.
@@ -35,12 +35,16 @@ class RecordIndex {
 
   Entries Find(const wchar_t* text) const;
   /// The place of the first, -1 when there is none. As going through the list would, it logs that the field is missing
-  /// for every record before that one which lacks it.
+  /// for every record before that one which lacks it; of very many for the first only.
   int FindFirst(const wchar_t* text) const;
 
   static bool IsIndexed(const wchar_t* field);
+  /// As going through the list would, up to the place, logs that the field is missing.
+  void TellLacking(int place) const;
   /// A list of records, or such a field of a record, has changed.
   static void NoteChange() { ++m_changes; }
+  /// How often; whoever keeps what was found in a list asks this.
+  static std::uint64_t GetChanges() { return m_changes; }
 
  private:
   RecordIndex(int count, const At& at, IndexedField field);

@@ -1,11 +1,9 @@
 #include "model/Selection2.h"
 
-#include <algorithm>
 #include <string>
-#include <vector>
 
 #include "core/Debug.h"
-#include "model/CharacterData.h"
+#include "model/ChosenAssets.h"
 
 namespace ZORVEL {
 
@@ -17,7 +15,7 @@ struct Choice {
   std::wstring pose;
   std::wstring skin;
   std::wstring style;
-  std::vector<int> assets;
+  ChosenAssets assets;
 };
 
 Choice& TheChoice() {
@@ -49,41 +47,24 @@ void Selection2::SetPose(const wchar_t* id) { SetChoice(TheChoice().pose, id); }
 void Selection2::SetSkin(const wchar_t* id) { SetChoice(TheChoice().skin, id); }
 void Selection2::SetStyle(const wchar_t* id) { SetChoice(TheChoice().style, id); }
 
-void Selection2::AddAsset(int unique) { TheChoice().assets.push_back(unique); }
+void Selection2::AddAsset(int unique) { TheChoice().assets.Add(unique); }
 
-void Selection2::RemoveAsset(int unique) {
-  std::vector<int>& assets = TheChoice().assets;
-  const auto position = std::find(assets.begin(), assets.end(), unique);
-  if (position != assets.end()) assets.erase(position);
-}
+void Selection2::RemoveAsset(int unique) { TheChoice().assets.Remove(unique); }
 
-void Selection2::ClearAssets() { TheChoice().assets.clear(); }
+void Selection2::ClearAssets() { TheChoice().assets.Clear(); }
 
-bool Selection2::CheckSelectedAsset(int unique) {
-  const std::vector<int>& assets = TheChoice().assets;
-  return std::find(assets.begin(), assets.end(), unique) != assets.end();
-}
+bool Selection2::CheckSelectedAsset(int unique) { return TheChoice().assets.Contains(unique); }
 
-int Selection2::GetAssetCount() { return static_cast<int>(TheChoice().assets.size()); }
+int Selection2::GetAssetCount() { return static_cast<int>(TheChoice().assets.GetUniques().size()); }
 
 int Selection2::GetAsset(int index) {
-  if (index >= 0 && index < GetAssetCount()) return TheChoice().assets[static_cast<std::size_t>(index)];
+  if (index >= 0 && index < GetAssetCount()) return TheChoice().assets.GetUniques()[static_cast<std::size_t>(index)];
   Debug::AddDebugMessage(DEBUG_ERROR, L"Selection2::GetAsset: index out of range!");
   return 0;
 }
 
 void Selection2::RemoveAssetsOfCategory(const DataContainer* category, const CharacterData* character) {
-  if (!character) return;
-  std::vector<int> kept;
-  for (const int unique : TheChoice().assets) {
-    DataContainer* asset = nullptr;
-    DataContainer* material = nullptr;
-    if (!character->GetAssetAndMaterial(unique, asset, material)) continue;
-    const DataContainer* assetCategory = character->GetCategory(asset);
-    if (!assetCategory) return;
-    if (assetCategory != category) kept.push_back(unique);
-  }
-  TheChoice().assets = std::move(kept);
+  if (character) TheChoice().assets.RemoveCategory(category, *character);
 }
 
 int Selection2::CountSelectedInCategory(const DataContainer* category, const CharacterData* character) {

@@ -3,6 +3,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextCursor>
+#include <algorithm>
 #include <cwchar>
 
 namespace ZORVEL {
@@ -17,6 +18,15 @@ QString Shortened(const wchar_t* text) {
   const wchar_t* const end = std::wmemchr(text, L'\0', LONGEST_TEXT);
   if (end != nullptr) return QString::fromWCharArray(text, static_cast<int>(end - text));
   return QString::fromWCharArray(text, static_cast<int>(LONGEST_TEXT)) + QChar(0x2026);
+}
+
+/// A name may hold what would begin a line of its own.
+QString OneLine(QString text) {
+  const auto breaksLine = [](QChar c) {
+    return c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+  };
+  std::replace_if(text.begin(), text.end(), breaksLine, QChar(QChar::ReplacementCharacter));
+  return text;
 }
 
 }  // namespace
@@ -42,7 +52,7 @@ DebugWindowClass::~DebugWindowClass() {
   if (window == this) window = nullptr;
 }
 
-void DebugWindowClass::AddText(const wchar_t* text) { Append(Shortened(text) + "\r\n"); }
+void DebugWindowClass::AddText(const wchar_t* text) { Append(OneLine(Shortened(text)) + "\r\n"); }
 
 void DebugWindowClass::Append(const QString& text) {
   QScrollBar* const bar = m_textBox->verticalScrollBar();

@@ -2,6 +2,7 @@
 
 #include <cwchar>
 #include <string>
+#include <vector>
 
 #include "core/Debug.h"
 #include "core/Disk.h"
@@ -9,6 +10,7 @@
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
 #include "model/RepositoryPaths.h"
+#include "repository/DescriptionLimits.h"
 #include "repository/ParseNotes.h"
 #include "repository/XmlDocument.h"
 
@@ -22,8 +24,7 @@ bool IsNamed(const XmlElement& element, const wchar_t* name) { return std::wcscm
 
 /// The document element has no namespace: "/zorvel" selects none that has one.
 bool IsDocumentElement(const XmlElement& root) {
-  const wchar_t* space = root.FindAttribute(L"xmlns");
-  return IsNamed(root, ELEMENT_ZORVEL) && (!space || !*space);
+  return IsNamed(root, ELEMENT_ZORVEL) && root.GetText(L"xmlns").empty();
 }
 
 template <class Visitor>
@@ -48,6 +49,22 @@ int AddElement(CharacterData& character, CONTAINER container, const XmlElement& 
 
 void CopyIfThere(DataContainer* record, const XmlElement& source) {
   if (record) NetXMLParser2::CopyAllAttributes(record, &source);
+}
+
+/// The record takes all texts at once.
+void SetAllData(DataContainer& record, const XmlElement& element) {
+  std::wstring texts;
+  std::vector<std::size_t> begins;
+  for (int i = 0; i < element.attributeCount; ++i) {
+    begins.push_back(texts.size());
+    element.attributes[i].AppendTo(texts);
+    texts += L'\0';
+  }
+  std::vector<FieldText> fields;
+  for (const std::size_t begin : begins) {
+    fields.push_back({element.attributes[fields.size()].name, texts.c_str() + begin});
+  }
+  record.SetAllData(fields.data(), element.attributeCount);
 }
 
 /// Answers the condition, and logs when it does not hold.
@@ -91,10 +108,10 @@ bool HasFolder(const XmlElement& character, const std::wstring& folder, const wc
 
 /// The full path of the character's folder; empty when the character is refused.
 std::wstring FindFolder(const XmlElement& character, const wchar_t* path) {
-  const wchar_t* name = character.FindAttribute(FIELD_FOLDER);
+  const XmlAttribute* name = character.FindAttribute(FIELD_FOLDER);
   if (!name) ParseNotes::TellRefused(ParseNoteKind::CharacterWithoutFolder, character);
   if (!Holds(name != nullptr, L"ParseCharacter: invalid XML structure (folder)")) return {};
-  const std::wstring folder = RepositoryPaths::Character(path, name);
+  const std::wstring folder = RepositoryPaths::Character(path, name->GetText().c_str());
   const bool complete =
       HasFolder(character, RepositoryPaths::Previews(folder), L"ParseCharacter: subfolder \"previews\" does not exist",
                 ParseNoteKind::CharacterWithoutPreviews) &&
@@ -113,8 +130,7 @@ std::shared_ptr<const XmlDocument> LoadDescription(const wchar_t* path) {
     return nullptr;
   }
   XmlError error;
-  // Who listens has the document and asks more of it than the store.
-  XmlOptions options = ObservedParsing::GetObserver() ? XmlOptions::Bounded() : XmlOptions();
+  XmlOptions options = DescriptionLimits::Get();
   options.places = ObservedParsing::GetObserver() != nullptr;
   const std::shared_ptr<const XmlDocument> document = XmlDocument::Load(file.c_str(), error, options);
   if (!document) ParseNotes::TellUnreadable(file, error);
@@ -265,17 +281,18 @@ void NetXMLParser2::HandleAssetMatrix(const XmlElement* element, CharacterData* 
 
 void NetXMLParser2::CopyAllAttributes(DataContainer* record, const XmlElement* element) {
   if (!record || !element) return;
-  record->SetAllData(element->attributes, element->attributeCount);
+  SetAllData(*record, *element);
   Data2::RegisterID(record);
   ParseNotes::TellRecord(*element, *record);
 }
 
 void NetXMLParser2::SetBaseCategoryName(const XmlElement* element, CharacterData* character, CONTAINER container) {
   if (!element || !character || container == CATEGORIES || container == ASSETS) return;
-  const wchar_t* name = element->FindAttribute(FIELD_NAME);
-  if (!name) return;
-  ParseNotes::TellName(*element, *character, container, name);
-  character->SetContainerName(container, name);
+  const XmlAttribute* attribute = element->FindAttribute(FIELD_NAME);
+  if (!attribute) return;
+  const std::wstring name = attribute->GetText();
+  ParseNotes::TellName(*element, *character, container, name.c_str());
+  character->SetContainerName(container, name.c_str());
 }
 
 }  // namespace ZORVEL

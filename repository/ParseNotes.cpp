@@ -28,22 +28,20 @@ bool IsObserved() { return ObservedParsing::GetObserver() != nullptr; }
 void Send(const ParseNote& note) { ObservedParsing::GetObserver()->Noted(note); }
 
 ParseNote NoteAt(ParseNoteKind kind, const XmlElement& element) {
-  return {kind, element.name, {}, {}, {}, element.line, element.column, &element};
+  return {kind, element.name, L"", {}, {}, element.line, element.column, &element};
 }
 
 void SendAttribute(ParseNoteKind kind, const XmlElement& element, const wchar_t* attribute) {
   ParseNote note = NoteAt(kind, element);
-  const wchar_t* value = element.FindAttribute(attribute);
   note.name = attribute;
-  note.text = value ? value : L"";
+  note.text = element.GetText(attribute);
   Send(note);
 }
 
 /// Of an element that becomes no record, for want of a file or folder.
 void SendLost(ParseNoteKind kind, const XmlElement& element, const std::wstring& path) {
   ParseNote note = NoteAt(kind, element);
-  const wchar_t* id = element.FindAttribute(FIELD_ID);
-  note.text = id ? id : L"";
+  note.text = element.GetText(FIELD_ID);
   note.path = path;
   Send(note);
 }
@@ -69,11 +67,11 @@ std::vector<const XmlElement*> ClothesOf(const XmlElement& character) {
 }  // namespace
 
 void ParseNotes::TellMissing(const std::wstring& file) {
-  if (IsObserved()) Send({ParseNoteKind::NoDescription, {}, {}, {}, file, 0, 0, nullptr});
+  if (IsObserved()) Send({ParseNoteKind::NoDescription, L"", L"", {}, file, 0, 0, nullptr});
 }
 
 void ParseNotes::TellUnreadable(const std::wstring& file, const XmlError& error) {
-  if (IsObserved()) Send({KindOf(error.fault), {}, {}, error.message, file, error.line, error.column, nullptr});
+  if (IsObserved()) Send({KindOf(error.fault), L"", L"", error.message, file, error.line, error.column, nullptr});
 }
 
 void ParseNotes::TellWrongDocumentElement(const std::wstring& file, const XmlElement& root) {
@@ -123,8 +121,9 @@ void ParseNotes::TellRow(const XmlElement& row, bool added) {
     return SendAttribute(ParseNoteKind::MatrixRowDropped, row, missing);
   }
   for (const wchar_t* number : NUMBERS) {
-    const wchar_t* text = row.FindAttribute(number);
-    if (text && !IsWhollyNumber(text)) SendAttribute(ParseNoteKind::NumberNotWhole, row, number);
+    const XmlAttribute* attribute = row.FindAttribute(number);
+    if (attribute && !IsWhollyNumber(attribute->GetText().c_str()))
+      SendAttribute(ParseNoteKind::NumberNotWhole, row, number);
   }
 }
 

@@ -31,8 +31,9 @@ enum class ParseNoteKind {
 /// Something that the parser refused, skipped or limited.
 struct ParseNote {
   ParseNoteKind kind;
-  std::wstring element;
-  std::wstring name;
+  // Names live as long as the process; empty when there is none.
+  const wchar_t* element;
+  const wchar_t* name;
   std::wstring text;
   std::wstring path;
   // Of the element's start tag, counted from 1; 0 when there is no such place.

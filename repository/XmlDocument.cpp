@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <cwchar>
 #include <new>
 #include <unordered_map>
@@ -19,9 +20,12 @@ namespace {
 
 const std::size_t BLOCK_SIZE = std::size_t{64} << 10;
 // The tree of a document without entities stays below sixteen times the bytes it was read from. What grows beyond twice
-// that is an entity or a default attribute that was repeated to do harm.
+// that is a default attribute that was repeated to do harm.
 const std::size_t LARGEST_GROWTH = 32;
+// Entities stand for as much as the document itself, or for this much.
 const std::size_t FREE_GROWTH = std::size_t{1} << 20;
+// What it takes to look one up, in bytes of its content.
+const std::size_t REFERENCE_GROWTH = 16;
 // The library looks for each among all, and takes longer for each.
 const int MOST_DECLARATIONS = 1000;
 
@@ -44,10 +48,11 @@ wchar_t* DecodeCharacter(const xmlChar*& text, const xmlChar* end, wchar_t* out)
 }
 
 /// Wide characters never outnumber the bytes that they are made of.
-const wchar_t* CopyWide(XmlArena& arena, const xmlChar* text, const xmlChar* end) {
-  const std::size_t size = static_cast<std::size_t>(end - text) + 1;
-  auto* const begin = static_cast<wchar_t*>(arena.Allocate(size * sizeof(wchar_t), alignof(wchar_t)));
-  wchar_t* out = begin;
+void AppendWide(std::wstring& wide, const xmlChar* text, const xmlChar* end) {
+  const std::size_t size = wide.size();
+  wide.resize(size + static_cast<std::size_t>(end - text));
+  wchar_t* const begin = &wide[0];
+  wchar_t* out = begin + size;
   while (text != end) {
     if (*text < 0x80) {
       *out++ = static_cast<wchar_t>(*text++);
@@ -55,11 +60,22 @@ const wchar_t* CopyWide(XmlArena& arena, const xmlChar* text, const xmlChar* end
       out = DecodeCharacter(text, end, out);
     }
   }
-  *out = 0;
-  return begin;
+  wide.resize(static_cast<std::size_t>(out - begin));
 }
 
-const wchar_t* CopyWide(XmlArena& arena, const xmlChar* text) { return CopyWide(arena, text, text + xmlStrlen(text)); }
+std::wstring WideText(const xmlChar* text) {
+  std::wstring wide;
+  AppendWide(wide, text, text + xmlStrlen(text));
+  return wide;
+}
+
+const char* CopyText(XmlArena& arena, const xmlChar* text, const xmlChar* end) {
+  const auto size = static_cast<std::size_t>(end - text);
+  auto* const copy = static_cast<char*>(arena.Allocate(size + 1, 1));
+  std::memcpy(copy, text, size);
+  copy[size] = 0;
+  return copy;
+}
 
 void FreeParser(xmlParserCtxtPtr context) {
   if (!context) return;
@@ -87,11 +103,23 @@ class SilentErrors {
 
 }  // namespace
 
-const wchar_t* XmlElement::FindAttribute(const wchar_t* attribute) const {
+std::wstring XmlAttribute::GetText() const { return WideText(reinterpret_cast<const xmlChar*>(text)); }
+
+void XmlAttribute::AppendTo(std::wstring& out) const {
+  const auto* const begin = reinterpret_cast<const xmlChar*>(text);
+  AppendWide(out, begin, begin + xmlStrlen(begin));
+}
+
+const XmlAttribute* XmlElement::FindAttribute(const wchar_t* attribute) const {
   for (int i = 0; i < attributeCount; ++i) {
-    if (std::wcscmp(attributes[i].name.GetText(), attribute) == 0) return attributes[i].text;
+    if (std::wcscmp(attributes[i].name.GetText(), attribute) == 0) return &attributes[i];
   }
   return nullptr;
+}
+
+std::wstring XmlElement::GetText(const wchar_t* attribute) const {
+  const XmlAttribute* const found = FindAttribute(attribute);
+  return found ? found->GetText() : std::wstring();
 }
 
 void XmlArena::AddBlock(std::size_t size) {
@@ -116,6 +144,7 @@ class XmlTreeBuilder {
     // the handler decides.
     xmlCtxtUseOptions(m_context, XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
     xmlParseDocument(m_context);
+    m_document.m_size = m_bytesRead;
     if (m_refused) return false;
     const bool wellFormed = m_context->wellFormed && m_context->nsWellFormed && m_document.m_root && IsAtEnd();
     return wellFormed || Refuse(XmlFault::NotWellFormed, L"not well formed");
@@ -159,26 +188,38 @@ class XmlTreeBuilder {
       if (++builder.m_declarationCount > MOST_DECLARATIONS) builder.RefuseSize(L"too many entities");
       if (!builder.m_refused) xmlSAX2EntityDecl(builder.m_context, name, type, publicId, systemId, content);
     };
-    // Text means nothing here; that it comes says that the markup before it has ended.
-    handler.characters = [](void* data, const xmlChar*, int) { Self(data).m_markupBegin = Self(data).m_bytesRead; };
+    // These mean nothing here; that they come says that the markup before them has ended.
+    handler.characters = [](void* data, const xmlChar*, int) { Self(data).EndMarkup(); };
     handler.ignorableWhitespace = handler.characters;
+    handler.comment = [](void* data, const xmlChar*) { Self(data).EndMarkup(); };
+    handler.processingInstruction = [](void* data, const xmlChar*, const xmlChar*) { Self(data).EndMarkup(); };
     handler.getEntity = [](void* data, const xmlChar* name) {
-      return InternalOnly(xmlSAX2GetEntity(Self(data).m_context, name));
+      return Self(data).InternalOnly(xmlSAX2GetEntity(Self(data).m_context, name));
     };
     handler.getParameterEntity = [](void* data, const xmlChar* name) {
-      return InternalOnly(xmlSAX2GetParameterEntity(Self(data).m_context, name));
+      return Self(data).InternalOnly(xmlSAX2GetParameterEntity(Self(data).m_context, name));
     };
     return handler;
   }
 
   /// An external entity counts as not declared, so there is nothing that the library could load.
-  static xmlEntityPtr InternalOnly(xmlEntityPtr entity) {
+  xmlEntityPtr InternalOnly(xmlEntityPtr entity) {
     if (!entity) return nullptr;
-    const bool internal = entity->etype == XML_INTERNAL_GENERAL_ENTITY ||
-                          entity->etype == XML_INTERNAL_PARAMETER_ENTITY ||
-                          entity->etype == XML_INTERNAL_PREDEFINED_ENTITY;
-    return internal ? entity : nullptr;
+    if (entity->etype == XML_INTERNAL_PREDEFINED_ENTITY) return entity;
+    const bool internal =
+        entity->etype == XML_INTERNAL_GENERAL_ENTITY || entity->etype == XML_INTERNAL_PARAMETER_ENTITY;
+    return internal && CountGrowth(*entity) ? entity : nullptr;
   }
+
+  /// Every reference is counted, those in other entities too: what is thrown away afterwards took its time all the
+  /// same.
+  bool CountGrowth(const xmlEntity& entity) {
+    m_growth += static_cast<std::size_t>(entity.length) + REFERENCE_GROWTH;
+    if (m_growth > FREE_GROWTH + m_bytesRead) RefuseSize(L"entities grow beyond all bounds");
+    return !m_refused;
+  }
+
+  void EndMarkup() { m_markupBegin = m_bytesRead; }
 
   static int ReadFile(void* data, char* buffer, int size) {
     XmlTreeBuilder& builder = Self(data);
@@ -198,7 +239,7 @@ class XmlTreeBuilder {
                            int namespaceCount, const xmlChar** namespaces, int attributeCount, int /*defaulted*/,
                            const xmlChar** attributes) {
     XmlTreeBuilder& builder = Self(data);
-    builder.m_markupBegin = builder.m_bytesRead;
+    builder.EndMarkup();
     if (builder.m_refused) return;
     try {
       builder.AddElement(builder.HoldName(prefix, name), namespaceCount, namespaces, attributeCount, attributes);
@@ -209,7 +250,7 @@ class XmlTreeBuilder {
 
   static void EndElement(void* data, const xmlChar* /*name*/, const xmlChar* /*prefix*/, const xmlChar* /*uri*/) {
     XmlTreeBuilder& builder = Self(data);
-    builder.m_markupBegin = builder.m_bytesRead;
+    builder.EndMarkup();
     if (!builder.m_refused) builder.m_open.pop_back();
   }
 
@@ -218,9 +259,7 @@ class XmlTreeBuilder {
   static void ReportError(void* data, Error error) {
     XmlTreeBuilder& builder = Self(data);
     if (error->level < XML_ERR_ERROR || !builder.m_error.message.empty()) return;
-    XmlArena arena;
-    const auto* const message = reinterpret_cast<const xmlChar*>(error->message ? error->message : "");
-    std::wstring text = CopyWide(arena, message);
+    std::wstring text = WideText(reinterpret_cast<const xmlChar*>(error->message ? error->message : ""));
     while (!text.empty() && text.back() == L'\n') text.pop_back();
     std::replace(text.begin(), text.end(), L'\n', L' ');
     builder.m_error.fault = XmlFault::NotWellFormed;
@@ -255,36 +294,44 @@ class XmlTreeBuilder {
   const HeldName& FindName(const xmlChar* key) {
     const auto held = m_names.find(key);
     if (held != m_names.end()) return *held;
-    XmlArena arena;
-    return *m_names.emplace(key, FieldName(CopyWide(arena, key))).first;
+    if (static_cast<std::size_t>(xmlStrlen(key)) > m_options.longestName) RefuseSize(L"a name is too long");
+    if (m_names.size() == m_options.mostNames) RefuseSize(L"too many different names");
+    return *m_names.emplace(key, FieldName(m_refused ? L"" : WideText(key).c_str())).first;
   }
 
   void AddElement(FieldName name, int namespaceCount, const xmlChar** namespaces, int attributeCount,
                   const xmlChar** attributes) {
+    if (m_refused) return;
     XmlArena& arena = m_document.m_arena;
     const int count = namespaceCount + attributeCount;
     if (count > m_options.mostAttributes) return RefuseSize(L"too many attributes");
-    m_attributeCount += static_cast<std::size_t>(count);
-    if (m_attributeCount > m_options.mostAttributesInAll) return RefuseSize(L"too many attributes in all");
-    if (++m_elementCount > m_options.mostElements) return RefuseSize(L"too many elements");
-    if (m_names.size() > m_options.mostNames) return RefuseSize(L"too many different names");
-    auto* const list = static_cast<FieldText*>(
-        arena.Allocate(static_cast<std::size_t>(count) * sizeof(FieldText), alignof(FieldText)));
-    FieldText* next = list;
-    for (int i = 0; i < namespaceCount; ++i, namespaces += 2) new (next++) FieldText(NamespaceAttribute(namespaces));
+    auto* const list = static_cast<XmlAttribute*>(
+        arena.Allocate(static_cast<std::size_t>(count) * sizeof(XmlAttribute), alignof(XmlAttribute)));
+    XmlAttribute* next = list;
+    for (int i = 0; i < namespaceCount; ++i, namespaces += 2) new (next++) XmlAttribute(NamespaceAttribute(namespaces));
     // Five pointers each: name, prefix, namespace, begin and end of the value.
     for (int i = 0; i < attributeCount; ++i, attributes += 5) {
       const FieldName attribute = HoldName(attributes[1], attributes[0]);
+      if (m_refused) return;
       if (static_cast<std::size_t>(attributes[4] - attributes[3]) > m_options.longestText) {
         return RefuseSize(L"an attribute is too long");
       }
-      new (next++) FieldText{attribute, CopyWide(arena, attributes[3], attributes[4])};
+      new (next++) XmlAttribute{attribute, CopyText(arena, attributes[3], attributes[4])};
     }
     void* const memory = arena.Allocate(sizeof(XmlElement), alignof(XmlElement));
     const Place place = m_options.places ? StartOfTag() : Place{0, 0};
-    Append(new (memory) XmlElement{name.GetText(), list, count, place.line, place.column, 0, nullptr, nullptr});
-    if (arena.GetSize() > m_options.mostMemory) return RefuseSize(L"too large");
-    if (arena.GetSize() > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead) RefuseSize(L"entities grow beyond all bounds");
+    auto* const element =
+        new (memory) XmlElement{name.GetText(), list, count, place.line, place.column, 0, nullptr, nullptr, nullptr};
+    Append(element);
+    ++m_document.m_elementCount;
+    CountCost(*element);
+  }
+
+  void CountCost(const XmlElement& element) {
+    if (m_options.costOf) m_document.m_cost += m_options.costOf(element);
+    if (m_options.budgetFor && m_document.m_cost > m_options.budgetFor(m_bytesRead)) RefuseSize(L"too large");
+    const std::size_t size = m_document.m_arena.GetSize();
+    if (size > FREE_GROWTH + LARGEST_GROWTH * m_bytesRead) RefuseSize(L"entities grow beyond all bounds");
   }
 
   /// Of the tag whose attributes were just read: neither its name nor they can hold the character that it begins with.
@@ -310,10 +357,11 @@ class XmlTreeBuilder {
     return begin == input.base && input.consumed != 0 ? 0 : 1 + CountCharacters(begin, place);
   }
 
-  FieldText NamespaceAttribute(const xmlChar** declaration) {
+  XmlAttribute NamespaceAttribute(const xmlChar** declaration) {
     const xmlChar* const keyword = xmlDictLookup(m_context->dict, reinterpret_cast<const xmlChar*>("xmlns"), -1);
     const FieldName name = declaration[0] ? HoldName(keyword, declaration[0]) : HoldName(nullptr, keyword);
-    return {name, declaration[1] ? CopyWide(m_document.m_arena, declaration[1]) : L""};
+    const xmlChar* const text = declaration[1];
+    return {name, text ? CopyText(m_document.m_arena, text, text + xmlStrlen(text)) : ""};
   }
 
   void Append(XmlElement* element) {
@@ -325,6 +373,7 @@ class XmlTreeBuilder {
       m_open.back().element->firstChild = element;
     }
     if (!m_open.empty()) {
+      element->parent = m_open.back().element;
       m_open.back().lastChild = element;
       ++m_open.back().element->childCount;
     }
@@ -339,26 +388,13 @@ class XmlTreeBuilder {
   std::size_t m_bytesRead = 0;
   // Of what is being read, as far as is known.
   std::size_t m_markupBegin = 0;
-  std::size_t m_elementCount = 0;
-  std::size_t m_attributeCount = 0;
+  std::size_t m_growth = 0;
   int m_declarationCount = 0;
   bool m_refused = false;
   std::vector<OpenElement> m_open;
   std::unordered_map<const xmlChar*, FieldName> m_names;
   const HeldName* m_recent[RECENT_COUNT] = {};
 };
-
-XmlOptions XmlOptions::Bounded() {
-  XmlOptions options;
-  options.mostElements = 1250000;
-  options.mostNames = 10000;
-  options.mostAttributes = 100;
-  options.mostAttributesInAll = 10000000;
-  options.mostMemory = std::size_t{640} << 20;
-  options.longestText = 4096;
-  options.longestMarkup = std::size_t{1} << 20;
-  return options;
-}
 
 std::unique_ptr<XmlDocument> XmlDocument::Load(const wchar_t* path, XmlError& error, const XmlOptions& options) {
   error = XmlError();

@@ -10,21 +10,33 @@
 
 namespace ZORVEL {
 
+struct XmlAttribute {
+  FieldName name;
+  const char* text;  // UTF-8, a fourth of what wide characters may take
+
+  std::wstring GetText() const;
+  /// The same at the end of `out`. No more characters than `text` has bytes.
+  void AppendTo(std::wstring& out) const;
+};
+
 /// One element of a document. Names carry their prefix; namespace declarations are attributes like any other.
 struct XmlElement {
-  const wchar_t* name;
-  const FieldText* attributes;  // in document order
+  const wchar_t* name;             // valid for the life of the process
+  const XmlAttribute* attributes;  // in document order
   int attributeCount;
   // Where the start tag begins, in characters, counted from 1. An element out of an entity stands where that is used.
   // The column is 0 where it is not known: behind a very long line. Both are when places were not asked for.
   int line;
   int column;
   int childCount;
+  const XmlElement* parent;  // null for the document element
   const XmlElement* firstChild;
   const XmlElement* nextSibling;
 
   /// Null when the element has no such attribute.
-  const wchar_t* FindAttribute(const wchar_t* attribute) const;
+  const XmlAttribute* FindAttribute(const wchar_t* attribute) const;
+  /// Empty when the element has no such attribute.
+  std::wstring GetText(const wchar_t* attribute) const;
 };
 
 enum class XmlFault { NotReadable, NotWellFormed, BeyondLimits };
@@ -40,17 +52,16 @@ struct XmlError {
 struct XmlOptions {
   std::size_t largestFile = std::size_t{256} << 20;  // bytes
   bool places = true;                                // loading takes a fifth longer with them
-  std::size_t mostElements = SIZE_MAX;
-  std::size_t mostNames = SIZE_MAX;  // different ones, of elements and attributes
-  int mostAttributes = 10000;        // of one element; records look their fields up one by one
-  std::size_t mostAttributesInAll = SIZE_MAX;
-  std::size_t mostMemory = SIZE_MAX;     // bytes that the tree takes
-  std::size_t longestText = SIZE_MAX;    // bytes of an attribute's value
-  std::size_t longestMarkup = SIZE_MAX;  // bytes of a start tag or a comment, roughly
+  std::size_t mostNames = SIZE_MAX;                  // different ones, of elements and attributes
+  int mostAttributes = 10000;                        // of one element; records look their fields up one by one
+  std::size_t longestName = SIZE_MAX;                // bytes, of elements and attributes
+  std::size_t longestText = SIZE_MAX;                // bytes of an attribute's value
+  std::size_t longestMarkup = SIZE_MAX;              // bytes of a start tag, a comment or a document type, roughly
 
-  /// For who goes through all of it more than once and must come to an end: a million elements, far more than a
-  /// repository has.
-  static XmlOptions Bounded();
+  /// What an element costs whoever asks for the document, in bytes; its children are not there yet. Null for nothing.
+  std::size_t (*costOf)(const XmlElement& element) = nullptr;
+  /// What all together may cost when so many bytes of the file are read. Null for anything.
+  std::size_t (*budgetFor)(std::size_t bytes) = nullptr;
 };
 
 /// Memory for things that live as long as the document and need no destructor.
@@ -86,7 +97,7 @@ class XmlArena {
 ///     if (document) walk(document->GetRoot());
 ///
 /// Strict, never touches the network or another file, and bounded: large files, absurdly deep nesting and entities that
-/// blow up are refused.
+/// blow up are refused, also in text, which nobody keeps.
 class XmlDocument {
  public:
   /// Null, with the reason in `error`, for everything that cannot be opened, read or is not well formed.
@@ -95,11 +106,20 @@ class XmlDocument {
 
   /// Belongs to the document.
   const XmlElement& GetRoot() const;
+  /// With the document element.
+  int GetElementCount() const { return m_elementCount; }
+  /// Of the file, in bytes.
+  std::size_t GetSize() const { return m_size; }
+  /// Of all elements, as the options have it.
+  std::size_t GetCost() const { return m_cost; }
 
  private:
   friend class XmlTreeBuilder;
 
   XmlArena m_arena;
+  int m_elementCount = 0;
+  std::size_t m_size = 0;
+  std::size_t m_cost = 0;
   const XmlElement* m_root = nullptr;
 };
 

@@ -4,18 +4,29 @@
 
 #include <QFile>
 #include <QImageReader>
+#include <QPixelFormat>
+
+#include "ui/PictureForm.h"
 
 namespace ZORVEL {
 
 namespace {
 
-const qint64 MOST_PIXELS = qint64{64} * 1000 * 1000;
+const qint64 MOST_PIXELS = qint64{8192} * 8192;
+/// Of a picture that is decoded whole, as most are even when a corner is shown.
+const qint64 MOST_BYTES = qint64{256} << 20;
+
+qint64 BytesOf(const QImageReader& reader, const QSize& size) {
+  const QImage::Format format = reader.imageFormat();
+  const int bits = format == QImage::Format_Invalid ? 32 : QImage::toPixelFormat(format).bitsPerPixel();
+  return qint64{size.width()} * size.height() * bits / 8;
+}
 
 /// Empty when the picture may be decoded.
 QString WhyRefused(const QImageReader& reader, const QSize& size) {
   if (!reader.canRead()) return QStringLiteral("it is not a picture");
   if (size.isEmpty()) return QStringLiteral("its size is unknown");
-  if (qint64(size.width()) * size.height() > MOST_PIXELS) {
+  if (qint64{size.width()} * size.height() > MOST_PIXELS || BytesOf(reader, size) > MOST_BYTES) {
     return QStringLiteral("it is too large (%1 x %2 pixels)").arg(size.width()).arg(size.height());
   }
   return QString();
@@ -23,7 +34,10 @@ QString WhyRefused(const QImageReader& reader, const QSize& size) {
 
 /// Leaves the reader ready to decode.
 QSize SizeIn(QImageReader& reader, QString& problem) {
-  reader.setDecideFormatFromContent(true);
+  const QByteArray form = PictureForm::Of(*reader.device(), problem);
+  if (form.isEmpty()) return QSize();
+  reader.setAutoDetectImageFormat(false);
+  reader.setFormat(form);
   const QSize size = reader.size();
   problem = WhyRefused(reader, size);
   return problem.isEmpty() ? size : QSize();

@@ -94,37 +94,36 @@ void AssetChoice::visit(const PageOffer& page, bool defaults) {
 bool AssetChoice::visit(Wish& wish, const PageOffer& page) const {
   const auto found = std::find_if(page.shown.begin(), page.shown.end(),
                                   [&wish](const OfferedElement& one) { return fits(wish, one); });
-  look(wish, page.hidden);
+  const auto hidden = std::find_if(page.hidden.begin(), page.hidden.end(),
+                                   [&wish](const OfferedElement& one) { return fits(wish, one); });
+  if (hidden != page.hidden.end()) wish.refusal = hidden->refusal;
   if (found == page.shown.end() || wish.unique != 0) return false;
   wish.unique = found->unique;
   wish.category = page.category;
   return true;
 }
 
-void AssetChoice::look(Wish& wish, const std::vector<OfferedElement>& hidden) const {
-  const auto found =
-      std::find_if(hidden.begin(), hidden.end(), [&wish](const OfferedElement& one) { return fits(wish, one); });
-  if (found != hidden.end()) wish.refusal = found->refusal;
+void AssetChoice::lookAtHidden(const OfferedElement& element) {
+  for (Wish& wish : wishes_) {
+    if (fits(wish, element)) wish.refusal = element.refusal;
+  }
 }
 
-void AssetChoice::select(const std::vector<OfferedElement>& withoutPage) {
+void AssetChoice::select() {
   // Replacing the choice of a category takes every shared asset out of the selection, so those that replace come first.
   std::stable_partition(wishes_.begin(), wishes_.end(),
                         [](const Wish& wish) { return !CharacterData::IsMultiple(wish.category); });
-  for (Wish& wish : wishes_) look(wish, withoutPage);
-  for (std::size_t i = 0; i < wishes_.size(); ++i) click(i);
+  for (const Wish& wish : wishes_) click(wish);
   for (const OfferedElement& element : begun_) reportLost(element);
 }
 
-void AssetChoice::click(std::size_t index) {
-  const Wish& wish = wishes_[index];
+void AssetChoice::click(const Wish& wish) {
   if (wish.unique == 0) {
     result_.notes.push_back("Asset " + wish.id + " left out: " + host::toUtf8(wish.refusal.GetText()) + ".");
     return;
   }
-  const auto sameCategory = [&](const Wish& other) { return other.unique != 0 && other.category == wish.category; };
-  const auto end = wishes_.begin() + static_cast<std::ptrdiff_t>(index);
-  if (!CharacterData::IsMultiple(wish.category) && std::any_of(wishes_.begin(), end, sameCategory)) {
+  const bool isFirst = clickedCategories_.insert(wish.category).second;
+  if (!CharacterData::IsMultiple(wish.category) && !isFirst) {
     result_.notes.push_back("Asset " + wish.id + " takes the place of an earlier one: its category, " +
                             field(wish.category, FIELD_ID) + ", takes one.");
   }

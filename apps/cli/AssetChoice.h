@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,9 +21,10 @@ class AssetChoice {
   bool wish(const std::vector<std::string>& wanted);
   /// Finds what is wished for on the page. Where nothing is, and `defaults` says so, the page begins as in the window.
   void visit(const ZORVEL::PageOffer& page, bool defaults);
-  /// Chooses what was found, after the last page, and says what was not and what got lost. `withoutPage` are the assets
-  /// that no page lists.
-  void select(const std::vector<ZORVEL::OfferedElement>& withoutPage);
+  /// Of an asset that is not shown, so that it can be said why.
+  void lookAtHidden(const ZORVEL::OfferedElement& element);
+  /// Chooses what was found, after the last page, and says what was not and what got lost.
+  void select();
 
  private:
   struct Wish {
@@ -39,14 +41,14 @@ class AssetChoice {
   void wishFor(const std::string& wanted);
   const ZORVEL::DataContainer* find(const std::string& id) const;
   static bool fits(const Wish& wish, const ZORVEL::OfferedElement& element);
-  void look(Wish& wish, const std::vector<ZORVEL::OfferedElement>& hidden) const;
   bool visit(Wish& wish, const ZORVEL::PageOffer& page) const;
-  void click(std::size_t index);
+  void click(const Wish& wish);
   void reportLost(const ZORVEL::OfferedElement& element);
 
   const ZORVEL::CharacterData& character_;
   ChoiceResult& result_;
   std::vector<Wish> wishes_;
+  std::set<const ZORVEL::DataContainer*> clickedCategories_;
   /// What pages began with.
   std::vector<ZORVEL::OfferedElement> begun_;
 };

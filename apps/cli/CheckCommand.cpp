@@ -6,19 +6,20 @@
 #include <iostream>
 
 #include "apps/cli/Progress.h"
+#include "apps/cli/ResultFiles.h"
 #include "apps/cli/StandardOutput.h"
 #include "apps/cli/TerminalColor.h"
 #include "apps/support/ExitStatus.h"
 #include "check/Checker.h"
 #include "check/Judgement.h"
 #include "check/JudgementFile.h"
-#include "check/PrintableText.h"
 #include "check/report/CsvReport.h"
 #include "check/report/JsonReport.h"
 #include "check/report/JunitReport.h"
 #include "check/report/SarifReport.h"
 #include "check/report/TextReport.h"
 #include "check/report/WearReport.h"
+#include "host/files/PrintableText.h"
 #include "host/files/WholeFile.h"
 
 namespace cli {
@@ -31,7 +32,7 @@ using check::JudgedRepository;
 using check::Judgement;
 
 int fail(const std::string& error, int status) {
-  std::cerr << "zorvel check: " << check::printable(error) << '\n';
+  host::printLine(std::cerr, "zorvel check: " + error);
   return status;
 }
 
@@ -77,11 +78,19 @@ std::string takeFiles(const CheckCommandOptions& options, const Judgement& line,
   return {};
 }
 
-JudgedRepository checkOne(const std::filesystem::path& repository, const Judgement& judgement, bool wantsWear) {
-  Progress progress("Checking " + check::printable(repository.string()));
+ResultFiles resultsOf(const CheckCommandOptions& options) {
+  ResultFiles results;
+  results.add("--output", options.output);
+  return results;
+}
+
+JudgedRepository checkOne(const std::filesystem::path& repository, const Judgement& judgement,
+                          const CheckCommandOptions& line) {
+  Progress progress("Checking " + repository.string());
   check::CheckerOptions options;
   options.targetRoot = judgement.targetRoot();
-  options.wantsWear = wantsWear;
+  options.wantsWear = line.showsMatrix;
+  options.wantsFiles = resultsOf(line).mayReplaceIn(repository);
   options.progress = [&progress](double done) { progress.report(done); };
   return judgement.judge(check::checkRepository(repository, options));
 }
@@ -121,7 +130,11 @@ int runCheck(const CheckCommandOptions& options) {
   if (!error.empty()) return fail(error, EXIT_UNREADABLE);
   std::vector<JudgedRepository> repositories;
   for (std::size_t i = 0; i < judgements.size(); ++i) {
-    repositories.push_back(checkOne(options.repositories[i], judgements[i], options.showsMatrix));
+    repositories.push_back(checkOne(options.repositories[i], judgements[i], options));
+  }
+  for (const JudgedRepository& repository : repositories) {
+    error = resultsOf(options).whyTaken(repository.result.files);
+    if (!error.empty()) return fail(error, EXIT_USAGE);
   }
   const std::string report = reportOf(repositories, options);
   if (options.output.empty()) {

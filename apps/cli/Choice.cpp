@@ -78,7 +78,9 @@ class Chooser {
       if (result_.errors.empty()) return choosePage(page, assets);
       ZORVEL::InitialChoice::Make(page);
     });
-    if (result_.errors.empty()) assets.select(offers.GetAssetsWithoutPage());
+    if (!result_.errors.empty()) return;
+    offers.VisitAssetsWithoutPage([&](const OfferedElement& element) { assets.lookAtHidden(element); });
+    assets.select();
   }
 
   void choosePage(const PageOffer& page, AssetChoice& assets) {

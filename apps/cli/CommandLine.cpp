@@ -3,6 +3,7 @@
 #include <units.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cmath>
 #include <iostream>
 #include <map>
@@ -18,6 +19,9 @@
 #include "apps/cli/author/DoctorCommand.h"
 #include "apps/cli/author/InitCommand.h"
 #include "apps/support/ExitStatus.h"
+#include "host/files/DiskTroubles.h"
+#include "host/files/FilesRead.h"
+#include "host/files/PrintableText.h"
 #include "host/geometry/Reach.h"
 
 namespace cli {
@@ -250,7 +254,10 @@ Command addDoctor(CLI::App& app) {
 }
 
 int report(const CLI::App& app, const CLI::ParseError& error) {
-  return app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE;
+  // The help, or the version.
+  if (error.get_exit_code() == 0) return app.exit(error);
+  host::printLine(std::cerr, std::string("zorvel: ") + error.what() + " (--help says more)");
+  return EXIT_USAGE;
 }
 
 int runCommand(int argc, const char* const* argv) try {
@@ -271,18 +278,26 @@ int runCommand(int argc, const char* const* argv) try {
   }
   return EXIT_USAGE;
 } catch (const std::exception& error) {
-  std::cerr << "zorvel: internal error: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel: internal error: ") + error.what());
   return EXIT_INTERNAL;
+}
+
+/// What the disk gave no answer to looks in every command as if it were not there. Nothing is clean then.
+int tellTroubles(int status) {
+  const std::vector<std::string> troubles = host::DiskTroubles::instance().take();
+  for (const std::string& line : troubles) host::printLine(std::cerr, "zorvel: cannot be read: " + line);
+  return troubles.empty() ? status : std::max(status, int{EXIT_UNREADABLE});
 }
 
 }  // namespace
 
 int run(int argc, const char* const* argv) {
   const ClosedPipesAreErrors guard;
-  const int status = runCommand(argc, argv);
+  host::FilesRead::forget();
+  const int status = tellTroubles(runCommand(argc, argv));
   const std::string error = finishStandardOutput();
   if (error.empty()) return status;
-  std::cerr << "zorvel: " << error << '\n';
+  host::printLine(std::cerr, "zorvel: " + error);
   return EXIT_INTERNAL;
 }
 

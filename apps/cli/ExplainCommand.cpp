@@ -5,9 +5,9 @@
 
 #include "apps/cli/StandardOutput.h"
 #include "apps/support/ExitStatus.h"
-#include "check/PrintableText.h"
 #include "check/explain/Explain.h"
 #include "check/report/ExplainReport.h"
+#include "host/files/PrintableText.h"
 
 namespace cli {
 
@@ -16,7 +16,7 @@ using namespace apps;
 namespace {
 
 int failExplain(const std::string& error, int status) {
-  std::cerr << "zorvel explain: " << error << '\n';
+  host::printLine(std::cerr, "zorvel explain: " + error);
   return status;
 }
 
@@ -25,7 +25,7 @@ int failExplain(const std::string& error, int status) {
 int runExplain(const std::filesystem::path& repository, const std::string& id, bool asJson) {
   const check::ExplainResult result = check::explainId(repository, id);
   if (!result.isReadable) {
-    return failExplain(check::printable(repository.string()) + ": " + result.problem, EXIT_UNREADABLE);
+    return failExplain(repository.string() + ": " + result.problem, EXIT_UNREADABLE);
   }
   if (result.explanations.empty() && !asJson) {
     std::cerr << "zorvel explain: " << check::explainText(result);

@@ -2,8 +2,10 @@
 
 #include <QGuiApplication>
 #include <memory>
+#include <optional>
 #include <vector>
 
+#include "apps/support/RuntimeFolder.h"
 #include "host/rays/ViewItem.h"
 
 namespace cli {
@@ -15,6 +17,7 @@ class LabelFonts {
   explicit LabelFonts(const std::vector<host::ViewItem>& items);
 
  private:
+  std::optional<apps::RuntimeFolder> runtimeFolder_;
   int argumentCount_ = 0;
   std::unique_ptr<QGuiApplication> application_;
 };

@@ -2,13 +2,15 @@
 
 #include <iostream>
 
+#include "host/files/PrintableText.h"
+
 namespace cli {
 
 void Progress::report(double done) {
   const Clock::time_point now = Clock::now();
   if (now - last_ < std::chrono::seconds(1)) return;
   last_ = now;
-  std::cerr << what_ << ": " << static_cast<int>(done * 100.0) << " %\n";
+  host::printLine(std::cerr, what_ + ": " + std::to_string(static_cast<int>(done * 100.0)) + " %");
 }
 
 }  // namespace cli

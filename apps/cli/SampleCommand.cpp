@@ -4,6 +4,7 @@
 
 #include "apps/cli/Progress.h"
 #include "apps/support/ExitStatus.h"
+#include "host/files/PrintableText.h"
 #include "samples/repository/Plaza.h"
 #include "samples/repository/SampleRepository.h"
 
@@ -13,6 +14,11 @@ using namespace apps;
 
 namespace {
 
+int complain(const std::string& text, ExitStatus status) {
+  host::printLine(std::cerr, "zorvel sample: " + text);
+  return status;
+}
+
 bool holdsFiles(const std::filesystem::path& folder) {
   std::error_code error;
   return std::filesystem::exists(folder, error) && !std::filesystem::is_empty(folder, error);
@@ -21,10 +27,9 @@ bool holdsFiles(const std::filesystem::path& folder) {
 }  // namespace
 
 int runSample(const SampleCommandOptions& options) {
+  if (options.folder.empty()) return complain("DIR needs a name.", EXIT_USAGE);
   if (holdsFiles(options.folder) && !options.force) {
-    std::cerr << "zorvel sample: " << options.folder.string()
-              << " is not empty; --force writes into it all the same.\n";
-    return EXIT_FINDINGS;
+    return complain(options.folder.string() + " is not empty; --force writes into it all the same.", EXIT_USAGE);
   }
   Progress progress("Writing the sample repository");
   samples::SampleOptions sample;
@@ -35,11 +40,8 @@ int runSample(const SampleCommandOptions& options) {
   std::string error =
       samples::writeSampleRepository(options.folder, sample, [&progress](double done) { progress.report(done); });
   if (error.empty()) error = samples::writePlaza(options.folder / "plaza.json");
-  if (!error.empty()) {
-    std::cerr << "zorvel sample: " << error << '\n';
-    return EXIT_INTERNAL;
-  }
-  std::cout << "Wrote " << options.folder.string() << '\n';
+  if (!error.empty()) return complain(error, EXIT_INTERNAL);
+  host::printLine(std::cout, "Wrote " + options.folder.string());
   return EXIT_CLEAN;
 }
 

@@ -7,13 +7,14 @@
 #include <iostream>
 
 #include "host/files/PictureFile.h"
+#include "host/files/PrintableText.h"
 
 namespace guide {
 
 namespace {
 
 [[noreturn]] void fail(const QString& what) {
-  std::cerr << "zorvel-guide-pictures: " << what.toStdString() << '\n';
+  host::printLine(std::cerr, "zorvel-guide-pictures: " + what.toStdString());
   std::exit(1);
 }
 

@@ -5,6 +5,9 @@
 #include "apps/guide/WindowDriver.h"
 #include "apps/stage/DarkTheme.h"
 #include "apps/stage/Stage.h"
+#include "apps/support/ProgramStart.h"
+#include "apps/support/RuntimeFolder.h"
+#include "host/files/PrintableText.h"
 
 namespace {
 
@@ -67,12 +70,14 @@ void takeFine(guide::WindowDriver& driver) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+  apps::startProgram("zorvel-guide-pictures");
   if (argc < 3) {
     std::cerr << USAGE;
     return 2;
   }
   qputenv("QT_LOGGING_RULES", "default.warning=false");
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   stage::applyDarkTheme(application);
   stage::StageOptions options;
@@ -87,6 +92,6 @@ int main(int argc, char** argv) try {
   argc > 3 ? takeFine(driver) : takeAll(driver);
   return 0;
 } catch (const std::exception& error) {
-  std::cerr << "zorvel-guide-pictures: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel-guide-pictures: ") + error.what());
   return 1;
 }

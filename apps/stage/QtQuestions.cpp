@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include "apps/stage/ShownText.h"
 #include "host/application/Application.h"
 #include "host/files/Paths.h"
 #include "host/services/FileDialog.h"
@@ -61,9 +62,12 @@ Questions::File QtQuestions::saveFile(const QString& title, const QString& filte
 }
 
 Questions::Unsaved QtQuestions::unsavedChanges(const QString& name) {
-  const auto answer =
-      QMessageBox::question(window_, QObject::tr("Unsaved changes"), QObject::tr("Save the changes to %1?").arg(name),
-                            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+  QMessageBox box(QMessageBox::Question, QObject::tr("Unsaved changes"),
+                  QObject::tr("Save the changes to %1?").arg(shownText(name)),
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, window_);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Save);
+  const int answer = box.exec();
   if (answer == QMessageBox::Save) return Unsaved::Save;
   return answer == QMessageBox::Discard ? Unsaved::Discard : Unsaved::Cancel;
 }

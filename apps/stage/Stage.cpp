@@ -9,6 +9,7 @@
 #include "host/actions/IconFolders.h"
 #include "host/application/Application.h"
 #include "host/files/PictureFile.h"
+#include "host/files/PrintableText.h"
 #include "host/plugins/ModuleLoader.h"
 #include "host/services/Listener.h"
 
@@ -49,7 +50,7 @@ Stage::~Stage() {
 }
 
 void Stage::complain(const QString& text, int status) {
-  std::cerr << "zorvel-stage: " << text.toStdString() << '\n';
+  host::printLine(std::cerr, "zorvel-stage: " + text.toStdString());
   status_ = std::max(status_, status);
 }
 

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "apps/support/ExitStatus.h"
+#include "host/files/PrintableText.h"
 
 namespace stage {
 
@@ -45,7 +46,9 @@ ParsedOptions parseOptions(int argc, const char* const* argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return {std::nullopt, app.exit(error, std::cout, std::cerr) == 0 ? EXIT_CLEAN : EXIT_USAGE};
+    if (error.get_exit_code() == 0) return {std::nullopt, app.exit(error)};
+    host::printLine(std::cerr, std::string("zorvel-stage: ") + error.what() + " (--help says more)");
+    return {std::nullopt, EXIT_USAGE};
   }
   return {options, EXIT_CLEAN};
 }

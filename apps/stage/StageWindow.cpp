@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 
 #include "apps/stage/QtQuestions.h"
+#include "apps/stage/ShownText.h"
 #include "apps/stage/StageMenus.h"
 #include "apps/stage/WindowMemory.h"
 #include "host/application/Application.h"
@@ -109,7 +110,9 @@ void StageWindow::goToScriptLine() {
 }
 
 void StageWindow::showTitle() {
-  setWindowTitle(QString("%1[*] - Zorvel Stage").arg(document_->name()));
+  // Qt's mark for what was changed, which a name may hold.
+  const QString name = shownText(document_->name()).replace("[*]", "[*][*]");
+  setWindowTitle(QString("%1[*] - Zorvel Stage").arg(name));
   setWindowModified(document_->modified());
 }
 

@@ -6,6 +6,8 @@
 #include "apps/stage/Stage.h"
 #include "apps/support/ExitStatus.h"
 #include "apps/support/ProgramStart.h"
+#include "apps/support/RuntimeFolder.h"
+#include "host/files/PrintableText.h"
 
 int main(int argc, char** argv) try {
   apps::startProgram("zorvel-stage");
@@ -18,11 +20,12 @@ int main(int argc, char** argv) try {
   QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   // 150 % is 150 %.
   QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   stage::applyDarkTheme(application);
   stage::Stage run(*parsed.options);
   return run.run();
 } catch (const std::exception& error) {
-  std::cerr << "zorvel-stage: internal error: " << error.what() << '\n';
+  host::printLine(std::cerr, std::string("zorvel-stage: internal error: ") + error.what());
   return apps::EXIT_INTERNAL;
 }

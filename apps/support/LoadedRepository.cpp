@@ -15,11 +15,11 @@ namespace {
 
 class NoteKeeper : public ZORVEL::ParseObserver {
  public:
-  explicit NoteKeeper(std::vector<ZORVEL::ParseNote>& notes) : notes_(notes) {}
+  explicit NoteKeeper(std::deque<ZORVEL::ParseNote>& notes) : notes_(notes) {}
   void Noted(const ZORVEL::ParseNote& note) override { notes_.push_back(note); }
 
  private:
-  std::vector<ZORVEL::ParseNote>& notes_;
+  std::deque<ZORVEL::ParseNote>& notes_;
 };
 
 }  // namespace

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <deque>
 #include <filesystem>
 #include <string>
-#include <vector>
 
 #include "apps/support/SettledRoot.h"
 #include "repository/ParseObserver.h"
@@ -25,14 +25,14 @@ class LoadedRepository {
   /// One line, with the place in the file where there is one; empty when the repository could be read.
   const std::string& error() const { return error_; }
   /// What the parser refused, skipped or limited in a repository that could be read.
-  const std::vector<ZORVEL::ParseNote>& notes() const { return notes_; }
+  const std::deque<ZORVEL::ParseNote>& notes() const { return notes_; }
 
  private:
   std::string tryRead();
 
   std::filesystem::path root_;
   SettledRoot settings_;
-  std::vector<ZORVEL::ParseNote> notes_;
+  std::deque<ZORVEL::ParseNote> notes_;
   std::string error_;
 };
 

@@ -13,6 +13,8 @@
 #include <new>
 
 #include "apps/support/ExitStatus.h"
+#include "host/files/SignalWatch.h"
+#include "host/files/TemporaryFolder.h"
 
 namespace apps {
 
@@ -26,6 +28,16 @@ void tell(const char* text) {
   if (::write(STDERR_FILENO, text, std::strlen(text)) < 0) return;
 }
 
+/// As far as there is memory for that.
+void removeTemporaryFolders() {
+  std::set_new_handler(nullptr);
+  try {
+    host::TemporaryFolder::removeAll();
+  } catch (const std::exception&) {
+    tell("a temporary folder stays\n");
+  }
+}
+
 /// For one thread; others that come here in the meantime wait for the end.
 [[noreturn]] void end(const char* reason) {
   static std::atomic<bool> isEnding{false};
@@ -34,6 +46,7 @@ void tell(const char* text) {
   while (isEnding.exchange(true)) ::pause();
   isMine = true;
   for (const char* part : {programName, ": internal error: ", reason, "\n"}) tell(part);
+  removeTemporaryFolders();
   ::_exit(EXIT_INTERNAL);
 }
 
@@ -79,6 +92,7 @@ void startProgram(const char* name) {
   std::set_terminate(endUncaught);
   std::signal(SIGABRT, endAborted);
   xmlMemSetup(std::free, allocate, reallocate, duplicate);
+  host::watchSignals();
 }
 
 }  // namespace apps

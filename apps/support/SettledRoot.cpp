@@ -1,6 +1,7 @@
 #include "apps/support/SettledRoot.h"
 
 #include "core/Settings.h"
+#include "host/files/DiskTroubles.h"
 #include "host/files/Paths.h"
 
 namespace apps {
@@ -19,14 +20,23 @@ fs::path absoluteOrNowhere(const fs::path& path) {
   return absolute.empty() || error ? NOWHERE : absolute;
 }
 
-}  // namespace
-
-SettledRoot::SettledRoot(const fs::path& root) : appData_(NOWHERE) {
-  ZORVEL::Settings::LoadSettings();
-  // The trailing separator is what the dialog leaves.
-  ZORVEL::Settings::StorePath((host::toWide(absoluteOrNowhere(root).string()) + L"\\").c_str());
+bool isThere(const fs::path& path) {
+  std::error_code unknown;
+  return fs::exists(path, unknown);
 }
 
-SettledRoot::~SettledRoot() { ZORVEL::Settings::FreeSettings(); }
+}  // namespace
+
+SettledRoot::SettledRoot(const fs::path& root)
+    : root_(absoluteOrNowhere(root)), wasThere_(isThere(root_)), appData_(NOWHERE) {
+  ZORVEL::Settings::LoadSettings();
+  // The trailing separator is what the dialog leaves.
+  ZORVEL::Settings::StorePath((host::toWide(root_.string()) + L"\\").c_str());
+}
+
+SettledRoot::~SettledRoot() {
+  ZORVEL::Settings::FreeSettings();
+  if (wasThere_ && !isThere(root_)) host::DiskTroubles::instance().noteGone(root_.string());
+}
 
 }  // namespace apps

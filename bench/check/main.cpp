@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "bench/check/ShapedRepository.h"
+#include "host/files/SignalWatch.h"
 
 namespace {
 
@@ -17,6 +18,7 @@ int write(const char* shape, const char* size, const std::filesystem::path& root
 }  // namespace
 
 int main(int argc, char** argv) {
+  host::watchSignals();
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
   if (argc == 5 && std::string(argv[1]) == "write") return write(argv[2], argv[3], argv[4]);

@@ -118,13 +118,13 @@ bool AssetSteps::addCategoryOf(const CharacterData& character, const DataContain
     return true;
   }
   ZORVEL::FileStamps stamps;
-  for (const ZORVEL::OfferedElement& element : ZORVEL::PageOffers(character, stamps).GetAssetsWithoutPage()) {
-    if (element.record != &asset) continue;
+  ZORVEL::PageOffers(character, stamps).VisitAssetsWithoutPage([&](const ZORVEL::OfferedElement& element) {
+    if (element.record != &asset) return;
     // One that a pose asks for needs none.
     const bool isMeant = isAskedFor && element.refusal.why == ZORVEL::WhyNot::CategoryUnnamed;
     if (isMeant) steps_.note("category", "none: it is on no page");
     if (!isMeant) steps_.bad("category", survey_.reasonOf(element.refusal));
-  }
+  });
   return false;
 }
 

@@ -21,31 +21,18 @@ bool isReference(std::optional<EntryKind> kind) {
 }
 
 std::string idIn(const XmlElement& element) {
-  const wchar_t* id = element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID);
-  return id != nullptr ? host::toUtf8(id) : "";
+  const ZORVEL::XmlAttribute* id = element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID);
+  return id != nullptr ? id->text : "";
 }
 
 }  // namespace
 
-Elements::Elements(const Survey& survey) : survey_(survey) {
+Elements::Elements(const Survey& survey, const std::string& id) : survey_(survey), id_(id) {
   noteRecords();
   const XmlElement* root = survey.findings.description().root();
   if (root != nullptr) walk(*root, EntryKind::Repository);
-}
-
-std::vector<Element> Elements::withId(const std::string& id) const {
-  std::vector<Element> found;
-  std::copy_if(elements_.begin(), elements_.end(), std::back_inserter(found),
-               [&id](const Element& one) { return idIn(*one.source) == id; });
-  return found;
-}
-
-std::vector<std::string> Elements::ids() const {
-  std::vector<std::string> ids;
-  for (const Element& element : elements_) ids.push_back(idIn(*element.source));
-  std::sort(ids.begin(), ids.end());
-  ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
-  return ids;
+  std::sort(ids_.begin(), ids_.end());
+  ids_.erase(std::unique(ids_.begin(), ids_.end()), ids_.end());
 }
 
 void Elements::noteRecords() {
@@ -73,16 +60,23 @@ void Elements::noteRecords() {
 
 void Elements::note(const DataContainer* record, const CharacterData* character, const DataContainer* owner) {
   const XmlElement* source = survey_.elementOf(record);
-  if (source != nullptr) records_[source] = {source, {}, record, character, owner};
+  if (source != nullptr && idIn(*source) == id_) records_[source] = {source, {}, record, character, owner};
+}
+
+void Elements::take(const XmlElement& element, std::optional<EntryKind> kind) {
+  const std::string id = idIn(element);
+  if (ids_.empty() || ids_.back() != id) ids_.push_back(id);
+  if (id != id_) return;
+  const auto found = records_.find(&element);
+  Element one = found != records_.end() ? found->second : Element();
+  one.source = &element;
+  one.kind = kind;
+  elements_.push_back(one);
 }
 
 void Elements::walk(const XmlElement& element, std::optional<EntryKind> kind) {
   if (!isReference(kind) && element.FindAttribute(ZORVEL::RepositoryFormat::FIELD_ID) != nullptr) {
-    const auto found = records_.find(&element);
-    Element one = found != records_.end() ? found->second : Element();
-    one.source = &element;
-    one.kind = kind;
-    elements_.push_back(one);
+    take(element, kind);
   }
   for (const XmlElement* child = element.firstChild; child != nullptr; child = child->nextSibling) {
     if (!kind) {

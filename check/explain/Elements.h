@@ -22,23 +22,27 @@ struct Element {
   const ZORVEL::DataContainer* owner = nullptr;
 };
 
-/// All elements of a description that a person would ask for by id. What only refers to another is none of them.
+/// The elements of a description that a person would ask for by an id. What only refers to another is none of them.
 class Elements {
  public:
-  explicit Elements(const Survey& survey);
+  Elements(const Survey& survey, const std::string& id);
 
-  std::vector<Element> withId(const std::string& id) const;
-  std::vector<std::string> ids() const;
+  /// In the order of the description.
+  const std::vector<Element>& withId() const { return elements_; }
+  /// All ids that there are, sorted.
+  const std::vector<std::string>& ids() const { return ids_; }
 
  private:
   void noteRecords();
   void note(const ZORVEL::DataContainer* record, const ZORVEL::CharacterData* character,
             const ZORVEL::DataContainer* owner);
+  void take(const ZORVEL::XmlElement& element, std::optional<EntryKind> kind);
   void walk(const ZORVEL::XmlElement& element, std::optional<EntryKind> kind);
 
   const Survey& survey_;
+  std::string id_;
+  std::vector<std::string> ids_;
   std::unordered_map<const ZORVEL::XmlElement*, Element> records_;
-  /// In the order of the description.
   std::vector<Element> elements_;
 };
 

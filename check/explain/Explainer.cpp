@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "apps/support/ModelText.h"
-#include "check/PrintableText.h"
 #include "check/explain/AssetSteps.h"
 #include "check/explain/WearerSteps.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 #include "model/Data2.h"
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
@@ -50,9 +50,8 @@ Explainer::Explainer(CheckRun& run) : run_(run), survey_(run.survey()), findings
 Explanation Explainer::explain(const Element& element) {
   Explanation explanation;
   explanation.kind = kindText(element.kind);
-  const wchar_t* id = element.source->FindAttribute(FIELD_ID);
-  explanation.id = printable(host::toUtf8(id != nullptr ? id : L""));
-  explanation.element = printable(survey_.findings.description().pathOf(*element.source));
+  explanation.id = host::printable(host::toUtf8(element.source->GetText(FIELD_ID)));
+  explanation.element = host::printable(survey_.findings.description().pathOf(*element.source));
   explanation.line = element.source->line;
   explanation.column = element.source->column;
   Outcome outcome = {false, "not read, so nobody ever sees it"};
@@ -63,7 +62,7 @@ Explanation Explainer::explain(const Element& element) {
   }
   explanation.steps = steps_.take();
   explanation.works = outcome.works;
-  explanation.verdict = printable(outcome.verdict);
+  explanation.verdict = host::printable(outcome.verdict);
   explanation.findings = concerning(element);
   return explanation;
 }
@@ -136,9 +135,8 @@ Outcome Explainer::addRest(const Element& element) {
 
 /// Those about it, in it (but not all of a character), right around it, and those in the same character that name it.
 std::vector<Finding> Explainer::concerning(const Element& element) const {
-  const std::string path = printable(survey_.findings.description().pathOf(*element.source));
-  const wchar_t* id = element.source->FindAttribute(FIELD_ID);
-  const std::string named = '"' + printable(host::toUtf8(id != nullptr ? id : L"")) + '"';
+  const std::string path = host::printable(survey_.findings.description().pathOf(*element.source));
+  const std::string named = '"' + host::printable(host::toUtf8(element.source->GetText(FIELD_ID))) + '"';
   const std::string wearer = wearerOf(path);
   std::set<const XmlElement*> near = {element.source, aroundOf(element), sharedOf(element)};
   // Whatever is around what was not read may be what was refused.

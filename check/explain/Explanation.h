@@ -33,7 +33,7 @@ struct Explanation {
   std::string verdict;
 };
 
-/// Of all elements that have an id, in the order of the description.
+/// Of all elements that have an id, in the order of the description; of very many the first.
 struct ExplainResult {
   std::string root;
   std::string id;
@@ -41,6 +41,8 @@ struct ExplainResult {
   bool isReadable = true;
   std::string problem;
   std::vector<Explanation> explanations;
+  /// How many more there are, of which nothing is said.
+  std::size_t leftOut = 0;
   /// When no element has the id: those that are most like it.
   std::vector<std::string> nearest;
 };

@@ -33,7 +33,7 @@ void MaterialSteps::add(const ZORVEL::DataContainer& record, const std::string& 
 
 void MaterialSteps::add(const UsedMaterial& used, const std::string& owner) {
   const ZORVEL::MaterialResult result = ZORVEL::LibrarySearches::Run(
-      used.name.c_str(), used.libraries,
+      used.name, used.libraries,
       [this](const std::wstring& file, const wchar_t* name) { return libraries_.look(file, name); });
   const bool isFound = result.state == MaterialState::FromLibrary;
   std::string searched;

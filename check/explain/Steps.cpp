@@ -1,6 +1,6 @@
 #include "check/explain/Steps.h"
 
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -16,7 +16,7 @@ void Steps::count(const std::string& topic, std::size_t good, std::size_t all, c
 }
 
 void Steps::add(ExplainedStep::State state, const std::string& topic, const std::string& text) {
-  steps_.push_back({state, topic, printable(text)});
+  steps_.push_back({state, topic, host::printable(text)});
 }
 
 std::string ofAll(std::size_t count, std::size_t all, const std::string& nouns) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -17,7 +17,7 @@ bool beginsFormula(const std::string& text) {
 }
 
 std::string cell(const std::string& text) {
-  const std::string content = (beginsFormula(text) ? "'" : "") + printable(text);
+  const std::string content = (beginsFormula(text) ? "'" : "") + host::printable(text);
   if (content.find_first_of(",\"") == std::string::npos) return content;
   std::string quoted = "\"";
   for (const char c : content) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);

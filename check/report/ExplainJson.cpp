@@ -1,6 +1,6 @@
-#include "check/PrintableText.h"
 #include "check/report/ExplainReport.h"
 #include "check/report/FindingJson.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -35,10 +35,11 @@ std::string explainJson(const ExplainResult& result) {
   nlohmann::ordered_json json;
   json["format"] = "zorvel-explain";
   json["version"] = 1;
-  json["root"] = printable(result.root);
-  json["id"] = printable(result.id);
+  json["root"] = host::printable(result.root);
+  json["id"] = host::printable(result.id);
   json["elements"] = nlohmann::ordered_json::array();
   for (const Explanation& explanation : result.explanations) json["elements"].push_back(explanationJson(explanation));
+  if (result.leftOut > 0) json["leftOut"] = result.leftOut;
   json["nearest"] = result.nearest;
   return json.dump(2) + '\n';
 }

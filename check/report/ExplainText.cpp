@@ -1,8 +1,8 @@
 #include <map>
 
-#include "check/PrintableText.h"
 #include "check/report/ExplainReport.h"
 #include "check/report/FindingPlace.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -60,8 +60,9 @@ std::string explainText(const ExplainResult& result) {
   for (const Explanation& explanation : result.explanations) {
     text += (text.empty() ? "" : "\n") + textOf(explanation, repository);
   }
+  if (result.leftOut > 0) text += "\n\u2026 and " + std::to_string(result.leftOut) + " more elements have this id\n";
   if (!text.empty()) return text;
-  text = "There is no element with the id \"" + printable(result.id) + '"';
+  text = "There is no element with the id \"" + host::printable(result.id) + '"';
   for (std::size_t i = 0; i < result.nearest.size(); ++i) text += (i == 0 ? "; nearest: " : ", ") + result.nearest[i];
   return text + ".\n";
 }

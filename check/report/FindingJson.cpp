@@ -1,13 +1,13 @@
 #include "check/report/FindingJson.h"
 
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
 namespace {
 
 void addText(nlohmann::ordered_json& json, const char* key, const std::string& text) {
-  if (!text.empty()) json[key] = printable(text);
+  if (!text.empty()) json[key] = host::printable(text);
 }
 
 void addNumber(nlohmann::ordered_json& json, const char* key, int number) {
@@ -25,7 +25,7 @@ nlohmann::ordered_json findingJson(const Finding& finding) {
   addNumber(json, "column", finding.column);
   addText(json, "element", finding.element);
   addText(json, "subject", finding.subject);
-  json["message"] = printable(finding.message);
+  json["message"] = host::printable(finding.message);
   return json;
 }
 

@@ -1,6 +1,6 @@
 #include "check/report/FindingPlace.h"
 
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -8,7 +8,7 @@ namespace {
 
 std::string below(const std::string& root, const std::string& file) {
   const bool needsSlash = !root.empty() && root.back() != '/' && !file.empty();
-  return printable(root + (needsSlash ? "/" : "") + file);
+  return host::printable(root + (needsSlash ? "/" : "") + file);
 }
 
 }  // namespace

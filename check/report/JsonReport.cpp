@@ -2,9 +2,9 @@
 
 #include <set>
 
-#include "check/PrintableText.h"
 #include "check/report/FindingCounts.h"
 #include "check/report/FindingJson.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -19,7 +19,7 @@ Json describe(const JudgedRepository& repository) {
   const CheckResult& result = repository.result;
   const FindingCounts counts = countsOf(result);
   Json json;
-  json["root"] = printable(result.root);
+  json["root"] = host::printable(result.root);
   json["readable"] = result.isReadable;
   json["failed"] = repository.hasFailed;
   json["characters"] = result.characterCount;

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "check/PrintableText.h"
 #include "check/report/FindingPlace.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -13,7 +13,7 @@ namespace {
 std::string xmlText(const std::string& text) {
   static const std::vector<std::pair<std::string, std::string>> REPLACED = {
       {"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}, {"\"", "&quot;"}, {"\uFFFE", "\\ufffe"}, {"\uFFFF", "\\uffff"}};
-  std::string result = printable(text);
+  std::string result = host::printable(text);
   for (const auto& [from, to] : REPLACED) {
     for (std::size_t at = result.find(from); at != std::string::npos; at = result.find(from, at + to.size())) {
       result.replace(at, from.size(), to);

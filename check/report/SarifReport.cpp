@@ -6,7 +6,7 @@
 #include <map>
 #include <nlohmann/json.hpp>
 
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -58,7 +58,7 @@ Json locationOf(const Finding& finding, std::size_t repository) {
   if (finding.line > 0 && finding.column > 0) physical["region"]["startColumn"] = finding.column;
   Json location = {{"physicalLocation", physical}};
   if (!finding.element.empty()) {
-    const Json element = {{"fullyQualifiedName", printable(finding.element)}, {"kind", "element"}};
+    const Json element = {{"fullyQualifiedName", host::printable(finding.element)}, {"kind", "element"}};
     location["logicalLocations"] = Json::array({element});
   }
   return location;
@@ -95,7 +95,7 @@ class Run {
     json["ruleId"] = ruleOf(finding.rule).code;
     json["ruleIndex"] = indexOf(finding.rule);
     json["level"] = levelOf(finding.severity);
-    json["message"]["text"] = printable(finding.message);
+    json["message"]["text"] = host::printable(finding.message);
     json["locations"] = Json::array({locationOf(finding, repository)});
     json["partialFingerprints"]["zorvelFinding/v1"] = fingerprintOf(finding);
     return json;

@@ -4,9 +4,9 @@
 #include <set>
 #include <tuple>
 
-#include "check/PrintableText.h"
 #include "check/report/FindingCounts.h"
 #include "check/report/FindingPlace.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -92,9 +92,9 @@ class Writer {
   void add(const CheckResult& result, const Finding& finding) {
     const std::string severity = nameOf(finding.severity);
     text_ += colored("2", placeOf(result, finding) + ':') + ' ' + colored(bold(finding.severity), severity + ':') +
-             ' ' + printable(finding.message) + ' ' +
+             ' ' + host::printable(finding.message) + ' ' +
              colored(color(finding.severity), '[' + std::string(ruleOf(finding.rule).code) + ']') + '\n';
-    if (!finding.element.empty()) text_ += INDENT + printable(finding.element) + '\n';
+    if (!finding.element.empty()) text_ += INDENT + host::printable(finding.element) + '\n';
   }
 
   void addFold(Group::const_iterator begin, Group::const_iterator end) {

@@ -1,7 +1,7 @@
 #include <nlohmann/json.hpp>
 
-#include "check/PrintableText.h"
 #include "check/report/WearReport.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -47,7 +47,7 @@ std::string wearJson(const std::vector<JudgedRepository>& repositories) {
   json["repositories"] = WearJsonValue::array();
   for (const JudgedRepository& repository : repositories) {
     WearJsonValue one;
-    one["root"] = printable(repository.result.root);
+    one["root"] = host::printable(repository.result.root);
     one["readable"] = repository.result.isReadable;
     one["failed"] = repository.hasFailed;
     one["characters"] = WearJsonValue::array();

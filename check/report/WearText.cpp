@@ -3,10 +3,10 @@
 #include <set>
 #include <utility>
 
-#include "check/PrintableText.h"
 #include "check/report/FindingCounts.h"
 #include "check/report/FindingPlace.h"
 #include "check/report/WearReport.h"
+#include "host/files/PrintableText.h"
 
 namespace check {
 
@@ -176,7 +176,8 @@ std::string summaryFor(const JudgedRepository& repository) {
   std::string text = descriptionOf(repository.result);
   if (!repository.result.isReadable) {
     const auto& findings = repository.result.findings;
-    return text + " could not be checked: " + (findings.empty() ? "" : printable(findings.front().message)) + '\n';
+    return text + " could not be checked: " + (findings.empty() ? "" : host::printable(findings.front().message)) +
+           '\n';
   }
   std::size_t building = 0;
   std::size_t cells = 0;

@@ -204,7 +204,7 @@ void BuildRules::lookAtMesh(RuleId missing, const PiecePlan& plan, const DataCon
   } else if (state == MeshState::Unreadable) {
     survey_.findings.add(RuleId::MeshUnreadable, record, {file, "it is no file"});
   } else {
-    survey_.meshes.push_back({plan.meshFile, plan.element.kind, record});
+    survey_.meshes.push_back({survey_.paths.keep(plan.meshFile), plan.element.kind, record});
   }
 }
 
@@ -214,7 +214,7 @@ void BuildRules::lookAtMaterial(const PiecePlan& plan, EntryKind kind) {
   if (name == nullptr) {
     survey_.findings.add(RuleId::MaterialUnnamed, plan.materialRecord, {wordFor(kind)});
   } else {
-    survey_.materials.push_back({name, plan.libraries, plan.materialRecord});
+    survey_.materials.push_back({name, survey_.paths.keep(plan.libraries), plan.materialRecord});
   }
 }
 

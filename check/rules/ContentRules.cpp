@@ -132,7 +132,7 @@ void ContentRules::countClosed() {
 
 void ContentRules::lookAtMaterial(const UsedMaterial& used) {
   const ZORVEL::MaterialResult result = ZORVEL::LibrarySearches::Run(
-      used.name.c_str(), used.libraries,
+      used.name, used.libraries,
       [this](const std::wstring& file, const wchar_t* name) { return libraries_.look(file, name); });
   if (result.state == MaterialState::FromLibrary) return lookIntoMaterial(used, result.searches.back().file);
   // It may be in the one that cannot be read.
@@ -180,6 +180,10 @@ void ContentRules::lookAtTextures(const UsedMaterial& used, Mtl& material) {
     const std::string file = survey_.shown(texture.to);
     if (survey_.files.Look(texture.to) != DiskEntry::File) {
       survey_.findings.add(RuleId::TextureMissing, used.record, {used.name, file});
+    }
+    const FolderIndex::File* found = survey_.files.find(texture.to);
+    if (found != nullptr && !found->isRegular) {
+      survey_.findings.add(RuleId::FileUnreadable, used.record, {file, "it is no file"});
     }
     const auto [source, isNew] = textureSources_.emplace(texture.to, texture.from);
     // Once for each file.

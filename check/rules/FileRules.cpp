@@ -63,7 +63,7 @@ void FileRules::lookAtLetterCase() {
 
 void FileRules::lookAtUnreferenced() {
   if (survey_.files.unreferenced().empty()) return;
-  NamedFiles(survey_).refer();
+  if (!NamedFiles(survey_).refer()) return;
   const std::string maps = survey_.shown(ZORVEL::RepositoryPaths::Maps(survey_.root));
   for (const auto& [file, count] : survey_.files.unreferenced()) {
     // Whatever cannot be built may need the texture.

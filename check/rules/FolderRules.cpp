@@ -27,8 +27,7 @@ const wchar_t* const GLOBAL = L"global_assets";
 
 /// As the description has it: for a character the record holds the whole path.
 std::wstring writtenAttribute(const XmlElement* element, const wchar_t* name) {
-  const wchar_t* text = element != nullptr ? element->FindAttribute(name) : nullptr;
-  return text != nullptr ? text : L"";
+  return element != nullptr ? element->GetText(name) : L"";
 }
 
 bool isSeparator(wchar_t c) { return c == L'\\' || c == L'/'; }

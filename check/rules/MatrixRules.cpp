@@ -1,6 +1,7 @@
 #include "check/rules/MatrixRules.h"
 
 #include <map>
+#include <string_view>
 
 #include "apps/support/ModelText.h"
 #include "model/Fields.h"
@@ -10,6 +11,7 @@ namespace check {
 
 using ZORVEL::CharacterData;
 using ZORVEL::DataContainer;
+using ZORVEL::XmlAttribute;
 using ZORVEL::XmlElement;
 using namespace ZORVEL::RepositoryFormat;
 
@@ -51,16 +53,19 @@ void MatrixRules::run() {
 void MatrixRules::lookAt(const CharacterData& character, const XmlElement& element) {
   const IdsOf poses(character, ZORVEL::POSES);
   const IdsOf assets(character, ZORVEL::ASSETS);
-  std::map<std::pair<std::wstring, std::wstring>, int> rows;
+  // There may be a row for each asset in each pose.
+  std::map<std::pair<std::string_view, std::string_view>, int> rows;
   const auto lookAtRow = [&](const XmlElement& row) {
-    const wchar_t* poseId = row.FindAttribute(FIELD_POSE_ID);
-    const wchar_t* assetId = row.FindAttribute(FIELD_MATRIX_ASSET_ID);
-    if (poseId == nullptr || assetId == nullptr) {
-      survey_.missedPairs.emplace(&character, poseId != nullptr ? poseId : L"", assetId != nullptr ? assetId : L"");
+    const XmlAttribute* pose = row.FindAttribute(FIELD_POSE_ID);
+    const XmlAttribute* assetOfRow = row.FindAttribute(FIELD_MATRIX_ASSET_ID);
+    const std::wstring poseId = pose != nullptr ? pose->GetText() : L"";
+    const std::wstring assetId = assetOfRow != nullptr ? assetOfRow->GetText() : L"";
+    if (pose == nullptr || assetOfRow == nullptr) {
+      survey_.missedPairs.emplace(&character, poseId, assetId);
       return;
     }
     Findings& findings = survey_.findings;
-    const auto [first, isNew] = rows.emplace(std::make_pair(poseId, assetId), row.line);
+    const auto [first, isNew] = rows.emplace(std::make_pair(pose->text, assetOfRow->text), row.line);
     const DataContainer* asset = assets.find(assetId);
     if (!isNew) {
       findings.add(RuleId::MatrixRowDuplicate, &row, {first->second});

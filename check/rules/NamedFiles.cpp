@@ -1,5 +1,7 @@
 #include "check/rules/NamedFiles.h"
 
+#include <algorithm>
+
 #include "core/WindowsNames.h"
 #include "model/DataContainer.h"
 #include "model/RepositoryFormat.h"
@@ -14,7 +16,11 @@ namespace Paths = ZORVEL::RepositoryPaths;
 
 namespace {
 
-using Elements = std::vector<const XmlElement*>;
+/// What a path takes besides its characters, in characters.
+constexpr std::size_t PATH_WORK = 50;
+/// A second or two; and what an ordinary repository needs for each of very many elements.
+constexpr double LEAST_WORK = 3e8;
+constexpr double WORK_OF_ELEMENT = 800;
 
 /// With the attributes that files are named after, in whatever letter case they are written.
 class Record : public DataContainer {
@@ -22,8 +28,9 @@ class Record : public DataContainer {
   explicit Record(const XmlElement& element) {
     for (int i = 0; i < element.attributeCount; ++i) {
       for (const wchar_t* field : {FIELD_ID, FIELD_FOLDER, FIELD_PREVIEW}) {
-        const ZORVEL::FieldText& attribute = element.attributes[i];
-        if (ZORVEL::WindowsNames::AreAlike(attribute.name.GetText(), field)) SetData(field, attribute.text);
+        const ZORVEL::XmlAttribute& attribute = element.attributes[i];
+        if (ZORVEL::WindowsNames::AreAlike(attribute.name.GetText(), field))
+          SetData(field, attribute.GetText().c_str());
       }
     }
   }
@@ -35,21 +42,7 @@ void forEachChild(const XmlElement& element, Visit visit) {
   for (const XmlElement* child = element.firstChild; child != nullptr; child = child->nextSibling) visit(*child);
 }
 
-void collect(const XmlElement& element, const wchar_t* name, Elements& found) {
-  forEachChild(element, [&](const XmlElement& child) {
-    if (ZORVEL::WindowsNames::AreAlike(child.name, name)) found.push_back(&child);
-    collect(child, name, found);
-  });
-}
-
-/// At any depth.
-Elements allNamed(const XmlElement& element, const wchar_t* name) {
-  Elements found;
-  collect(element, name, found);
-  return found;
-}
-
-std::vector<std::wstring> idsOf(const Elements& elements) {
+std::vector<std::wstring> idsOf(const std::vector<const XmlElement*>& elements) {
   std::vector<std::wstring> ids;
   for (const XmlElement* element : elements) {
     bool isThere = false;
@@ -62,14 +55,38 @@ std::vector<std::wstring> idsOf(const Elements& elements) {
 
 }  // namespace
 
-void NamedFiles::refer() const {
+NamedFiles::NamedFiles(Survey& survey)
+    : survey_(survey),
+      workLeft_(std::max(LEAST_WORK, WORK_OF_ELEMENT * survey.findings.description().elementCount())) {}
+
+bool NamedFiles::refer() {
   const XmlElement* root = survey_.findings.description().root();
-  if (root == nullptr) return;
+  if (root == nullptr) return true;
   for (const XmlElement* list : allNamed(*root, ELEMENT_GLOBAL_ASSETS)) referShared(*list);
   for (const XmlElement* character : allNamed(*root, ELEMENT_CHARACTER)) referCharacter(*character);
+  return workLeft_ > 0;
 }
 
-void NamedFiles::referShared(const XmlElement& list) const {
+void NamedFiles::refer(const std::wstring& file) {
+  workLeft_ -= static_cast<double>(PATH_WORK + file.size());
+  if (workLeft_ > 0) survey_.files.Look(file);
+}
+
+NamedFiles::Elements NamedFiles::allNamed(const XmlElement& element, const wchar_t* name) {
+  Elements found;
+  collect(element, name, found);
+  return found;
+}
+
+void NamedFiles::collect(const XmlElement& element, const wchar_t* name, Elements& found) {
+  forEachChild(element, [&](const XmlElement& child) {
+    if (--workLeft_ <= 0) return;
+    if (ZORVEL::WindowsNames::AreAlike(child.name, name)) found.push_back(&child);
+    collect(child, name, found);
+  });
+}
+
+void NamedFiles::referShared(const XmlElement& list) {
   refer(Paths::GlobalLibrary(survey_.root));
   for (const XmlElement* asset : allNamed(list, ELEMENT_ASSET)) {
     const Record record(*asset);
@@ -77,7 +94,7 @@ void NamedFiles::referShared(const XmlElement& list) const {
   }
 }
 
-void NamedFiles::referCharacter(const XmlElement& character) const {
+void NamedFiles::referCharacter(const XmlElement& character) {
   const Record record(character);
   bool isThere = false;
   if (!record.has(FIELD_FOLDER)) return;
@@ -100,6 +117,7 @@ void NamedFiles::referCharacter(const XmlElement& character) const {
   for (const XmlElement* clothing : allNamed(character, ELEMENT_CLOTHING)) {
     const Record one(*clothing);
     const std::wstring id = idsOf({clothing}).front();
+    if (workLeft_ <= 0) return;
     for (const XmlElement* pose : poses) {
       const Record posed(*pose);
       refer(Paths::PosePicture(folder, id, &posed));
@@ -114,25 +132,26 @@ void NamedFiles::referCharacter(const XmlElement& character) const {
     if (!one.has(FIELD_FOLDER)) continue;
     const std::wstring files = Paths::Element(folder, &one);
     referAssetFiles(*asset, files);
+    if (workLeft_ <= 0) return;
     for (const std::wstring& pose : poseIds) refer(Paths::AssetMeshInPose(files, pose));
   }
 }
 
 /// Such a picture may be there for any element, though the window shows only those of clothes.
-void NamedFiles::referPreviews(const XmlElement& element, const std::wstring& folder) const {
+void NamedFiles::referPreviews(const XmlElement& element, const std::wstring& folder) {
   const Record record(element);
   refer(Paths::ClothPreview(folder, &record));
   forEachChild(element, [&](const XmlElement& child) { referPreviews(child, folder); });
 }
 
-void NamedFiles::referAssetFiles(const XmlElement& asset, const std::wstring& folder) const {
+void NamedFiles::referAssetFiles(const XmlElement& asset, const std::wstring& folder) {
   for (const std::wstring& file : {Paths::AssetMesh(folder), Paths::AssetPicture(folder), Paths::Library(folder)}) {
     refer(file);
   }
   referPictures(asset, folder);
 }
 
-void NamedFiles::referPictures(const XmlElement& element, const std::wstring& folder) const {
+void NamedFiles::referPictures(const XmlElement& element, const std::wstring& folder) {
   forEachChild(element, [&](const XmlElement& child) {
     const Record style(child);
     if (style.has(FIELD_PREVIEW)) refer(Paths::StylePicture(folder, &style));

@@ -90,13 +90,7 @@ void OfferRules::lookAtLists() {
 }
 
 bool OfferRules::hasDroppedClothes() const {
-  const Description& description = survey_.findings.description();
-  const ZORVEL::XmlElement* own = survey_.elementOf(&character_);
-  return std::any_of(description.notes().begin(), description.notes().end(), [&](const ZORVEL::ParseNote& note) {
-    if (note.kind != ZORVEL::ParseNoteKind::ClothingWithoutPreview) return false;
-    const ZORVEL::XmlElement* list = description.parentOf(*note.source);
-    return list != nullptr && description.parentOf(*list) == own;
-  });
+  return survey_.findings.description().hasDroppedClothes(survey_.elementOf(&character_));
 }
 
 void OfferRules::lookAtStrip() {
@@ -146,6 +140,7 @@ void OfferRules::choose(const DataContainer& clothing) {
 }
 
 void OfferRules::notePoses(const DataContainer& clothing, const PageOffer& page) {
+  if (!survey_.keepsOffers) return;
   for (const OfferedElement& element : page.shown) {
     survey_.poseOffers.push_back({&clothing, element.record, true, element.refusal});
   }
@@ -241,7 +236,7 @@ void OfferRules::takePicture(const PageOffer& page, const OfferedElement& elemen
   const DataContainer* record = element.style != nullptr ? element.style : element.record;
   // A pose has one for each clothing.
   if (page.kind != PageKind::Poses && !pictured_.insert(record).second) return;
-  survey_.pictures.push_back({element.picturePath, page.kind, record});
+  survey_.pictures.push_back({survey_.paths.keep(element.picturePath), page.kind, record});
 }
 
 void OfferRules::tellPictureMissing(RuleId rule, const OfferedElement& element, EntryKind kind) {
@@ -315,15 +310,16 @@ bool OfferRules::isAskedForByAPose(const std::wstring& id) {
 void OfferRules::tellAssetsWithoutPage() {
   if (survey_.isLost(character_, EntryKind::Categories)) return;
   const auto known = [this] { return apps::idsOf(apps::elementsOf(character_, ZORVEL::CATEGORIES)); };
-  for (const OfferedElement& element : offers_.GetAssetsWithoutPage()) {
+  offers_.VisitAssetsWithoutPage([&](const OfferedElement& element) {
     const std::wstring& id = element.refusal.concerned;
-    if (element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(idOf(element.record))) continue;
     if (element.refusal.why == WhyNot::CategoryUnnamed) {
-      survey_.findings.add(RuleId::AssetCategoryUnnamed, element.record, {});
+      if (!isAskedForByAPose(idOf(element.record))) {
+        survey_.findings.add(RuleId::AssetCategoryUnnamed, element.record, {});
+      }
     } else {
       survey_.findings.add(RuleId::AssetCategoryUnknown, element.record, {id, survey_.hintAt(id, known)});
     }
-  }
+  });
 }
 
 void OfferRules::tellNeverOffered() {

@@ -9,6 +9,7 @@
 
 namespace check {
 
+using ZORVEL::XmlAttribute;
 using ZORVEL::XmlElement;
 using namespace ZORVEL::RepositoryFormat;
 
@@ -117,7 +118,7 @@ void ReadingRules::tellSkipped(const ZORVEL::ParseNote& note) {
 }
 
 void ReadingRules::walk(const XmlElement& element, const ElementEntry& entry) {
-  entries_[&element] = &entry;
+  if (element.firstChild != nullptr) entries_[&element] = &entry;
   lookAtAttributes(element, entry);
   if (refused_.count(&element) > 0) return;
   lookAtName(element, entry);
@@ -151,7 +152,7 @@ void ReadingRules::lookAtAttributes(const XmlElement& element, const ElementEntr
       survey_.findings.addMisspelt(RuleId::UnknownAttribute, element, nearest != nullptr ? nearest : L"",
                                    {name, hintFor(nearest)});
     } else if (lookup.answer == AttributeLookup::Answer::Known) {
-      lookAtValue(element, entry, *lookup.entry, element.attributes[i].text);
+      lookAtValue(element, entry, *lookup.entry, element.attributes[i].GetText().c_str());
     }
   }
 }
@@ -181,8 +182,8 @@ void ReadingRules::lookAtValue(const XmlElement& element, const ElementEntry& en
 }
 
 void ReadingRules::lookAtName(const XmlElement& element, const ElementEntry& entry) {
-  const wchar_t* name = element.FindAttribute(FIELD_NAME);
-  if (name != nullptr && *name != L'\0') return;
+  const XmlAttribute* name = element.FindAttribute(FIELD_NAME);
+  if (name != nullptr && *name->text != '\0') return;
   if (isList(entry.kind) && name == nullptr) survey_.findings.add(RuleId::ListWithoutName, &element, {});
   if (hasName(entry)) survey_.findings.add(RuleId::ElementWithoutName, &element, {wordFor(entry.kind)});
 }

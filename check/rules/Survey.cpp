@@ -1,9 +1,9 @@
 #include "check/rules/Survey.h"
 
 #include "apps/support/NearestIds.h"
-#include "check/PrintableText.h"
 #include "check/Vocabulary.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 #include "model/Fields.h"
 #include "model/RepositoryFormat.h"
 
@@ -11,7 +11,7 @@ namespace check {
 
 std::string Survey::pathOf(const ZORVEL::DataContainer* record) const {
   const ZORVEL::XmlElement* element = elementOf(record);
-  return element != nullptr ? printable(findings.description().pathOf(*element)) : "";
+  return element != nullptr ? host::printable(findings.description().pathOf(*element)) : "";
 }
 
 std::string Survey::reasonOf(const ZORVEL::Refusal& refusal) const {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <set>
 #include <string>
 #include <tuple>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -16,24 +18,37 @@
 
 namespace check {
 
+/// Paths of files, each kept once: many elements may name the same.
+class PathPool {
+ public:
+  /// Stays where it is.
+  const std::wstring& keep(const std::wstring& path) { return *paths_.insert(path).first; }
+  const std::vector<std::wstring>& keep(const std::vector<std::wstring>& paths) { return *lists_.insert(paths).first; }
+
+ private:
+  std::unordered_set<std::wstring> paths_;
+  std::set<std::vector<std::wstring>> lists_;
+};
+
 /// A picture that the window shows.
 struct ShownPicture {
-  std::wstring path;
+  const std::wstring& path;
   ZORVEL::PageKind page;
   const ZORVEL::DataContainer* record;
 };
 
 /// A mesh that is there and that something is built from.
 struct UsedMesh {
-  std::wstring path;
+  const std::wstring& path;
   ZORVEL::ElementKind kind;
   const ZORVEL::DataContainer* record;
 };
 
 /// A material that something is built with.
 struct UsedMaterial {
-  std::wstring name;
-  std::vector<std::wstring> libraries;
+  /// The record's own.
+  const wchar_t* name;
+  const std::vector<std::wstring>& libraries;
   const ZORVEL::DataContainer* record;
 };
 
@@ -53,17 +68,19 @@ struct Survey {
   FolderIndex& files;
   /// As the settings hold it.
   std::wstring root;
-  std::vector<ShownPicture> pictures;
-  std::vector<UsedMesh> meshes;
-  std::vector<UsedMaterial> materials;
+  std::deque<ShownPicture> pictures;
+  std::deque<UsedMesh> meshes;
+  std::deque<UsedMaterial> materials;
+  PathPool paths = {};
   /// Elements that were skipped and hold what the other elements refer to: the element around them and their kind.
   std::set<std::pair<const ZORVEL::XmlElement*, EntryKind>> lostLists = {};
   /// Assets that another type is meant for than they are read with.
   std::set<const ZORVEL::XmlElement*> misread = {};
   /// Pose and asset of a character that a row of the asset matrix seems to mean and misses; empty for any.
   std::set<std::tuple<const ZORVEL::CharacterData*, std::wstring, std::wstring>> missedPairs = {};
-  /// All poses, for each clothing that has an id of its own.
-  std::vector<PoseOffer> poseOffers = {};
+  /// All poses, for each clothing that has an id of its own; empty when nobody wants to know.
+  std::deque<PoseOffer> poseOffers = {};
+  bool keepsOffers = false;
 
   const ZORVEL::XmlElement* elementOf(const ZORVEL::DataContainer* record) const {
     return findings.description().elementOf(record);

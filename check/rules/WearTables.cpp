@@ -4,8 +4,8 @@
 #include <initializer_list>
 
 #include "apps/support/ModelText.h"
-#include "check/PrintableText.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 #include "model/Fields.h"
 #include "model/MeshFiles.h"
 #include "model/PiecePlans.h"
@@ -63,8 +63,8 @@ WearCell cellFrom(WearState state, const Finding* finding) {
 }
 
 std::string idText(const XmlElement& element) {
-  const wchar_t* id = element.FindAttribute(FIELD_ID);
-  return id != nullptr ? printable(host::toUtf8(id)) : "";
+  const ZORVEL::XmlAttribute* id = element.FindAttribute(FIELD_ID);
+  return id != nullptr ? host::printable(id->text) : "";
 }
 
 }  // namespace
@@ -93,17 +93,17 @@ std::vector<WearTable> WearTables::make() const {
 WearTable WearTables::leftOut(const XmlElement& character, const std::string& why) const {
   WearTable table;
   table.character = idText(character);
-  table.element = printable(survey_.findings.description().pathOf(character));
+  table.element = host::printable(survey_.findings.description().pathOf(character));
   table.whyNone = why;
   return table;
 }
 
 WearTable WearTables::tableOf(const CharacterData& character) const {
   WearTable table;
-  table.character = printable(apps::field(&character, FIELD_ID));
+  table.character = host::printable(apps::field(&character, FIELD_ID));
   table.element = survey_.pathOf(&character);
   for (const DataContainer* pose : apps::elementsOf(character, ZORVEL::POSES)) {
-    table.poses.push_back(printable(apps::field(pose, FIELD_ID)));
+    table.poses.push_back(host::printable(apps::field(pose, FIELD_ID)));
   }
   for (const DataContainer* clothing : apps::elementsOf(character, ZORVEL::CLOTH)) {
     table.rows.push_back(rowOf(character, *clothing));
@@ -114,7 +114,7 @@ WearTable WearTables::tableOf(const CharacterData& character) const {
 
 WearRow WearTables::rowOf(const CharacterData& character, const DataContainer& clothing) const {
   WearRow row;
-  row.clothing = printable(apps::field(&clothing, FIELD_ID));
+  row.clothing = host::printable(apps::field(&clothing, FIELD_ID));
   row.element = survey_.pathOf(&clothing);
   for (const DataContainer* pose : apps::elementsOf(character, ZORVEL::POSES)) {
     row.cells.push_back(cellOf(character, clothing, *pose));
@@ -124,13 +124,14 @@ WearRow WearTables::rowOf(const CharacterData& character, const DataContainer& c
 
 void WearTables::addDropped(const CharacterData& character, WearTable& table) const {
   const Description& description = survey_.findings.description();
+  if (!description.hasDroppedClothes(survey_.elementOf(&character))) return;
   for (const ZORVEL::ParseNote& note : description.notes()) {
     if (note.kind != Kind::ClothingWithoutPreview) continue;
     const XmlElement* list = description.parentOf(*note.source);
     if (list == nullptr || description.parentOf(*list) != survey_.elementOf(&character)) continue;
     const Finding* finding = findings_.find(note.source, RuleId::ClothingPreviewMissing);
     const std::vector<WearCell> cells(table.poses.size(), cellFrom(WearState::Hidden, finding));
-    table.rows.push_back({idText(*note.source), printable(description.pathOf(*note.source)), cells});
+    table.rows.push_back({idText(*note.source), host::printable(description.pathOf(*note.source)), cells});
   }
 }
 
@@ -180,8 +181,8 @@ WearCell WearTables::refused(const PoseOffer& offer) const {
   if (finding == nullptr) finding = findings_.find(pose, RuleId::PosePictureMissing, file);
   if (finding == nullptr) finding = findings_.find(clothing, RuleId::ClothingNeverWorn);
   if (finding == nullptr) finding = findings_.find(pose, RuleId::PoseNeverWorn);
-  WearCell cell = {offer.isShown ? WearState::Grey : WearState::Hidden, printable(survey_.reasonOf(offer.refusal)),
-                   printable(file), ""};
+  WearCell cell = {offer.isShown ? WearState::Grey : WearState::Hidden,
+                   host::printable(survey_.reasonOf(offer.refusal)), host::printable(file), ""};
   cell.code = finding != nullptr ? ruleOf(finding->rule).code : codeAt(clothing);
   if (cell.code.empty()) cell.code = codeAt(pose);
   return cell;
@@ -208,7 +209,7 @@ WearCell WearTables::whyNotBuilt(const ZORVEL::PiecePlan& plan, const DataContai
   // What is told of the element explains it.
   const std::string why =
       plan.canBeBuilt ? "there is no mesh " + file : "it has no " + host::toUtf8(plan.omission.subject);
-  return {WearState::Incomplete, printable(why), plan.canBeBuilt ? printable(file) : "", codeAt(element)};
+  return {WearState::Incomplete, host::printable(why), plan.canBeBuilt ? host::printable(file) : "", codeAt(element)};
 }
 
 std::string WearTables::codeAt(const XmlElement* element) const {

@@ -1,6 +1,7 @@
 #include "host/application/HostInterface.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "host/actions/ActionManager.h"
 #include "host/application/Application.h"
@@ -11,12 +12,16 @@
 #include "host/scene/Scene.h"
 #include "host/services/Listener.h"
 #include "host/services/Prompts.h"
+#include "host/services/UndoStack.h"
 #include "host/view/SceneView.h"
 #include "host/view/Viewports.h"
 
 namespace host {
 
 namespace {
+
+/// Each piece of a build reads its libraries anew; those of a stranger may be large, and many.
+constexpr std::size_t MOST_LIBRARY_BYTES = std::size_t{512} << 20U;
 
 Application& application() { return Application::instance(); }
 
@@ -134,7 +139,10 @@ MtlBaseLib* HostInterface::GetSceneMtls() {
 
 int HostInterface::LoadMaterialLib(const MCHAR* name, MtlBaseLib* library) {
   const std::wstring path = textOf(name);
-  const MaterialLibraryContent content = readMaterialLibrary(path);
+  const std::size_t recording = Application::instance().undo().recordingCount();
+  if (std::exchange(librariesRecording_, recording) != recording) libraryBytes_ = 0;
+  const MaterialLibraryContent content = readMaterialLibrary(path, MOST_LIBRARY_BYTES - libraryBytes_);
+  libraryBytes_ += content.size;
   if (!content.error.empty()) {
     if (!content.missing) Listener::instance().report("Material library " + toUtf8(path) + " " + content.error + ".");
     return 0;

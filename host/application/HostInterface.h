@@ -62,6 +62,9 @@ class HostInterface final : public Interface13 {
   Ref<MaterialLibrary> sceneMaterials_;
   Ref<MaterialLibrary> library_;
   std::uint64_t sceneMaterialsRevision_ = 0;
+  /// Of the libraries that were read while the last recording was open, or since.
+  std::size_t libraryBytes_ = 0;
+  std::size_t librariesRecording_ = 0;
   MaxSDK::QmaxMainWindow* mainWindow_ = nullptr;
   TimeValue time_ = 0;
   BOOL animate_ = FALSE;

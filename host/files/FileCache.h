@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <iterator>
 #include <map>
@@ -14,8 +15,9 @@ namespace host {
 std::string fileStamp(const std::filesystem::path& file);
 
 /// What was made from files, each read once while anybody uses it: nothing is kept alive here. A file that was changed
-/// is read anew; one that could not be read is not tried again before it changes. `Result` is made of a shared pointer
-/// to a constant Value, and of one line that says why there is none. May be used from several threads.
+/// is read anew; one that could not be read is not tried again before it changes, unless the reason may pass. `Result`
+/// is made of a shared pointer to a constant Value, of one line that says why there is none, and of whether that may
+/// pass. May be used from several threads.
 template <class Value, class Result>
 class FileCache {
  public:
@@ -29,13 +31,17 @@ class FileCache {
     std::string stamp = fileStamp(file);
     const auto known = entries_.find(file);
     if (known != entries_.end() && known->second.stamp == stamp) {
-      if (auto value = known->second.value.lock()) return {std::move(value), {}};
-      if (!known->second.error.empty()) return {nullptr, known->second.error};
+      if (auto value = known->second.value.lock()) return {std::move(value), {}, false};
+      if (!known->second.error.empty()) return {nullptr, known->second.error, false};
     }
-    forgetTheDead();
+    if (entries_.size() >= sweepAt_) forgetTheDead();
     Result result = read_(file);
-    const auto& [value, error] = result;
-    entries_[file] = Entry{std::move(stamp), value, error};
+    const auto& [value, error, mayPass] = result;
+    if (mayPass) {
+      entries_.erase(file);
+    } else {
+      entries_[file] = Entry{std::move(stamp), value, error};
+    }
     return result;
   }
 
@@ -51,11 +57,16 @@ class FileCache {
       const bool dead = entry->second.value.expired() && entry->second.error.empty();
       entry = dead ? entries_.erase(entry) : std::next(entry);
     }
+    sweepAt_ = FEWEST_SWEPT + 2 * entries_.size();
   }
+
+  static constexpr std::size_t FEWEST_SWEPT = 16;
 
   Read read_;
   std::mutex mutex_;
   std::map<std::filesystem::path, Entry> entries_;
+  /// How many there have to be before it is worth the while to look for dead ones.
+  std::size_t sweepAt_ = FEWEST_SWEPT;
 };
 
 }  // namespace host

@@ -3,8 +3,10 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <memory>
 
+#include "host/files/DiskTroubles.h"
 #include "host/files/NameCase.h"
 #include "host/files/Paths.h"
 
@@ -26,12 +28,16 @@ bool sameTime(const std::timespec& left, const std::timespec& right) {
 std::unordered_map<std::wstring, std::string> readNames(const std::string& folder) {
   std::unordered_map<std::wstring, std::string> names;
   const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(folder.c_str()), &::closedir);
+  if (!directory) DiskTroubles::instance().note(folder, errno);
   if (!directory) return names;
+  errno = 0;
   while (const dirent* entry = ::readdir(directory.get())) {
     const std::string name = entry->d_name;
     std::string& held = names[foldName(name)];
     if (held.empty() || name < held) held = name;
+    errno = 0;
   }
+  DiskTroubles::instance().note(folder, errno);
   return names;
 }
 

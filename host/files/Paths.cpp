@@ -2,9 +2,11 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <climits>
 #include <cstdint>
 
+#include "host/files/DiskTroubles.h"
 #include "host/files/FolderListings.h"
 
 namespace host {
@@ -70,7 +72,9 @@ std::string withNativeSeparators(const std::string& path) {
 
 bool exists(const std::string& path) {
   struct stat status {};
-  return ::stat(path.c_str(), &status) == 0;
+  if (::stat(path.c_str(), &status) == 0) return true;
+  DiskTroubles::instance().note(path, errno);
+  return false;
 }
 
 std::string resolveNames(const std::string& path) {

@@ -8,11 +8,17 @@
 #include <cerrno>
 #include <utility>
 
+#include "host/files/FilesRead.h"
+
 namespace host {
 
 namespace {
 
 constexpr std::size_t BLOCK = std::size_t{1} << 20U;
+
+const char* const NOT_FOUND = "the file was not found";
+const char* const NO_FILE = "it is no file";
+const char* const NOT_OPENED = "the file cannot be opened";
 
 bool isRegular(const struct stat& status) { return S_ISREG(status.st_mode); }
 
@@ -21,13 +27,26 @@ bool isRegular(const struct stat& status) { return S_ISREG(status.st_mode); }
 RegularFile::RegularFile(const std::filesystem::path& file, Seen seen) {
   struct stat status {};
   const bool isKnown = seen == Seen::InListing;
-  if (!isKnown && (::stat(file.c_str(), &status) != 0 || !isRegular(status))) return;
+  if (!isKnown && ::stat(file.c_str(), &status) != 0) {
+    problem_ = NOT_FOUND;
+  } else if (!isKnown && !isRegular(status)) {
+    problem_ = NO_FILE;
+  } else {
+    open(file);
+  }
+}
+
+void RegularFile::open(const std::filesystem::path& file) {
   // It may have become a pipe meanwhile.
   descriptor_ = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  if (descriptor_ < 0) return;
-  if (::fstat(descriptor_, &status) == 0 && isRegular(status)) {
+  struct stat status {};
+  if (descriptor_ < 0) {
+    problem_ = NOT_OPENED;
+  } else if (::fstat(descriptor_, &status) == 0 && isRegular(status)) {
     size_ = static_cast<std::uintmax_t>(status.st_size);
+    FilesRead::note(file);
   } else {
+    problem_ = NO_FILE;
     ::close(release());
   }
 }

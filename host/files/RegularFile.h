@@ -20,6 +20,8 @@ class RegularFile {
   RegularFile& operator=(const RegularFile&) = delete;
 
   bool isOpen() const { return descriptor_ >= 0; }
+  /// Why it is not open, for a person.
+  const char* problem() const { return problem_; }
   /// When it was opened.
   std::uintmax_t size() const { return size_; }
   /// Reads on until `bytes` has so many or the file ends. False when it cannot be read.
@@ -30,10 +32,12 @@ class RegularFile {
   int release();
 
  private:
+  void open(const std::filesystem::path& file);
   /// How many bytes are still to come, as far as that is known.
   std::size_t expected() const;
 
   int descriptor_ = -1;
+  const char* problem_ = "";
   std::uintmax_t size_ = 0;
   std::uintmax_t position_ = 0;
   bool isAtEnd_ = false;

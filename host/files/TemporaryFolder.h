@@ -17,6 +17,10 @@ class TemporaryFolder {
   /// Empty when the folder could not be made.
   const std::filesystem::path& path() const { return path_; }
 
+  /// All that there are, for a program that ends in the middle: nothing is Uninterrupted any more, other threads may
+  /// still write.
+  static void removeAll();
+
  private:
   std::filesystem::path path_;
 };

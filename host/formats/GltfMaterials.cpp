@@ -2,13 +2,15 @@
 
 #include <imtl.h>
 
-#include <QFile>
 #include <QImage>
 #include <QString>
 #include <algorithm>
+#include <utility>
 
 #include "host/files/PictureFile.h"
+#include "host/files/RegularFile.h"
 #include "host/meshes/GltfGeometry.h"
+#include "host/services/Listener.h"
 #include "host/view/Surfaces.h"
 #include "host/view/Texture.h"
 
@@ -17,19 +19,30 @@ namespace host {
 namespace {
 
 struct Picture {
-  QByteArray bytes;
+  std::string bytes;
   const char* mimeType;
 };
 
-/// The file's own bytes where glTF allows its format, else the same picture as PNG; no bytes where it cannot be read.
-Picture pictureOf(const std::filesystem::path& path) {
-  const QString name = QString::fromStdString(path.u8string());
-  QFile file(name);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray bytes = file.readAll();
-  if (bytes.startsWith("\x89PNG")) return {bytes, "image/png"};
-  if (bytes.startsWith("\xFF\xD8\xFF")) return {bytes, "image/jpeg"};
-  return {pngBytes(QImage::fromData(bytes)), "image/png"};
+bool beginsWith(const std::string& bytes, const std::string& beginning) {
+  return bytes.compare(0, beginning.size(), beginning) == 0;
+}
+
+/// Empty, and the listener is told, when the file cannot be read once more.
+std::string readAgain(const std::filesystem::path& path) {
+  RegularFile file(path);
+  std::string bytes;
+  bytes.reserve(static_cast<std::size_t>(file.size()));
+  if (file.readUpTo(static_cast<std::size_t>(file.size()), bytes) && !bytes.empty()) return bytes;
+  Listener::instance().report("Texture " + path.u8string() + ": it cannot be read a second time, for the glTF file");
+  return {};
+}
+
+/// The file's own bytes where glTF allows its format, else as PNG what is drawn of it.
+Picture pictureOf(const Texture& texture) {
+  std::string bytes = readAgain(texture.file());
+  if (beginsWith(bytes, "\x89PNG")) return {std::move(bytes), "image/png"};
+  if (beginsWith(bytes, "\xFF\xD8\xFF")) return {std::move(bytes), "image/jpeg"};
+  return {pngBytes(texture.picture()).toStdString(), "image/png"};
 }
 
 std::string nameOf(Mtl* material, std::size_t slot, std::size_t slotCount) {
@@ -68,24 +81,24 @@ int GltfMaterials::append(Mtl* material, const Surface& surface, std::size_t slo
                           share(surface.opacity)};
   look.metallicFactor = 0.0;
   look.roughnessFactor = share(surface.roughness);
-  if (surface.texture) look.baseColorTexture.index = textureOf(surface.texture->file());
+  if (surface.texture) look.baseColorTexture.index = textureOf(*surface.texture);
   model_.materials.push_back(result);
   return static_cast<int>(model_.materials.size()) - 1;
 }
 
-int GltfMaterials::textureOf(const std::filesystem::path& file) {
-  const auto known = textures_.find(file);
+int GltfMaterials::textureOf(const Texture& drawn) {
+  const auto known = textures_.find(drawn.file());
   if (known != textures_.end()) return known->second;
-  return textures_[file] = appendTexture(file);
+  return textures_[drawn.file()] = appendTexture(drawn);
 }
 
-int GltfMaterials::appendTexture(const std::filesystem::path& file) {
-  const Picture picture = pictureOf(file);
-  if (picture.bytes.isEmpty()) return -1;
+int GltfMaterials::appendTexture(const Texture& drawn) {
+  const Picture picture = pictureOf(drawn);
+  if (picture.bytes.empty()) return -1;
   tinygltf::Image image;
-  image.name = file.stem().u8string();
+  image.name = drawn.file().stem().u8string();
   image.mimeType = picture.mimeType;
-  image.bufferView = appendBytes(model_, picture.bytes.constData(), static_cast<std::size_t>(picture.bytes.size()));
+  image.bufferView = appendBytes(model_, picture.bytes.data(), picture.bytes.size());
   model_.images.push_back(image);
   tinygltf::Texture texture;
   texture.source = static_cast<int>(model_.images.size()) - 1;

@@ -14,6 +14,8 @@ class Mtl;
 
 namespace host {
 
+class Texture;
+
 /// The materials and textures of a glTF document in the making, each entered once.
 class GltfMaterials {
  public:
@@ -27,8 +29,8 @@ class GltfMaterials {
   const std::vector<Surface>& surfaces(Mtl* material);
   int append(Mtl* material, const Surface& surface, std::size_t slot, std::size_t slotCount);
   /// -1 for a picture that cannot be stored.
-  int textureOf(const std::filesystem::path& file);
-  int appendTexture(const std::filesystem::path& file);
+  int textureOf(const Texture& drawn);
+  int appendTexture(const Texture& drawn);
 
   tinygltf::Model& model_;
   std::map<Mtl*, std::vector<Surface>> surfaces_;

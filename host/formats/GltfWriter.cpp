@@ -37,6 +37,9 @@ std::vector<double> gltfMatrix(const Matrix3& m) {
   return numbers;
 }
 
+/// Meshes of many materials, times the materials that they are shown in.
+constexpr std::size_t MOST_PARTS = 100'000;
+
 class SceneWriter {
  public:
   explicit SceneWriter(tinygltf::Model& model) : model_(model), materials_(model) {}
@@ -52,6 +55,9 @@ class SceneWriter {
     model_.scenes.push_back(scene);
     model_.defaultScene = 0;
   }
+
+  /// Then what was made is not whole.
+  bool isTooLarge() const { return parts_ > MOST_PARTS; }
 
  private:
   int append(tinygltf::Node node) {
@@ -101,12 +107,14 @@ class SceneWriter {
     const auto key = std::make_pair(mesh, node.GetMtl());
     const auto known = meshes_.find(key);
     if (known != meshes_.end()) return known->second;
+    if (isTooLarge()) return -1;
     tinygltf::Mesh result;
     result.name = text(node.GetName());
     result.primitives = geometryOf(mesh);
     for (tinygltf::Primitive& primitive : result.primitives) {
       primitive.material = materials_.indexOf(node.GetMtl(), static_cast<std::size_t>(primitive.material));
     }
+    parts_ += result.primitives.size();
     model_.meshes.push_back(result);
     return meshes_[key] = static_cast<int>(model_.meshes.size()) - 1;
   }
@@ -123,6 +131,7 @@ class SceneWriter {
   // They hold the meshes, so that none dies and leaves its address to another while the document is made.
   std::map<std::shared_ptr<const Mesh>, std::vector<tinygltf::Primitive>> geometries_;
   std::map<std::pair<std::shared_ptr<const Mesh>, Mtl*>, int> meshes_;
+  std::size_t parts_ = 0;
 };
 
 }  // namespace
@@ -130,8 +139,9 @@ class SceneWriter {
 std::string writeGltf(Node& root, double metresPerUnit, const std::filesystem::path& file) {
   if (!(metresPerUnit > 0.0) || !std::isfinite(metresPerUnit)) return "the scene's unit is not a length";
   tinygltf::Model model;
-  SceneWriter(model).write(root, metresPerUnit);
-  const std::string bytes = toGlb(model);
+  SceneWriter writer(model);
+  writer.write(root, metresPerUnit);
+  const std::string bytes = writer.isTooLarge() ? std::string() : toGlb(model);
   if (bytes.empty()) return "the scene is too large for one glTF file";
   return writeWholeFile(file, bytes);
 }

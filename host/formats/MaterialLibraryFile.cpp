@@ -1,12 +1,11 @@
 #include "host/formats/MaterialLibraryFile.h"
 
 #include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "host/files/JsonBounds.h"
 #include "host/files/Paths.h"
+#include "host/files/RegularFile.h"
 #include "host/formats/MaterialReader.h"
 #include "host/formats/Unreadable.h"
 
@@ -17,18 +16,15 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 constexpr int FORMAT_VERSION = 1;
-constexpr std::uintmax_t MAXIMUM_BYTES = 64U << 20U;
 
-std::string contentOf(const std::filesystem::path& file) {
-  std::error_code error;
-  const std::uintmax_t size = std::filesystem::file_size(file, error);
-  if (error) throw Unreadable("cannot be read (" + error.message() + ")");
-  if (size > MAXIMUM_BYTES) throw Unreadable("is too large for a material library");
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream content;
-  content << stream.rdbuf();
-  if (!stream) throw Unreadable("cannot be read");
-  return content.str();
+std::string contentOf(RegularFile& file, std::size_t most) {
+  if (!file.isOpen()) throw Unreadable("cannot be read");
+  if (file.size() > LARGEST_LIBRARY) throw Unreadable("is too large for a material library");
+  if (file.size() > most) throw Unreadable("is not read: too much was read for this build already");
+  std::string content;
+  content.reserve(static_cast<std::size_t>(file.size()) + 1);
+  if (!file.readUpTo(LARGEST_LIBRARY, content)) throw Unreadable("cannot be read");
+  return content;
 }
 
 std::vector<Ref<Mtl>> materialsIn(std::string_view text) {
@@ -37,7 +33,8 @@ std::vector<Ref<Mtl>> materialsIn(std::string_view text) {
   if (!document.is_object() || document.value("format", "") != "zorvel-material-library") {
     throw Unreadable("is no material library that this host reads");
   }
-  if (document.value("version", 0) != FORMAT_VERSION) throw Unreadable("has a version that this host does not read");
+  if (document.value("version", Json()) != FORMAT_VERSION)
+    throw Unreadable("has a version that this host does not read");
   std::vector<Ref<Mtl>> result;
   for (const Json& entry : document.at("materials")) {
     if (entry.is_object()) result.push_back(MaterialReader().material(entry));
@@ -61,15 +58,18 @@ MaterialLibraryContent reading(Read read) {
 
 }  // namespace
 
-MaterialLibraryContent readMaterialLibrary(const std::wstring& path) {
-  return reading([&path](MaterialLibraryContent& content) {
+MaterialLibraryContent readMaterialLibrary(const std::wstring& path, std::size_t most) {
+  return reading([&path, most](MaterialLibraryContent& content) {
     const std::filesystem::path file = resolvePath(path);
     std::error_code error;
     content.missing = !std::filesystem::exists(file, error);
     if (content.missing) {
       content.error = "does not exist";
     } else {
-      content.materials = materialsIn(contentOf(file));
+      RegularFile regular(file);
+      const std::string text = contentOf(regular, most);
+      content.size = text.size();
+      content.materials = materialsIn(text);
     }
   });
 }

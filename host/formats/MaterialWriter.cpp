@@ -1,5 +1,7 @@
 #include "host/formats/MaterialWriter.h"
 
+#include <stdexcept>
+
 #include "host/files/Paths.h"
 #include "host/materials/BitmapTexture.h"
 #include "host/materials/MaterialWalk.h"
@@ -9,6 +11,9 @@ namespace host {
 namespace {
 
 using Json = MaterialWriter::Json;
+
+/// Each node names those of its material, and both may be many.
+constexpr std::size_t MOST_TEXTURES = 500'000;
 
 void describe(MtlBase& one, Json& json) {
   json["name"] = toUtf8(one.GetName().data());
@@ -29,7 +34,10 @@ Json MaterialWriter::material(Mtl* mtl) {
   describe(*mtl, json);
   const bool known = isKnown(*mtl, json);
   json["textures"] = Json::array();
-  forEachBitmap(*mtl, [&](BitmapTex& bitmap) { json["textures"].push_back(toUtf8(bitmap.GetMapName())); });
+  forEachBitmap(*mtl, [&](BitmapTex& bitmap) {
+    if (++textures_ > MOST_TEXTURES) throw std::length_error("the scene's materials have too many textures");
+    json["textures"].push_back(toUtf8(bitmap.GetMapName()));
+  });
   if (known) return json;
   json["blocks"] = blocks(*mtl);
   json["subMaterials"] = Json::array();

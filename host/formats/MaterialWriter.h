@@ -15,6 +15,7 @@ class MaterialWriter {
  public:
   using Json = nlohmann::ordered_json;
 
+  /// Throws std::length_error where all together name more textures than a file can hold.
   Json material(Mtl* mtl);
 
  private:
@@ -25,6 +26,7 @@ class MaterialWriter {
   bool isKnown(MtlBase& one, Json& json);
 
   std::map<const MtlBase*, int> ids_;
+  std::size_t textures_ = 0;
 };
 
 }  // namespace host

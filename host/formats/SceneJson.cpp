@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <stdexcept>
 #include <unordered_set>
 
 #include "host/files/Paths.h"
@@ -89,7 +90,12 @@ std::string sceneJson(Scene& scene, const Units& units) {
 }
 
 std::string writeSceneJson(Scene& scene, const Units& units, const std::filesystem::path& file) {
-  const std::string text = sceneJson(scene, units);
+  std::string text;
+  try {
+    text = sceneJson(scene, units);
+  } catch (const std::length_error& tooMuch) {
+    return tooMuch.what();
+  }
   const std::string problem = writeWholeFile(file, text);
   const std::string excess = problem.empty() ? excessOf(text) : "";
   if (!excess.empty())

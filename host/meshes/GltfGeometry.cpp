@@ -3,6 +3,7 @@
 #include <cstring>
 #include <exception>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 namespace host {
@@ -56,6 +57,50 @@ int appendTriangles(tinygltf::Model& model, const std::vector<Mesh::Triangle>& t
   return index;
 }
 
+void appendWord(std::string& bytes, std::size_t word) {
+  for (int shift = 0; shift < 32; shift += 8) bytes += static_cast<char>(static_cast<unsigned char>(word >> shift));
+}
+
+std::size_t padded(std::size_t size) { return (size + 3) / 4 * 4; }
+
+/// A chunk's header; its content and what fills it up follow.
+void appendChunkHeader(std::string& bytes, std::size_t size, std::size_t type) {
+  appendWord(bytes, padded(size));
+  appendWord(bytes, type);
+}
+
+/// The document's JSON, for a buffer of that size. The buffer itself is kept away from the library, which would copy it
+/// several times.
+std::string jsonOf(const tinygltf::Model& model, std::size_t bufferSize) {
+  constexpr std::size_t beforeJson = 20;
+  std::ostringstream stream;
+  tinygltf::TinyGLTF writer;
+  if (!writer.WriteGltfSceneToStream(&model, stream, false, true)) return {};
+  const std::string glb = stream.str();
+  auto json = nlohmann::json::parse(glb.begin() + beforeJson, glb.end());
+  if (bufferSize > 0) json["buffers"][0]["byteLength"] = bufferSize;
+  return json.dump();
+}
+
+std::string container(const std::string& json, const std::vector<unsigned char>& binary) {
+  constexpr std::size_t header = 12;
+  constexpr std::size_t chunkHeader = 8;
+  const std::size_t binaryChunk = binary.empty() ? 0 : chunkHeader + padded(binary.size());
+  const std::size_t size = header + chunkHeader + padded(json.size()) + binaryChunk;
+  std::string bytes = "glTF";
+  bytes.reserve(size);
+  appendWord(bytes, 2);
+  appendWord(bytes, size);
+  appendChunkHeader(bytes, json.size(), 0x4E4F534A);
+  bytes += json;
+  bytes.resize(header + chunkHeader + padded(json.size()), ' ');
+  if (binary.empty()) return bytes;
+  appendChunkHeader(bytes, binary.size(), 0x004E4942);
+  bytes.append(binary.begin(), binary.end());
+  bytes.resize(size, '\0');
+  return bytes;
+}
+
 }  // namespace
 
 int appendBytes(tinygltf::Model& model, const void* bytes, std::size_t size, int target) {
@@ -91,17 +136,17 @@ std::vector<tinygltf::Primitive> appendGeometry(tinygltf::Model& model, const Me
 
 std::string toGlb(tinygltf::Model& model) {
   constexpr std::size_t limit = 0xF0000000U;
-  if (!model.buffers.empty() && model.buffers.front().data.size() > limit) return {};
+  std::vector<unsigned char> binary;
+  if (!model.buffers.empty()) binary.swap(model.buffers.front().data);
+  if (binary.size() > limit) return {};
   model.asset.version = "2.0";
   model.asset.generator = "zorvel";
-  std::ostringstream stream;
   try {
-    tinygltf::TinyGLTF writer;
-    if (!writer.WriteGltfSceneToStream(&model, stream, false, true)) return {};
+    const std::string json = jsonOf(model, binary.size());
+    return json.empty() ? std::string() : container(json, binary);
   } catch (const std::exception&) {
     return {};
   }
-  return stream.str();
 }
 
 }  // namespace host

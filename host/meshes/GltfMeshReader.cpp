@@ -17,6 +17,10 @@ namespace {
 
 using Json = GltfDocument::Json;
 
+/// Nodes may show a mesh over and over; this much may come of a small file, and so much more of each of its bytes.
+constexpr std::size_t ALWAYS_MADE = 50'000;
+constexpr std::size_t MADE_OF_A_BYTE = 2;
+
 enum PrimitiveMode : std::size_t { TRIANGLES = 4, STRIP, FAN };
 
 const Matrix3 FROM_METRES_Y_UP({100, 0, 0}, {0, 0, 100}, {0, -100, 0}, {0, 0, 0});
@@ -87,7 +91,8 @@ std::vector<std::uint32_t> consecutive(std::size_t count) {
 /// Walks the default scene and gathers what it meets into one mesh.
 class SceneMerger {
  public:
-  explicit SceneMerger(const GltfDocument& document) : document_(document) {}
+  SceneMerger(const GltfDocument& document, std::size_t fileSize)
+      : document_(document), mostMade_(ALWAYS_MADE + MADE_OF_A_BYTE * fileSize) {}
 
   Mesh merge() {
     visited_.assign(GltfDocument::list(document_.root(), "nodes").size(), false);
@@ -163,14 +168,25 @@ class SceneMerger {
   }
 
   /// Before room is made for them.
-  static void requireFit(std::size_t added, std::size_t there, std::size_t most) {
-    if (there > most || added > most - there) throw UnreadableMesh("the mesh is too large");
+  static void requireFit(std::size_t added, std::size_t there, std::size_t most, const char* problem) {
+    if (there > most || added > most - there) throw UnreadableMesh(problem);
+  }
+
+  void requireTriangles(std::size_t corners) const {
+    const std::size_t there = 3 * mesh_.triangles.size();
+    requireFit(corners, there, 3 * MOST_TRIANGLES, "the mesh is too large");
+    requireFit(corners, there, 3 * mostMade_, TOO_OFTEN);
+  }
+
+  void requireVertices(std::size_t count) const {
+    requireFit(count, mesh_.positions.size(), MOST_VERTICES, "the mesh is too large");
+    requireFit(count, mesh_.positions.size(), mostMade_, TOO_OFTEN);
   }
 
   std::vector<std::uint32_t> corners(const Json& primitive, std::size_t count) const {
     const auto indices = GltfDocument::optionalIndex(primitive, "indices");
     if (!indices) return consecutive(count);
-    requireFit(document_.count(*indices), 3 * mesh_.triangles.size(), 3 * MOST_TRIANGLES);
+    requireTriangles(document_.count(*indices));
     return document_.indices(*indices);
   }
 
@@ -179,7 +195,7 @@ class SceneMerger {
     if (attributes == primitive.end()) throw UnreadableMesh("the glTF file has triangles without positions");
     const auto positions = GltfDocument::optionalIndex(*attributes, "POSITION");
     if (!positions) throw UnreadableMesh("the glTF file has triangles without positions");
-    requireFit(document_.count(*positions), mesh_.positions.size(), MOST_VERTICES);
+    requireVertices(document_.count(*positions));
     const std::vector<Point3> points = document_.points(*positions);
     for (const Point3& p : points) mesh_.positions.push_back(transform.PointTransform(p));
     appendNormals(*attributes, transform);
@@ -190,8 +206,8 @@ class SceneMerger {
   /// A part without normals is left with none of any length, which completeMesh then fills.
   void appendNormals(const Json& attributes, const Matrix3& transform) {
     if (const auto accessor = GltfDocument::optionalIndex(attributes, "NORMAL")) {
+      mesh_.normals.resize(mesh_.positions.size() - requireCount(document_.count(*accessor)));
       const std::vector<Point3> normals = document_.points(*accessor);
-      mesh_.normals.resize(mesh_.positions.size() - requireCount(normals.size()));
       const Matrix3 carry = forNormals(transform);
       const float side = mirrors(transform) ? -1.0F : 1.0F;
       for (const Point3& n : normals) mesh_.normals.push_back(carry.VectorTransform(n).Normalize() * side);
@@ -201,21 +217,21 @@ class SceneMerger {
 
   void appendTexCoords(const Json& attributes) {
     if (const auto accessor = GltfDocument::optionalIndex(attributes, "TEXCOORD_0")) {
+      mesh_.texCoords.resize(mesh_.positions.size() - requireCount(document_.count(*accessor)));
       const std::vector<TexCoord> coords = document_.texCoords(*accessor);
-      mesh_.texCoords.resize(mesh_.positions.size() - requireCount(coords.size()));
       for (const TexCoord& coord : coords) mesh_.texCoords.push_back({coord.u, 1.0F - coord.v});
     }
     if (!mesh_.texCoords.empty()) mesh_.texCoords.resize(mesh_.positions.size());
   }
 
-  /// `count` where it is as many as the positions appended last.
+  /// `count` where it is as many as the positions appended last; asked before room is made for them.
   std::size_t requireCount(std::size_t count) const {
     if (count != mesh_.positions.size() - partStart_) throw UnreadableMesh("the glTF file has parts that do not match");
     return count;
   }
 
   void appendTriangles(const std::vector<Mesh::Triangle>& triangles, std::size_t first, std::size_t count, bool flip) {
-    requireFit(triangles.size(), mesh_.triangles.size(), MOST_TRIANGLES);
+    requireTriangles(3 * triangles.size());
     for (const Mesh::Triangle& triangle : triangles) {
       const bool inside = triangle[0] < count && triangle[1] < count && triangle[2] < count;
       if (!inside) throw UnreadableMesh("the glTF file has triangles without positions");
@@ -233,7 +249,10 @@ class SceneMerger {
     mesh_.materialIds.resize(mesh_.triangles.size(), material);
   }
 
+  static constexpr const char* TOO_OFTEN = "the glTF file shows its meshes too often";
+
   const GltfDocument& document_;
+  std::size_t mostMade_;
   Mesh mesh_;
   std::vector<bool> visited_;
   std::vector<std::pair<std::size_t, Matrix3>> waiting_;
@@ -247,7 +266,7 @@ bool looksLikeGlb(std::string_view bytes) { return bytes.substr(0, 4) == "glTF";
 
 Mesh readGlb(std::string_view bytes) {
   const GltfDocument document(bytes);
-  return SceneMerger(document).merge();
+  return SceneMerger(document, bytes.size()).merge();
 }
 
 }  // namespace host

@@ -1,10 +1,9 @@
 #include "host/meshes/MeshFile.h"
 
 #include <cmath>
-#include <cstdint>
 #include <exception>
-#include <fstream>
 
+#include "host/files/RegularFile.h"
 #include "host/meshes/GltfMeshReader.h"
 #include "host/meshes/ObjMeshReader.h"
 #include "host/meshes/UnreadableMesh.h"
@@ -12,8 +11,6 @@
 namespace host {
 
 namespace {
-
-constexpr std::uintmax_t LARGEST_FILE = std::uintmax_t(1) << 30U;
 
 Mesh meshFrom(std::string_view bytes) {
   if (bytes.empty()) throw UnreadableMesh("the file is empty");
@@ -32,15 +29,13 @@ void requireSensible(const Mesh& mesh) {
   }
 }
 
-std::string readBytes(const std::filesystem::path& file) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) throw UnreadableMesh("the file was not found");
-  const std::uintmax_t size = std::filesystem::file_size(file, error);
-  if (error) throw UnreadableMesh("the file cannot be read");
-  if (size > LARGEST_FILE) throw UnreadableMesh("the file is larger than one gigabyte");
-  std::string bytes(static_cast<std::size_t>(size), '\0');
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream.read(bytes.data(), static_cast<std::streamsize>(size))) throw UnreadableMesh("the file cannot be read");
+std::string readBytes(const std::filesystem::path& path) {
+  RegularFile file(path);
+  if (!file.isOpen()) throw UnreadableMesh(file.problem());
+  std::string bytes;
+  if (file.size() <= LARGEST_MESH_FILE) bytes.reserve(static_cast<std::size_t>(file.size()) + 1);
+  if (!file.readUpTo(LARGEST_MESH_FILE + 1, bytes)) throw UnreadableMesh("the file cannot be read");
+  if (bytes.size() > LARGEST_MESH_FILE) throw UnreadableMesh("the file is larger than 128 MiB");
   return bytes;
 }
 
@@ -51,13 +46,13 @@ MeshResult reading(Make make) {
     auto mesh = std::make_shared<Mesh>(make());
     requireSensible(*mesh);
     completeMesh(*mesh);
-    return {std::move(mesh), {}};
+    return {std::move(mesh), {}, false};
   } catch (const UnreadableMesh& unreadable) {
-    return {nullptr, unreadable.what()};
+    return {nullptr, unreadable.what(), false};
   } catch (const std::bad_alloc&) {
-    return {nullptr, "not enough memory for this mesh"};
+    return {nullptr, "not enough memory for this mesh", true};
   } catch (const std::exception&) {
-    return {nullptr, "the file is damaged"};
+    return {nullptr, "the file is damaged", false};
   }
 }
 

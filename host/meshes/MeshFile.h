@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -13,7 +14,12 @@ namespace host {
 struct MeshResult {
   std::shared_ptr<const Mesh> mesh;
   std::string error;
+  /// Whether the reason lies elsewhere than in the file.
+  bool mayPass = false;
 };
+
+/// In bytes.
+constexpr std::size_t LARGEST_MESH_FILE = std::size_t{128} << 20U;
 
 /// Tells the format by its content, whatever the file is called: glTF binary, or OBJ. Any bytes may be given.
 MeshResult readMesh(std::string_view bytes);

@@ -1,5 +1,6 @@
 #include "host/meshes/ObjMeshReader.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <map>
@@ -17,6 +18,12 @@ constexpr std::uint32_t NONE = std::numeric_limits<std::uint32_t>::max();
 // Of the vertices at one position only the latest are looked through for an equal one; more of them is no real mesh,
 // and a vertex too many does no harm.
 constexpr std::size_t FURTHEST_BACK = 64;
+
+// Comparisons of corners, of which a convex polygon takes half as many as the square of its corners. Many polygons of
+// many corners are no mesh of a person, and to cut them right takes long.
+constexpr std::size_t MOST_EFFORT = 200'000'000;
+constexpr std::size_t ALWAYS_SPENT = 100'000;
+constexpr std::size_t SPENT_ON_A_BYTE = 50;
 
 /// The next word of a line, which is shortened by it; empty at the end.
 std::string_view nextWord(std::string_view& line) {
@@ -49,6 +56,7 @@ struct Corner {
 class ObjReader {
  public:
   Mesh read(std::string_view text) {
+    effort_ = std::min(MOST_EFFORT, ALWAYS_SPENT + SPENT_ON_A_BYTE * text.size());
     while (!text.empty()) {
       ++lineNumber_;
       const std::size_t end = text.find('\n');
@@ -69,12 +77,14 @@ class ObjReader {
   void readLine(std::string_view line) {
     const std::string_view word = nextWord(line);
     if (word == "v") {
-      if (positions_.size() == MOST_VERTICES) fail("the mesh is too large");
+      requireRoom(positions_.size());
       positions_.push_back(nextPoint(line));
       firstVertex_.push_back(NONE);
     } else if (word == "vn") {
+      requireRoom(normals_.size());
       normals_.push_back(nextPoint(line));
     } else if (word == "vt") {
+      requireRoom(texCoords_.size());
       const float u = nextNumber(line);
       texCoords_.push_back({u, nextNumber(line)});
     } else if (word == "f") {
@@ -82,6 +92,11 @@ class ObjReader {
     } else if (word == "usemtl") {
       useMaterial(nextWord(line));
     }
+  }
+
+  /// For one more vertex, or what is part of one.
+  void requireRoom(std::size_t there) const {
+    if (there >= MOST_VERTICES) fail("the mesh is too large");
   }
 
   Point3 nextPoint(std::string_view& line) const {
@@ -110,16 +125,7 @@ class ObjReader {
       polygon_.push_back(positions_[corner.position]);
     }
     if (mesh_.triangles.size() + face_.size() > MOST_TRIANGLES) fail("the mesh is too large");
-    for (const auto& [a, b, c] : triangulated(polygon_, mostToClip())) appendTriangle({face_[a], face_[b], face_[c]});
-  }
-
-  /// Many polygons of many corners are no mesh of a person.
-  std::size_t mostToClip() {
-    constexpr std::size_t always = 32;
-    constexpr double mostWork = 1e9;
-    const auto count = static_cast<double>(polygon_.size());
-    if (polygon_.size() > always) clipWork_ += count * count * count;
-    return clipWork_ > mostWork ? always : 512;
+    for (const auto& [a, b, c] : triangulated(polygon_, effort_)) appendTriangle({face_[a], face_[b], face_[c]});
   }
 
   Corner readCorner(std::string_view word) const {
@@ -154,7 +160,7 @@ class ObjReader {
       if (other.texCoord == corner.texCoord && other.normal == corner.normal) return i;
     }
     const auto index = static_cast<std::uint32_t>(vertices_.size());
-    if (index == MOST_VERTICES) fail("the mesh is too large");
+    requireRoom(index);
     vertices_.push_back({corner, first});
     first = index;
     appendVertex(corner);
@@ -208,7 +214,8 @@ class ObjReader {
   std::map<std::string, std::uint16_t, std::less<>> materials_;
   std::uint16_t material_ = 0;
   std::size_t lineNumber_ = 0;
-  double clipWork_ = 0;
+  /// Comparisons that polygons may still take.
+  std::size_t effort_ = 0;
   bool missesNormals_ = false;
 };
 

@@ -1,15 +1,31 @@
 #include "host/rays/RayDevice.h"
 
 #include <cmath>
+#include <system_error>
+#include <thread>
 
 #include "host/geometry/Reach.h"
 #include "host/rays/Visibility.h"
 
 namespace host {
 
+namespace {
+
+/// The ray caster waits for ever for threads of its own that could not be started.
+bool mayStartThreads() {
+  try {
+    std::thread([] {}).join();
+    return true;
+  } catch (const std::system_error&) {
+    return false;
+  }
+}
+
+}  // namespace
+
 RTCDevice rayDevice() {
   // Never released: scenes of meshes that live in other statics may outlast any order of destruction.
-  static const RTCDevice device = rtcNewDevice(nullptr);
+  static const RTCDevice device = rtcNewDevice(mayStartThreads() ? nullptr : "threads=1");
   return device;
 }
 

@@ -25,7 +25,9 @@ std::vector<std::wstring> names(const Entries& entries) {
 
 }  // namespace
 
-void UndoStack::begin() { ++depth_; }
+void UndoStack::begin() {
+  if (depth_++ == 0) ++begun_;
+}
 
 bool UndoStack::put(std::unique_ptr<RestoreObj> step) {
   if (!recording()) return false;

@@ -2,6 +2,7 @@
 
 #include <hold.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,6 +20,8 @@ class UndoStack {
   bool recording() const { return depth_ > 0 && !replaying_; }
   bool replaying() const { return replaying_; }
   int depth() const { return depth_; }
+  /// How many recordings were begun, those inside others not counted.
+  std::size_t recordingCount() const { return begun_; }
 
   /// False when there is nothing to undo, or while a recording is open.
   bool undo();
@@ -43,6 +46,7 @@ class UndoStack {
   std::vector<Entry> undo_;
   std::vector<Entry> redo_;
   int depth_ = 0;
+  std::size_t begun_ = 0;
   bool replaying_ = false;
 };
 

@@ -3,11 +3,13 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
+#include <ctime>
 #include <thread>
 #include <vector>
 
 #include "host/geometry/Bounds.h"
 #include "host/rays/Visibility.h"
+#include "host/services/Threads.h"
 #include "host/view/ColorCurves.h"
 #include "host/view/PixelTracer.h"
 
@@ -16,6 +18,9 @@ namespace host {
 namespace {
 
 constexpr int TILE_SIZE = 32;
+constexpr int PIXELS_BETWEEN_LOOKS = 4;
+
+double secondsUsed() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
 /// A byte for a value from 0 to 1; `grain`, from 0 to 1, decides which way a value between two bytes goes.
 int toByte(float value, float grain) { return std::clamp(static_cast<int>(value * 255.0F + grain), 0, 255); }
@@ -43,6 +48,7 @@ class TileQueue {
   void work(bool reports) {
     for (int tile = next_++; tile < count_ && !cancelled(); tile = next_++) {
       draw(tile);
+      if (cancelled()) return;
       const int done = ++done_;
       if (reports && options_.progress) options_.progress(static_cast<float>(done) / static_cast<float>(count_));
     }
@@ -51,20 +57,25 @@ class TileQueue {
   bool complete() const { return done_ == count_; }
 
  private:
-  bool cancelled() const { return options_.cancel != nullptr && *options_.cancel; }
+  bool cancelled() const {
+    return (options_.cancel != nullptr && *options_.cancel) || secondsUsed() - begin_ > options_.mostSeconds;
+  }
 
   void draw(int tile) {
     const int left = tile % columns_ * TILE_SIZE;
     const int top = tile / columns_ * TILE_SIZE;
     for (int y = top; y < std::min(top + TILE_SIZE, options_.height); ++y) {
       QRgb* line = reinterpret_cast<QRgb*>(bits_ + y * stride_);
-      for (int x = left; x < std::min(left + TILE_SIZE, options_.width); ++x)
+      for (int x = left; x < std::min(left + TILE_SIZE, options_.width); ++x) {
+        if (x % PIXELS_BETWEEN_LOOKS == 0 && cancelled()) return;
         line[x] = stored(tracer_.pixel(x, y), x, y);
+      }
     }
   }
 
   const PixelTracer& tracer_;
   const RenderOptions& options_;
+  double begin_ = secondsUsed();
   uchar* bits_;
   qptrdiff stride_;
   int columns_ = 0;
@@ -81,7 +92,7 @@ bool inRange(const RenderOptions& options) {
 bool drawAllTiles(TileQueue& queue, unsigned threads) {
   if (threads == 0) threads = std::max(1U, std::thread::hardware_concurrency());
   std::vector<std::thread> others;
-  for (unsigned i = 1; i < std::min(threads, 256U); ++i) others.emplace_back([&queue] { queue.work(false); });
+  startThreads(others, std::min(threads, 256U) - 1, [&queue] { queue.work(false); });
   queue.work(true);
   for (std::thread& other : others) other.join();
   return queue.complete();

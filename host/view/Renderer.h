@@ -4,6 +4,7 @@
 #include <QImage>
 #include <atomic>
 #include <functional>
+#include <limits>
 
 #include "host/rays/RayScene.h"
 #include "host/view/Camera.h"
@@ -32,10 +33,13 @@ struct RenderOptions {
   std::function<void(float)> progress;
   /// Set by anybody to stop early; null when nobody will.
   const std::atomic<bool>* cancel = nullptr;
+  /// Of the processor, all threads together; a picture that is not done by then is given up. A few thousand triangles
+  /// in one place make each ray as dear as a picture.
+  double mostSeconds = std::numeric_limits<double>::infinity();
 };
 
 /// Draws the scene with sun and sky, ready to be shown or saved; the same picture on every run. A null image when it
-/// was cancelled or the options are out of range.
+/// was cancelled or given up, or the options are out of range.
 QImage render(const RayScene& scene, const Camera& camera, const RenderOptions& options);
 
 }  // namespace host

@@ -75,13 +75,14 @@ std::vector<ViewItem> viewItems(const Scene& scene) {
     ViewItem item;
     item.mesh = std::move(mesh);
     item.toWorld = node->GetObjectTM(0);
-    item.surfaces = surfaces.of(node->GetMtl());
     item.node = node;
     if (isPlaceholder(*geometry)) item.label = node->GetName();
     if (visibilityOf(item) == Visibility::OutOfReach) outOfReach.add(*node);
     items.push_back(std::move(item));
   }
   outOfReach.report();
+  // Textures take of the memory what the meshes leave.
+  for (ViewItem& item : items) item.surfaces = surfaces.of(item.node->GetMtl());
   return items;
 }
 

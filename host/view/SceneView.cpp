@@ -35,9 +35,14 @@ class RememberedAnswers {
 
 }  // namespace
 
+RayScene& SceneView::prepared() {
+  if (!rays_) rays_.emplace();
+  return *rays_;
+}
+
 const RayScene& SceneView::rays() {
   update();
-  return rays_;
+  return prepared();
 }
 
 SceneView::Changes SceneView::takeChanges() {
@@ -50,8 +55,8 @@ SceneView::Changes SceneView::takeChanges() {
 INode* SceneView::pick(const Ray& ray, const RayScene::Accept& accept) {
   update();
   RememberedAnswers answers(accept);
-  const auto hit = accept ? rays_.intersect(ray, std::ref(answers)) : rays_.intersect(ray);
-  return hit ? rays_.items()[hit->item].node : nullptr;
+  const auto hit = accept ? prepared().intersect(ray, std::ref(answers)) : prepared().intersect(ray);
+  return hit ? prepared().items()[hit->item].node : nullptr;
 }
 
 void SceneView::update() {
@@ -68,8 +73,9 @@ void SceneView::rebuild() {
   movesSeen_ = scene_.moveCount();
   itemOf_.clear();
   for (std::size_t i = 0; i < items.size(); ++i) itemOf_[static_cast<Node*>(items[i].node)] = i;
-  rays_.setItems(std::move(items));
-  if (!rays_.complete()) Listener::instance().reportOnce("Not everything is shown: there is not enough memory.");
+  RayScene& rays = prepared();
+  rays.setItems(std::move(items));
+  if (!rays.complete()) Listener::instance().reportOnce("Not everything is shown: there is not enough memory.");
   built_ = true;
   changes_ = {true, Box3()};
   ++rebuilds_;
@@ -86,14 +92,14 @@ void SceneView::moveWhatFollowed() {
   followed_.erase(std::unique(followed_.begin(), followed_.end()), followed_.end());
   std::vector<RayScene::Move> moves;
   for (const std::size_t index : followed_) {
-    const ViewItem& item = rays_.items()[index];
+    const ViewItem& item = prepared().items()[index];
     const Matrix3 toWorld = item.node->GetObjectTM(0);
     if (toWorld == item.toWorld) continue;
     changes_.bounds += boundsOf(item);
     moves.push_back({index, toWorld});
   }
-  rays_.moveItems(moves);
-  for (const RayScene::Move& move : moves) changes_.bounds += boundsOf(rays_.items()[move.item]);
+  prepared().moveItems(moves);
+  for (const RayScene::Move& move : moves) changes_.bounds += boundsOf(prepared().items()[move.item]);
   moves_ += moves.size();
   followed_.clear();
 }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -42,13 +43,15 @@ class SceneView {
   std::size_t moveCount() const { return moves_; }
 
  private:
+  RayScene& prepared();
   void update();
   void rebuild();
   void follow(Node& node);
   void moveWhatFollowed();
 
   Scene& scene_;
-  RayScene rays_;
+  /// Made when it is first asked for: it starts threads, and whoever only reads a repository needs none.
+  std::optional<RayScene> rays_;
   std::unordered_map<const Node*, std::size_t> itemOf_;
   std::vector<std::size_t> followed_;
   std::uint64_t appearance_ = 0;

@@ -4,6 +4,8 @@
 #include <units.h>
 
 #include <algorithm>
+#include <set>
+#include <string>
 
 #include "host/files/Paths.h"
 #include "host/materials/MaterialClasses.h"
@@ -56,8 +58,10 @@ Surface surfaceOf(Mtl& material) {
     const auto unit = static_cast<float>(GetMasterScale(UNITS_CENTIMETERS));
     surface.softness = std::clamp(length * unit / SOFTEST_CENTIMETRES, 0.0F, 1.0F);
   }
+  // A map may hold the same file many times over.
+  std::set<std::wstring> tried;
   forEachBitmapIn(diffuseMap(material), [&](BitmapTex& bitmap) {
-    if (surface.texture == nullptr) surface.texture = readTexture(bitmap);
+    if (surface.texture == nullptr && tried.insert(bitmap.GetMapName()).second) surface.texture = readTexture(bitmap);
   });
   return surface;
 }

@@ -7,6 +7,8 @@
 #include <mutex>
 #include <thread>
 
+#include "host/services/Threads.h"
+
 namespace samples {
 
 JobQueue::JobQueue(unsigned threads)
@@ -29,7 +31,8 @@ std::string JobQueue::run(const Progress& progress) {
     }
   };
   std::vector<std::thread> threads;
-  for (unsigned i = 0; i < threads_; ++i) threads.emplace_back(work);
+  host::startThreads(threads, threads_, work);
+  if (threads.empty()) work();
   std::unique_lock<std::mutex> lock(mutex);
   for (std::size_t told = 0; told < jobs.size();) {
     finished.wait(lock, [&] { return done > told; });

@@ -1,6 +1,7 @@
 #include "samples/repository/RepositoryFiles.h"
 
 #include "host/files/PictureFile.h"
+#include "host/files/Uninterrupted.h"
 #include "host/files/WholeFile.h"
 #include "host/meshes/MeshFileWriter.h"
 
@@ -10,6 +11,7 @@ namespace {
 // Whoever writes into a folder that could not be made tells what went wrong.
 void makeFolderOf(const std::filesystem::path& file) {
   std::error_code error;
+  const host::Uninterrupted whole;
   std::filesystem::create_directories(file.parent_path(), error);
 }
 

@@ -212,7 +212,7 @@ class Offers {
   explicit Offers(const CharacterData& character) : character_(character) {
     const ZORVEL::PageOffers offers(character, files_);
     offers.VisitAll([this](const PageOffer& page) { take(page); });
-    for (const OfferedElement& element : offers.GetAssetsWithoutPage()) addHidden(element);
+    offers.VisitAssetsWithoutPage([this](const OfferedElement& element) { addHidden(element); });
   }
 
   const std::vector<std::vector<Shown>>& pages() const { return pages_; }

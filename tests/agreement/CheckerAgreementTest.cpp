@@ -7,12 +7,12 @@
 #include "apps/support/SettledRoot.h"
 #include "check/Checker.h"
 #include "check/Description.h"
-#include "check/PrintableText.h"
 #include "check/Vocabulary.h"
 #include "core/FileStamps.h"
 #include "core/Settings.h"
 #include "host/application/Application.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 #include "host/scene/Scene.h"
 #include "model/CharacterData.h"
 #include "model/Data2.h"
@@ -107,7 +107,7 @@ class CheckedRepository {
 
   std::string pathOf(const DataContainer* record) const {
     const XmlElement* element = description_.elementOf(record);
-    return element != nullptr ? check::printable(description_.pathOf(*element)) : "";
+    return element != nullptr ? host::printable(description_.pathOf(*element)) : "";
   }
   std::vector<std::string> pathsOf(const Records& records) const {
     std::vector<std::string> paths;
@@ -141,7 +141,7 @@ class CheckedRepository {
     static const std::set<std::wstring> LISTS = {L"globalAssets", L"skins",       L"cloth", L"poses",
                                                  L"categories",   L"AssetMatrix", L"assets"};
     for (const XmlElement* child = parent.firstChild; child != nullptr; child = child->nextSibling) {
-      const std::string path = check::printable(description_.pathOf(*child));
+      const std::string path = host::printable(description_.pathOf(*child));
       const bool isKnown = description_.elements.count(child) > 0 || LISTS.count(child->name) > 0;
       EXPECT_TRUE(isKnown || isTold(path, Severity::Warning)) << "skipped: " << path;
       expectElementsTold(*child);
@@ -158,7 +158,7 @@ class CheckedRepository {
     }
     for (const XmlElement* element : description_.elements) {
       if (std::wstring(element->name) != L"clothing" || kept.count(element) > 0) continue;
-      const std::string path = check::printable(description_.pathOf(*element));
+      const std::string path = host::printable(description_.pathOf(*element));
       EXPECT_TRUE(isTold(path, Severity::Error)) << "dropped: " << path;
     }
   }
@@ -208,10 +208,10 @@ class CheckedRepository {
       if (page.kind == PageKind::Styles && page.shown.empty()) expectTold("no style", {clothing_});
     });
     if (!isWorn_) return;
-    for (const OfferedElement& element : offers.GetAssetsWithoutPage()) {
-      if (element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(element.record)) continue;
-      expectTold("on no page", {element.record});
-    }
+    offers.VisitAssetsWithoutPage([this](const OfferedElement& element) {
+      const bool needsNone = element.refusal.why == WhyNot::CategoryUnnamed && isAskedForByAPose(element.record);
+      if (!needsNone) expectTold("on no page", {element.record});
+    });
   }
 
   /// Such an asset needs no page, and where an entry is wrong, that is told.

@@ -11,21 +11,21 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "check/PrintableText.h"
 #include "check/report/CsvReport.h"
 #include "check/report/JsonReport.h"
 #include "check/report/JunitReport.h"
 #include "check/report/RulesReport.h"
 #include "check/report/SarifReport.h"
 #include "check/report/TextReport.h"
+#include "host/files/PrintableText.h"
 #include "tests/check/SampleFindings.h"
 #include "tests/check/SchemaCheck.h"
 
 namespace {
 
 using check::JudgedRepository;
-using check::printable;
 using check::RuleId;
+using host::printable;
 using testing::Each;
 using testing::EndsWith;
 using testing::HasSubstr;

@@ -91,6 +91,7 @@ TEST_F(CheckCommand, WritesEachFormatToStandardOutputOrWholeIntoAFile) {
 }
 
 TEST_F(CheckCommand, SaysWhenStandardOutputCannotBeWritten) {
+  repository_.writePictures();
   const auto statusTo = [](int descriptor, const std::vector<std::string>& arguments) {
     std::fflush(stdout);
     const int before = ::dup(STDOUT_FILENO);

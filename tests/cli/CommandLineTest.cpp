@@ -13,6 +13,7 @@ namespace {
 
 using support::Outcome;
 using support::run;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
@@ -112,6 +113,43 @@ TEST_F(CommandLine, WhatARepositorySaysSteersNoTerminal) {
   EXPECT_THAT(listed.out, HasSubstr("An\\u009b31mna"));
   EXPECT_THAT(listed.err, HasSubstr("un\\u202eknown"));
   EXPECT_THAT(run({"create", root(), "--bare"}).out, Not(HasSubstr("\u009b")));
+}
+
+TEST_F(CommandLine, WhatItIsGivenOrReadsForgesNoLineInAnyCommand) {
+  const std::string evil = "x\nforged\x1b[2J\u202e\xff";
+  const std::filesystem::path lying = repository_.folder().path() / evil;
+  ASSERT_EQ(run({"init", lying.string()}).status, apps::EXIT_CLEAN);
+  std::vector<std::vector<std::string>> calls = {
+      {evil},
+      {"list", root(), evil},
+      {"check", root(), "--format", evil},
+      {"check", root(), "--output", file("none/" + evil)},
+      {"check", root(), "--ignore", evil},
+      {"explain", root(), evil},
+      {"create", root(), "--unit", evil},
+      {"create", root(), "--asset", evil},
+      {"create", root(), "--into", evil},
+      {"create", root(), "--json", file(evil)},
+      {"create", root(), "--json", evil + "/none"},
+      {"create", root(), "--gltf", file(evil), "--json", file(evil)},
+      {"add", root(), "pose", evil},
+      {"add", root(), "style", "s", "--to", evil},
+      {"sample", root() + "/zorvel.xml/" + evil},
+      {"init", lying.string()},
+      {"doctor", evil},
+  };
+  for (const char* command : {"list", "check", "create", "doctor"}) {
+    calls.push_back({command, evil});
+    calls.push_back({command, lying.string()});
+  }
+  for (const std::vector<std::string>& call : calls) {
+    const Outcome outcome = run(call);
+    for (const std::string& text : {outcome.out, outcome.err}) {
+      EXPECT_THAT(text, AllOf(Not(HasSubstr("\nforged")), Not(HasSubstr("\x1b")), Not(HasSubstr("\u202e")),
+                              Not(HasSubstr("\xff"))))
+          << testing::PrintToString(call);
+    }
+  }
 }
 
 TEST_F(CommandLine, BuildsTheFirstUsableChoiceCleanlyAndWritesItsFiles) {

@@ -76,6 +76,14 @@ Subject::Subject(fs::path folder) : folder_(std::move(folder)) {
   for (const char* name : {"results", "temporary", "home"}) fs::create_directories(folder_ / name);
 }
 
+std::string Subject::withoutPlace(std::string text) const {
+  const std::string place = folder_.string();
+  for (std::size_t at = text.find(place); at != std::string::npos; at = text.find(place, at)) {
+    text.replace(at, place.size(), "@");
+  }
+  return text;
+}
+
 void Subject::clear() const {
   for (const char* name : {"results", "temporary", "home"}) {
     for (const fs::directory_entry& entry : fs::directory_iterator(folder_ / name)) fs::remove_all(entry.path());
@@ -93,7 +101,6 @@ std::vector<std::string> Subject::environment(const Fault& fault, bool isWatched
   set("HOME", (folder_ / "home").string());
   set("TMPDIR", temporary().string());
   set("QT_QPA_PLATFORM", "offscreen");
-  set("XDG_RUNTIME_DIR", temporary().string());
   set("LD_PRELOAD", FAULT_LIBRARY);
   // The sanitizer's own library need not be the first one: this one stands in for nothing of memory then.
   set("ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0");
@@ -118,6 +125,8 @@ Ending Subject::run(const std::vector<std::string>& command, const Fault& fault,
   if (process == 0) {
     redirect(folder_ / "out", STDOUT_FILENO);
     redirect(folder_ / "err", STDERR_FILENO);
+    // What is named relative to it is told so.
+    if (::chdir(folder_.c_str()) != 0) ::_exit(126);
     ::execve(argv.front(), argv.data(), environment.data());
     ::_exit(127);
   }
@@ -125,8 +134,8 @@ Ending Subject::run(const std::vector<std::string>& command, const Fault& fault,
   const int status = waitFor(process, ending.isInTime);
   if (WIFEXITED(status)) ending.status = WEXITSTATUS(status);
   if (WIFSIGNALED(status)) ending.signal = WTERMSIG(status);
-  ending.out = contentOf(folder_ / "out");
-  ending.err = contentOf(folder_ / "err");
+  ending.out = withoutPlace(contentOf(folder_ / "out"));
+  ending.err = withoutPlace(contentOf(folder_ / "err"));
   for (const fs::directory_entry& entry : fs::directory_iterator(results())) {
     ending.results[entry.path().filename().string()] = contentOf(entry.path());
   }

@@ -35,11 +35,15 @@ class Subject {
   /// In the arguments "@" stands for the folder of results. Who wants to watch gets the lines of the library.
   Ending run(const std::vector<std::string>& command, const Fault& fault, std::vector<std::string>* watched = nullptr);
 
+  /// Where the program is started.
+  const std::filesystem::path& folder() const { return folder_; }
   std::filesystem::path results() const { return folder_ / "results"; }
   std::filesystem::path temporary() const { return folder_ / "temporary"; }
 
  private:
   void clear() const;
+  /// What a run says must not depend on where it is made.
+  std::string withoutPlace(std::string text) const;
   std::vector<std::string> environment(const Fault& fault, bool isWatched) const;
 
   std::filesystem::path folder_;

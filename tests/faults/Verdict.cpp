@@ -44,18 +44,19 @@ bool isSame(const Ending& ending, const Ending& undisturbed) {
 
 }  // namespace
 
-std::string faultOf(const Ending& ending, const Ending& undisturbed) {
+std::string faultOf(const Ending& ending, const Ending& undisturbed, Strictness strictness) {
   if (!ending.isInTime) return "did not end";
   if (ending.signal != 0) return "was ended by signal " + std::to_string(ending.signal);
   if (ending.status > 4) return "ended with status " + std::to_string(ending.status);
-  if (ending.status == 0 && !isSame(ending, undisturbed)) return "ended with status 0 and another result";
-  if (ending.status != 0 && ending.err.empty() && ending.out.empty()) return "said nothing";
+  const bool mayDiffer = strictness == Strictness::Whole;
+  if (ending.status == 0 && !mayDiffer && !isSame(ending, undisturbed)) return "ended with status 0 and another result";
+  if (ending.status != 0 && ending.err.empty() && ending.out.empty() && ending.results.empty()) return "said nothing";
   if (!ending.err.empty() && ending.err.back() != '\n') return "ended in the middle of a line";
   return faultOfResults(ending, undisturbed);
 }
 
-std::string faultOfEnded(const Ending& ending, const Ending& undisturbed, int signal) {
-  if (ending.signal != signal && ending.status != 128 + signal) return faultOf(ending, undisturbed);
+std::string faultOfEnded(const Ending& ending, const Ending& undisturbed, int signal, Strictness strictness) {
+  if (ending.signal != signal && ending.status != 128 + signal) return faultOf(ending, undisturbed, strictness);
   return faultOfResults(ending, undisturbed);
 }
 

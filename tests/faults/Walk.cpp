@@ -36,13 +36,16 @@ void putBack(const std::string& folder) {
 /// One walk, many places at a time. A fault that takes the repository away cannot be tried by two at once.
 class Walker {
  public:
-  Walker(const std::vector<std::string>& command, const WalkedFault& walked) : command_(command), walked_(walked) {}
+  Walker(const std::vector<std::string>& command, const WalkedFault& walked, Strictness strictness)
+      : command_(command), walked_(walked), strictness_(strictness) {}
 
   WalkResult run(unsigned long most) {
     Subject subject(folder_.makeFolder("undisturbed"));
     Fault counting = walked_.fault;
     undisturbed_ = subject.run(command_, counting);
     result_.places = undisturbed_.tally.calls;
+    const bool isAskedFor = (counting.kinds & (faults::MAP | faults::THREAD)) != 0;
+    if (isAskedFor) result_.ofOthers = undisturbed_.tally.ofOthers;
     if (undisturbed_.status != 0) result_.faults.push_back("undisturbed: " + undisturbed_.err);
     step_ = most == 0 ? 1 : std::max(1UL, (result_.places + most - 1) / most);
     // Not always the same ones of every step.
@@ -68,8 +71,8 @@ class Walker {
 
   void judge(unsigned long place, const Ending& ending) {
     const std::string fault = walked_.fault.action == "signal"
-                                  ? faultOfEnded(ending, undisturbed_, walked_.fault.signal)
-                                  : faultOf(ending, undisturbed_);
+                                  ? faultOfEnded(ending, undisturbed_, walked_.fault.signal, strictness_)
+                                  : faultOf(ending, undisturbed_, strictness_);
     const std::lock_guard<std::mutex> lock(mutex_);
     ++result_.tried;
     ++result_.statuses[ending.signal != 0 ? 128 + ending.signal : ending.status];
@@ -81,6 +84,7 @@ class Walker {
 
   const std::vector<std::string>& command_;
   const WalkedFault& walked_;
+  Strictness strictness_;
   TemporaryFolder folder_;
   Ending undisturbed_;
   unsigned long step_ = 1;
@@ -91,8 +95,9 @@ class Walker {
 
 }  // namespace
 
-WalkResult walk(const std::vector<std::string>& command, const WalkedFault& walked, unsigned long most) {
-  return Walker(command, walked).run(most);
+WalkResult walk(const std::vector<std::string>& command, const WalkedFault& walked, unsigned long most,
+                Strictness strictness) {
+  return Walker(command, walked, strictness).run(most);
 }
 
 unsigned long mostPlaces() {

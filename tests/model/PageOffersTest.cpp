@@ -122,7 +122,9 @@ TEST_F(PageOffersTest, AssetsSayWhyTheyAreHiddenAndTheFirstShownIsChosenOnce) {
              L"g1: its folder is missing: R:\\global_assets\\bench",
              L"a4: its picture is missing: R:\\anna\\bag\\preview.png",
              L"a9: there is no global asset with the id \"g9\"", L"a10: it has no \"globalID\""}));
-  EXPECT_EQ(lines(PageOffers(anna(), files_).GetAssetsWithoutPage()),
+  std::vector<OfferedElement> withoutPage;
+  PageOffers(anna(), files_).VisitAssetsWithoutPage([&](const OfferedElement& one) { withoutPage.push_back(one); });
+  EXPECT_EQ(lines(withoutPage),
             (Lines{L"a11: there is no category with the id \"t9\"", L"a12: it has no \"category\""}));
 }
 

@@ -11,6 +11,7 @@
 #include "model/Data2.h"
 #include "model/Selection2.h"
 #include "tests/support/LoadedRepositoryFixture.h"
+#include "tests/support/LocalAppData.h"
 
 namespace {
 
@@ -58,7 +59,7 @@ TEST_F(CommandFacade, AsksForTheRepositoryOnceAndKeepsItsFolderWithTheSeparator)
   Data2::Clear();
   Selection2::AddAsset(1010);
   Settings::FreeSettings();
-  std::filesystem::remove_all(std::filesystem::path(std::getenv("LOCALAPPDATA")) / "zorvel.ini");
+  const support::LocalAppData nothingKept;
   EXPECT_FALSE(Commands::ValidateData()) << "cancelled";
   EXPECT_STREQ(Selection2::GetCharacter(), L"") << "ids of another repository";
   EXPECT_EQ(Selection2::GetAssetCount(), 0);

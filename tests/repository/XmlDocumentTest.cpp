@@ -22,8 +22,8 @@ class XmlDocumentTest : public ::testing::Test {
   }
   std::wstring rootAttribute(const std::string& content, const wchar_t* name = L"a") {
     const auto document = load(content);
-    const wchar_t* value = document ? document->GetRoot().FindAttribute(name) : nullptr;
-    return value ? value : L"(missing)";
+    const XmlAttribute* value = document ? document->GetRoot().FindAttribute(name) : nullptr;
+    return value ? value->GetText() : L"(missing)";
   }
   static std::string utf16(const std::u16string& text) {
     std::string bytes = "\xFF\xFE";
@@ -32,6 +32,12 @@ class XmlDocumentTest : public ::testing::Test {
       bytes += static_cast<char>(unit >> 8);
     }
     return bytes;
+  }
+
+  static std::string repeated(const std::string& text, int count) {
+    std::string all;
+    for (int i = 0; i < count; ++i) all += text;
+    return all;
   }
 
   support::TemporaryFolder folder_;
@@ -46,7 +52,7 @@ TEST_F(XmlDocumentTest, KeepsElementsAttributesAndLinesAndLeavesTheRestOut) {
   EXPECT_STREQ(root.name, L"r");
   ASSERT_EQ(root.attributeCount, 2);
   EXPECT_STREQ(root.attributes[1].name.GetText(), L"b");
-  EXPECT_STREQ(root.attributes[1].text, L"");
+  EXPECT_STREQ(root.attributes[1].text, "");
   ASSERT_EQ(root.childCount, 2);
   EXPECT_EQ(root.firstChild->line, 3);
   EXPECT_STREQ(root.firstChild->nextSibling->firstChild->name, L"g");
@@ -176,11 +182,21 @@ TEST_F(XmlDocumentTest, RefusesDepthAndGrowthBeyondBounds) {
   EXPECT_EQ(load(laughs + "]><r>&a29;</r>"), nullptr) << "in text";
   EXPECT_EQ(load(elements + "]><r>&a29;</r>"), nullptr) << "as elements";
 
-  std::string quadratic = "<!DOCTYPE r [<!ENTITY e '";
-  for (int i = 0; i < 2000; ++i) quadratic += "<x/>";
-  quadratic += "'>]><r>";
-  for (int i = 0; i < 5000; ++i) quadratic += "&e;";
-  EXPECT_EQ(load(quadratic + "</r>"), nullptr);
+  // Small in itself, and repeated: as elements, as text, in a value, in another entity, or as nothing at all.
+  for (const char* content : {"<x/><x/><x/><x/>", "text of some length", "<!-- comment -->", " "}) {
+    std::string one = "<!DOCTYPE r [<!ENTITY e '";
+    std::string references;
+    for (int i = 0; i < 500; ++i) one += content;
+    for (int i = 0; i < 5000; ++i) references += "&e;";
+    EXPECT_EQ(load(one + "'>]><r>" + references + "</r>"), nullptr) << content;
+    EXPECT_EQ(error_.fault, XmlFault::BeyondLimits);
+    EXPECT_EQ(load(one + "'><!ENTITY f '" + references + "'>]><r>&f;</r>"), nullptr) << content;
+    EXPECT_EQ(load(one + "'>]><r a='" + references + "'/>"), nullptr) << content;
+  }
+  // Those that every document has are no growth, nor are a few of its own.
+  std::string standard = "<!DOCTYPE r [<!ENTITY e 'studio'>]><r a='&e;'>";
+  for (int i = 0; i < 1000000; ++i) standard += "&amp;&#65;";
+  EXPECT_NE(load(standard + "&e;</r>"), nullptr);
 
   std::string defaulted = "<!DOCTYPE r [<!ATTLIST e a CDATA '" + std::string(100000, 'x') + "'>]><r>";
   for (int i = 0; i < 5000; ++i) defaulted += "<e/>";
@@ -193,10 +209,44 @@ TEST_F(XmlDocumentTest, RefusesDepthAndGrowthBeyondBounds) {
   EXPECT_EQ(error_.message, L"too many attributes");
 }
 
+TEST_F(XmlDocumentTest, RefusesWhatIsLongOrCostsMoreThanItMay) {
+  XmlOptions options;
+  options.longestName = 30;
+  options.longestText = 40;
+  options.longestMarkup = 100000;
+  options.mostNames = 5;
+  options.costOf = [](const XmlElement& element) { return std::size_t{element.parent ? 100U : 0U}; };
+  options.budgetFor = [](std::size_t bytes) { return std::max<std::size_t>(1000, 2 * bytes); };
+  const std::string long30(30, 'n');
+  const std::string long40(40, 't');
+  const struct {
+    std::string content;
+    const wchar_t* refusal;
+  } cases[] = {{"<r><" + long30 + "/><e a='" + long40 + "'/></r>", L""},
+               {"<r><" + long30 + "n/></r>", L"a name is too long"},
+               {"<r " + long30 + "n=''/>", L"a name is too long"},
+               {"<r xmlns:" + long30 + "='u'/>", L"a name is too long"},
+               {"<r a='" + long40 + "t'/>", L"an attribute is too long"},
+               {"<r a='' b='' c='' d=''/>", L""},
+               {"<r a='' b='' c='' d='' e=''/>", L"too many different names"},
+               {"<r><!--" + std::string(200000, 'c') + "--></r>", L"a tag or comment is too long"},
+               {"<r>" + repeated("<!-- c -->", 100000) + "</r>", L""},
+               {"<r>" + repeated("<?p c?>", 100000) + "</r>", L""},
+               {"<r>" + repeated("<e/>", 10) + "</r>", L""},
+               {"<r>" + repeated("<e/>", 11) + "</r>", L"too large"},
+               {"<r>" + repeated(std::string(60, ' ') + "<e/>", 1000) + "</r>", L""}};
+  for (const auto& one : cases) {
+    const std::wstring path = host::toWide(folder_.write("d.xml", one.content).string());
+    EXPECT_EQ(XmlDocument::Load(path.c_str(), error_, options) != nullptr, *one.refusal == 0);
+    EXPECT_EQ(error_.message, one.refusal) << one.content.substr(0, 80);
+    EXPECT_TRUE(error_.message.empty() || error_.fault == XmlFault::BeyondLimits);
+  }
+}
+
 TEST_F(XmlDocumentTest, TakesLargeTextAndManyElements) {
   const auto document = load("<r a='" + std::string(5000000, 'x') + "'>" + std::string(20000000, 'y') + "</r>");
   ASSERT_NE(document, nullptr);
-  EXPECT_EQ(std::wstring(document->GetRoot().attributes[0].text).size(), 5000000U);
+  EXPECT_EQ(std::string(document->GetRoot().attributes[0].text).size(), 5000000U);
   std::string many = "<r>";
   for (int i = 0; i < 200000; ++i) many += "<a/>";
   const auto flat = load(many + "</r>");

@@ -6,12 +6,16 @@
 #include <units.h>
 
 #include <QAction>
+#include <QLabel>
+#include <QTreeWidget>
 #include <QtTest/QtTest>
 
 #include "apps/stage/StageMenus.h"
 #include "host/actions/ActionManager.h"
 #include "host/application/Application.h"
+#include "host/files/Paths.h"
 #include "host/scene/Scene.h"
+#include "host/services/Listener.h"
 #include "host/services/UndoStack.h"
 #include "host/services/Units.h"
 #include "tests/stage/StageFixture.h"
@@ -47,6 +51,27 @@ class StageWindow : public support::StageFixture {
  private:
   PreparedAnswers::Answers answers_;
 };
+
+TEST_F(StageWindow, NamesAndMessagesAreShownAsOneLineOfPlainText) {
+  const std::wstring evil = L"<b>x<i>[*]\nforged\u202e";
+  const QString shown = "<b>x<i>[*]\\x0aforged\\u202e";
+  scene().nodes().front()->SetName(evil.c_str());
+  Application::instance().listener().report(host::toUtf8(evil));
+  const std::filesystem::path file = folder_.path() / host::toUtf8(evil + L".json");
+  EXPECT_FALSE(window().files().open(file));
+  settle();
+  EXPECT_THAT(window().promptLine().message().toStdString(), HasSubstr(shown.left(8).toStdString()));
+  EXPECT_THAT(listenerText().toStdString(), HasSubstr("-- " + shown.toStdString()));
+  for (const QLabel* label : window().promptLine().findChildren<QLabel*>()) {
+    EXPECT_FALSE(label->text().contains('\n'));
+    EXPECT_TRUE(label->toolTip().isEmpty() || !label->toolTip().contains("<b>")) << label->toolTip().toStdString();
+  }
+  const auto* tree = window().findChild<QTreeWidget*>();
+  EXPECT_FALSE(tree->findItems(shown, Qt::MatchExactly | Qt::MatchRecursive).isEmpty());
+  EXPECT_TRUE(window().files().save(file));
+  settle();
+  EXPECT_THAT(window().windowTitle().toStdString(), testing::StartsWith("<b>x<i>[*][*]\\x0aforged\\u202e.json"));
+}
 
 /// One command that counts its calls.
 class CountingTable : public ActionTable {

@@ -50,10 +50,13 @@ TEST_F(InfoWindow, IsAFixedDialogWithAHeaderAndReadOnlyText) {
 TEST_F(InfoWindow, ShowsEachTextAsALineWhateverStandsInIt) {
   DebugWindow::AddDebugWindowMessage(L"before there is a window");
   DebugWindow::CreateDebugWindow();
-  for (const wchar_t* text : {L"abc", L"<b>def</b>", L"", static_cast<const wchar_t*>(nullptr), L"\u05d0\u4e2d"}) {
+  for (const wchar_t* text : {L"abc", L"<b>def</b>", L"", static_cast<const wchar_t*>(nullptr), L"\u05d0\u4e2d",
+                              L"an id\r\nforged\u2028line"}) {
     DebugWindow::AddDebugWindowMessage(text);
   }
-  const QStringList expected = HEADER + QStringList{"abc", "<b>def</b>", "", "", QString::fromUtf8("א中"), ""};
+  const QStringList expected =
+      HEADER +
+      QStringList{"abc", "<b>def</b>", "", "", QString::fromUtf8("א中"), QString::fromUtf8("an id��forged�line"), ""};
   EXPECT_EQ(lines(), expected);
   DebugWindow::AddDebugWindowMessage(std::wstring(1000000, L'x').c_str());
   EXPECT_EQ(lines().size(), expected.size() + 1);

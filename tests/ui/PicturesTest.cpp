@@ -1,36 +1,24 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QBuffer>
 #include <QtTest/QtTest>
 
 #include "plugin/zorvel.h"
+#include "tests/support/HostilePictures.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/PictureReader.h"
 
 namespace {
 
+using support::encoded;
+using support::hugePng;
 using ZORVEL::FileStamp;
 using ZORVEL::PictureCache;
 using ZORVEL::PictureSource;
 
 class Pictures : public support::WindowFixture {
  protected:
-  static std::string encoded(const QSize& size, const char* type, QImage::Format format = QImage::Format_RGB32) {
-    QImage image(size, format);
-    image.fill(0);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, type);
-    return bytes.toStdString();
-  }
-  /// A head that promises 20,000 x 20,000 pixels, and nothing after it.
-  static std::string hugePng() {
-    return QByteArray::fromHex(
-               "89504e470d0a1a0a0000000d4948445200004e2000004e2008020000006c12d16e0000000049444154"
-               "35af061e0000000049454e44ae426082")
-        .toStdString();
-  }
   static PictureSource source(const std::filesystem::path& file, const QSize& box) {
     PictureSource one;
     one.path = QString::fromStdString(file.string()).toStdWString();
@@ -75,6 +63,14 @@ TEST_F(Pictures, ThatCannotBeShownSayWhyInTheirPlace) {
   EXPECT_TRUE(tabs().isVisible()) << "it can be clicked all the same";
 }
 
+TEST_F(Pictures, AreFilesAndNoPipesWhichNobodyWaitsFor) {
+  const std::filesystem::path pipe = files().folder().path() / "pipe.png";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  QString problem;
+  EXPECT_TRUE(ZORVEL::PictureReader::Read(source(pipe, QSize()).path, QSize(100, 300), problem).isNull());
+  EXPECT_EQ(problem, "it cannot be opened");
+}
+
 TEST_F(Pictures, AreMeasuredWithoutBeingDecoded) {
   const std::string good = encoded(QSize(110, 330), "PNG");
   const struct {
@@ -84,7 +80,17 @@ TEST_F(Pictures, AreMeasuredWithoutBeingDecoded) {
   } cases[] = {{good, QSize(110, 330), ""},
                {encoded(QSize(90, 7), "JPG"), QSize(90, 7), ""},
                {good.substr(0, good.size() / 2), QSize(110, 330), ""},
-               {"no picture at all\n", QSize(), "it is not a picture"},
+               {encoded(QSize(8192, 8192), "PNG", QImage::Format_Mono), QSize(8192, 8192), ""},
+               {support::pngWithPackedTexts(4), QSize(7, 5), ""},
+               {support::jpegWithScans(20), QSize(7, 5), ""},
+               {"no picture at all\n", QSize(), "it is not a picture (PNG, JPEG, GIF or BMP)"},
+               {encoded(QSize(9, 9), "PPM"), QSize(), "it is not a picture (PNG, JPEG, GIF or BMP)"},
+               {"<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>", QSize(),
+                "it is not a picture (PNG, JPEG, GIF or BMP)"},
+               {support::pngWithPackedTexts(9), QSize(), "it holds too much besides its pixels"},
+               {support::jpegWithScans(201), QSize(), "it holds too much besides its pixels"},
+               {support::gifOnCanvas(100, 90), QSize(100, 90), ""},
+               {support::gifOnCanvas(20000, 90), QSize(), "it holds too much besides its pixels"},
                {hugePng(), QSize(), "it is too large (20000 x 20000 pixels)"}};
   for (const auto& one : cases) {
     QByteArray bytes = QByteArray::fromStdString(one.bytes);

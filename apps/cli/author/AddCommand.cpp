@@ -8,8 +8,9 @@
 #include "apps/cli/author/NeededFiles.h"
 #include "apps/cli/author/NewEntry.h"
 #include "apps/support/ExitStatus.h"
-#include "check/PrintableText.h"
+#include "apps/support/OutsideFiles.h"
 #include "host/files/Paths.h"
+#include "host/files/PrintableText.h"
 #include "model/RepositoryFormat.h"
 
 namespace cli {
@@ -22,17 +23,17 @@ using namespace ZORVEL::RepositoryFormat;
 namespace {
 
 int complain(const std::string& text, ExitStatus status) {
-  std::cerr << "zorvel add: " << check::printable(text) << '\n';
+  host::printLine(std::cerr, "zorvel add: " + text);
   return status;
 }
 
 /// What the description says may not steer the terminal.
-std::string shown(const std::wstring& text) { return check::printable(host::toUtf8(text)); }
+std::string shown(const std::wstring& text) { return host::printable(host::toUtf8(text)); }
 
 std::string attribute(const Element& element, const wchar_t* name) { return shown(element.text(name)); }
 
 void printEntry(const AddOptions& options, const NewEntry& entry) {
-  std::cout << "Added the " << options.kind << " \"" << check::printable(options.id) << '"';
+  std::cout << "Added the " << options.kind << " \"" << host::printable(options.id) << '"';
   const std::string name = attribute(entry.element, FIELD_NAME);
   if (!name.empty()) std::cout << " (" << name << ')';
   if (!entry.clothing.empty()) std::cout << " to the clothing \"" << shown(entry.clothing) << "\" of";
@@ -56,11 +57,11 @@ void printEntry(const AddOptions& options, const NewEntry& entry) {
 
 void printFiles(const fs::path& repository, const std::wstring& root, const std::vector<NeededFile>& files) {
   if (files.empty()) return;
-  std::cout << "Still to be put into " << repository.string() << ":\n";
+  host::printLine(std::cout, "Still to be put into " + repository.string() + ':');
   std::vector<std::string> names;
   for (const NeededFile& file : files) {
     const fs::path path = host::nativePath(file.path).lexically_relative(host::nativePath(root));
-    names.push_back(check::printable(path.string()));
+    names.push_back(host::printable(path.string()));
   }
   std::size_t width = 0;
   for (const std::string& name : names) width = std::max(width, name.size());
@@ -77,10 +78,11 @@ int runAdd(const AddOptions& options) {
   const NewEntry entry = planEntry(description.root(), options);
   if (!entry.refusal.empty()) return complain(entry.refusal, entry.status);
   const std::string error = description.add(entry.additions);
-  if (!error.empty()) return complain(error, EXIT_FINDINGS);
+  if (!error.empty()) return complain(error, EXIT_INTERNAL);
   printEntry(options, entry);
   const std::wstring root = host::toWide(fs::absolute(options.repository).lexically_normal().string());
   printFiles(options.repository, root, neededFiles(root, withAdditions(description.root(), entry.additions), entry));
+  for (const std::string& note : notesOnOutsideFiles(options.repository)) host::printLine(std::cerr, note);
   return EXIT_CLEAN;
 }
 

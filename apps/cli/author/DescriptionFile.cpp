@@ -11,6 +11,7 @@
 #include "host/files/WholeFile.h"
 #include "model/RepositoryFormat.h"
 #include "model/RepositoryPaths.h"
+#include "repository/DescriptionLimits.h"
 #include "repository/ParseNotes.h"
 #include "repository/XmlDocument.h"
 
@@ -34,9 +35,8 @@ class Complaint : public ZORVEL::ParseObserver {
 
 /// What is edited is held several times over, to be compared.
 ZORVEL::XmlOptions bounds() {
-  ZORVEL::XmlOptions options = ZORVEL::XmlOptions::Bounded();
-  options.mostElements = 150'000;
-  options.mostMemory = std::size_t{64} << 20U;
+  ZORVEL::XmlOptions options = ZORVEL::DescriptionLimits::Get();
+  options.budgetFor = [](std::size_t) { return std::size_t{100} << 20U; };
   return options;
 }
 

@@ -8,7 +8,7 @@
 #include "apps/cli/author/MachineChecks.h"
 #include "apps/cli/author/ReadingChecks.h"
 #include "apps/support/ExitStatus.h"
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 namespace cli {
 
@@ -31,7 +31,7 @@ Checks examine(const std::filesystem::path& repository) {
 void printText(const Checks& checks) {
   for (const Check& check : checks) {
     std::cout << std::left << std::setw(9) << (check.isGood() ? "ok" : "problem") << std::setw(19) << check.name
-              << check::printable(check.text) << '\n';
+              << host::printable(check.text) << '\n';
     if (!check.isGood())
       std::cout << std::setw(9) << ""
                 << "remedy: " << check.remedy << '\n';

@@ -20,7 +20,7 @@ Element elementOf(const ZORVEL::XmlElement& source) {
   Element element;
   element.name = source.name;
   for (int i = 0; i < source.attributeCount; ++i) {
-    element.attributes.emplace_back(source.attributes[i].name.GetText(), source.attributes[i].text);
+    element.attributes.emplace_back(source.attributes[i].name.GetText(), source.attributes[i].GetText());
   }
   for (const auto* child = source.firstChild; child != nullptr; child = child->nextSibling) {
     element.children.push_back(elementOf(*child));

@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "apps/support/ExitStatus.h"
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 #include "host/files/TemporaryFolder.h"
+#include "host/files/Uninterrupted.h"
 #include "samples/repository/StarterRepository.h"
 
 namespace cli {
@@ -17,12 +18,13 @@ namespace fs = std::filesystem;
 namespace {
 
 int complain(const std::string& text, ExitStatus status) {
-  std::cerr << "zorvel init: " << check::printable(text) << '\n';
+  host::printLine(std::cerr, "zorvel init: " + text);
   return status;
 }
 
 /// Why nothing can be written there; empty when it can.
 std::string whyRefused(const fs::path& folder) {
+  if (folder.empty()) return "DIR needs a name.";
   std::error_code error;
   const fs::file_status status = fs::status(folder, error);
   if (!fs::exists(status)) return {};
@@ -74,19 +76,27 @@ std::string copyInto(const fs::path& from, const fs::path& to, Made& made) {
   return {};
 }
 
+/// All of it or nothing.
+std::string putInto(const fs::path& from, const fs::path& folder) {
+  const host::Uninterrupted whole;
+  Made made;
+  std::string error = makeFolder(folder, made);
+  if (error.empty()) error = copyInto(from, folder, made);
+  if (error.empty()) made.keep();
+  return error;
+}
+
 }  // namespace
 
 int runInit(const fs::path& folder) {
   if (const std::string refusal = whyRefused(folder); !refusal.empty()) return complain(refusal, EXIT_USAGE);
   const host::TemporaryFolder ready;
   if (ready.path().empty()) return complain("No temporary folder can be made.", EXIT_INTERNAL);
-  Made made;
   std::string error = samples::writeStarterRepository(ready.path());
-  if (error.empty()) error = makeFolder(folder, made);
-  if (error.empty()) error = copyInto(ready.path(), folder, made);
+  if (error.empty()) error = putInto(ready.path(), folder);
   if (!error.empty()) return complain(error, EXIT_INTERNAL);
-  made.keep();
-  std::cout << "Wrote " << folder.string() << "\nzorvel.xml says what is in it and where the rest belongs.\n";
+  host::printLine(std::cout, "Wrote " + folder.string());
+  host::printLine(std::cout, "zorvel.xml says what is in it and where the rest belongs.");
   return EXIT_CLEAN;
 }
 

@@ -1,5 +1,6 @@
 #include "apps/stage/document/PictureSaver.h"
 
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -47,14 +48,19 @@ bool PictureSaver::start(const host::Camera& camera, const QSize& size, const st
   host::RenderOptions options = optionsFor(size);
   options.cancel = &cancel_;
   options.progress = [this](float share) { emit progress(static_cast<int>(share * 100.0F)); };
-  thread_ = std::thread([this, items = itemsNow(), camera, options, file]() mutable {
-    const std::string error = draw(std::move(items), camera, options, file);
+  const auto work = [this, items = itemsNow(), camera, options, file] {
+    const std::string error = draw(items, camera, options, file);
     const auto tell = [this, error, name = QString::fromStdString(file.string())] {
       busy_ = false;
       emit finished(name, QString::fromStdString(error));
     };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
-  });
+  };
+  try {
+    thread_ = std::thread(work);
+  } catch (const std::system_error&) {
+    work();
+  }
   return true;
 }
 

@@ -12,6 +12,7 @@
 namespace stage {
 
 /// Draws the scene as it is now with sun and sky and writes it as PNG, in a thread of its own; one picture at a time.
+/// Where the machine allows no thread it is drawn at once.
 class PictureSaver : public QObject {
   Q_OBJECT
 

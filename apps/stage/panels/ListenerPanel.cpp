@@ -2,6 +2,8 @@
 
 #include <QVBoxLayout>
 
+#include "apps/stage/ShownText.h"
+
 namespace stage {
 
 namespace {
@@ -37,8 +39,8 @@ void ListenerPanel::report(const QStringList& lines) {
 }
 
 void ListenerPanel::append(const QString& line, const QColor& color) {
-  lines_->appendHtml(
-      QString("<span style=\"white-space:pre-wrap;color:%1\">%2</span>").arg(color.name(), line.toHtmlEscaped()));
+  lines_->appendHtml(QString("<span style=\"white-space:pre-wrap;color:%1\">%2</span>")
+                         .arg(color.name(), shownText(line).toHtmlEscaped()));
 }
 
 }  // namespace stage

@@ -2,6 +2,8 @@
 
 #include <QAction>
 
+#include "apps/stage/ShownText.h"
+
 namespace stage {
 
 namespace {
@@ -44,7 +46,7 @@ void LogPanel::refresh() {
   if (lines.empty()) return;
   seen_ += static_cast<int>(lines.size());
   for (const ModuleLog::Line& line : lines) {
-    auto* item = new QListWidgetItem(line.text, list_);
+    auto* item = new QListWidgetItem(shownText(line.text), list_);
     item->setForeground(colorOf(line.level));
   }
   while (list_->count() > MOST_SHOWN) delete list_->takeItem(0);

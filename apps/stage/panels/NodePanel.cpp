@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QSet>
 
+#include "apps/stage/ShownText.h"
 #include "host/application/Application.h"
 #include "host/scene/Scene.h"
 
@@ -88,7 +89,7 @@ void NodePanel::rebuild() {
 
 void NodePanel::add(const host::Node& node, QTreeWidgetItem* parent) {
   auto& shown = const_cast<host::Node&>(node);
-  auto* item = new QTreeWidgetItem(parent, {QString::fromWCharArray(shown.GetName()), kindOf(shown)});
+  auto* item = new QTreeWidgetItem(parent, {shownText(QString::fromWCharArray(shown.GetName())), kindOf(shown)});
   item->setData(0, HANDLE_ROLE, static_cast<quint64>(shown.GetHandle()));
   item->setForeground(1, QColor(150, 150, 150));
   for (const auto& child : node.children()) add(*child, item);

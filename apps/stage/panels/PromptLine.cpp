@@ -1,5 +1,7 @@
 #include "apps/stage/panels/PromptLine.h"
 
+#include "apps/stage/ShownText.h"
+
 namespace stage {
 
 namespace {
@@ -28,7 +30,9 @@ PromptLine::PromptLine(QWidget* parent)
   addPermanentWidget(unit_);
 }
 
-void PromptLine::setPrompt(const QString& prompt) { prompt_->setText(prompt.isEmpty() ? tr("Ready") : prompt); }
+void PromptLine::setPrompt(const QString& prompt) {
+  prompt_->setText(prompt.isEmpty() ? tr("Ready") : shownText(prompt));
+}
 
 void PromptLine::say(const QString& message) { showMessageIn(QUIET, message); }
 
@@ -38,8 +42,8 @@ void PromptLine::showMessageIn(const QColor& color, const QString& message) {
   QPalette palette = message_->palette();
   palette.setColor(QPalette::WindowText, color);
   message_->setPalette(palette);
-  message_->setText(message);
-  message_->setToolTip(message);
+  message_->setText(shownText(message));
+  message_->setToolTip(shownToolTip(message));
 }
 
 void PromptLine::setUnit(const QString& unit) { unit_->setText(unit); }

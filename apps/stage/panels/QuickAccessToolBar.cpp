@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "apps/stage/ShownText.h"
 #include "host/actions/ActionManager.h"
 #include "host/actions/IconFolders.h"
 #include "host/actions/QuickAccessBar.h"
@@ -60,8 +61,8 @@ void QuickAccessToolBar::refresh() {
     const QString name = QString::fromWCharArray(text);
     QAction* action = addAction(iconOf(*table, button.command, name), name, this,
                                 [button] { application().actions().executeAction(button.table, button.command); });
-    action->setToolTip(
-        QString("%1 (%2)").arg(QString::fromWCharArray(description), QString::fromWCharArray(table->GetName())));
+    action->setToolTip(shownToolTip(
+        QString("%1 (%2)").arg(QString::fromWCharArray(description), QString::fromWCharArray(table->GetName()))));
     action->setEnabled(application().actions().isActive(button.table));
   }
 }

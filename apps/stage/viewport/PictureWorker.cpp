@@ -6,6 +6,8 @@
 #include <chrono>
 #include <utility>
 
+#include "host/services/Threads.h"
+
 namespace stage {
 
 namespace {
@@ -19,7 +21,7 @@ void stepBack() { setpriority(PRIO_PROCESS, 0, 10); }
 }  // namespace
 
 PictureWorker::PictureWorker(std::function<void()> wake, unsigned threads) : wake_(std::move(wake)) {
-  for (unsigned i = 0; i < std::clamp(threads, 1U, 64U); ++i) threads_.emplace_back([this] { run(); });
+  host::startThreads(threads_, std::clamp(threads, 1U, 64U), [this] { run(); });
 }
 
 PictureWorker::~PictureWorker() {
@@ -67,6 +69,13 @@ void PictureWorker::ask(const std::function<void(Change&)>& how) {
     hurry_ = true;
   }
   work_.notify_all();
+  if (threads_.empty()) workHere();
+}
+
+void PictureWorker::workHere() {
+  Lock lock(mutex_);
+  while (workOnce(lock)) {
+  }
 }
 
 std::vector<PictureWorker::Piece> PictureWorker::takeFinished() {
@@ -88,21 +97,22 @@ void PictureWorker::run() {
   stepBack();
   Lock lock(mutex_);
   while (!ending_) {
-    const bool mayChange = change_.any && !changing_ && (board_.whole() || painter_ == nullptr);
-    if (mayChange && drawing_ == 0) {
-      takeUp(lock);
-      continue;
-    }
-    std::optional<TileBoard::Task> task;
-    if (!mayChange && !changing_ && painter_ != nullptr) {
-      task = board_.next(change_.any ? TileBoard::Wanted::StaleOnly : TileBoard::Wanted::Anything);
-    }
-    if (task) {
-      draw(*task, lock);
-    } else {
-      work_.wait(lock);
-    }
+    if (!workOnce(lock)) work_.wait(lock);
   }
+}
+
+bool PictureWorker::workOnce(Lock& lock) {
+  const bool mayChange = change_.any && !changing_ && (board_.whole() || painter_ == nullptr);
+  if (mayChange && drawing_ == 0) {
+    takeUp(lock);
+    return true;
+  }
+  std::optional<TileBoard::Task> task;
+  if (!mayChange && !changing_ && painter_ != nullptr) {
+    task = board_.next(change_.any ? TileBoard::Wanted::StaleOnly : TileBoard::Wanted::Anything);
+  }
+  if (task) draw(*task, lock);
+  return task.has_value();
 }
 
 void PictureWorker::takeUp(Lock& lock) {
@@ -135,7 +145,7 @@ void PictureWorker::spoil(const Change& change) {
 
 int PictureWorker::firstLevel(int tiles) const {
   const double pixels = static_cast<double>(tiles) * TileBoard::TILE_SIZE * TileBoard::TILE_SIZE;
-  const double seconds = pixels * sampleCost_ / static_cast<double>(threads_.size());
+  const double seconds = pixels * sampleCost_ / static_cast<double>(std::max<std::size_t>(threads_.size(), 1));
   for (int level = TileBoard::SHARP; level > 0; --level) {
     const int step = TileBoard::quality(level).step;
     if (seconds / (step * step) <= SECONDS_FOR_FIRST) return level;

@@ -39,7 +39,7 @@ class PictureWorker {
   PictureWorker(const PictureWorker&) = delete;
   PictureWorker& operator=(const PictureWorker&) = delete;
 
-  // Each returns at once.
+  // Each returns at once. Where the machine allows no thread at all, it draws first.
   void setView(const host::Camera& camera, const QSize& picture);
   void setItems(std::vector<host::ViewItem> items);
   /// Redraws the region first, in pixels of the picture.
@@ -67,6 +67,10 @@ class PictureWorker {
 
   void ask(const std::function<void(Change&)>& how);
   void run();
+  /// Until nothing is left to be done.
+  void workHere();
+  /// False when there is nothing to do.
+  bool workOnce(Lock& lock);
   void takeUp(Lock& lock);
   void spoil(const Change& change);
   int firstLevel(int tiles) const;

@@ -2,10 +2,12 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <ctime>
 #include <string>
 
+#include "host/files/DiskTroubles.h"
 #include "host/files/Paths.h"
 #include "host/files/RegularFile.h"
 
@@ -21,9 +23,15 @@ std::string openMode(const wchar_t* mode) {
   return narrow;
 }
 
+bool look(const std::filesystem::path& path, struct stat& status) {
+  if (::stat(path.c_str(), &status) == 0) return true;
+  host::DiskTroubles::instance().note(path.string(), errno);
+  return false;
+}
+
 /// As written first, which nearly always answers at once.
 bool findStatus(const wchar_t* path, struct stat& status) {
-  return ::stat(host::nativePath(path).c_str(), &status) == 0 || ::stat(host::resolvePath(path).c_str(), &status) == 0;
+  return look(host::nativePath(path), status) || look(host::resolvePath(path), status);
 }
 
 DWORD attributesOf(const struct stat& status) {
@@ -35,6 +43,12 @@ FILETIME fileTime(const std::timespec& time) {
   // Nothing older can be said.
   const auto shown = static_cast<std::uint64_t>(std::max<std::int64_t>(steps, 0));
   return {static_cast<DWORD>(shown), static_cast<DWORD>(shown >> 32U)};
+}
+
+/// Linux also opens folders for reading, and waits for the other end of a pipe; Windows has neither.
+bool isSpecial(const std::filesystem::path& file) {
+  struct stat status {};
+  return ::stat(file.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
 }
 
 }  // namespace
@@ -63,10 +77,8 @@ std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode) {
   const std::string narrow = openMode(mode);
   if (!path || narrow.empty()) return nullptr;
   const std::filesystem::path file = host::resolvePath(path);
-  if (narrow.front() != 'r') return std::fopen(file.c_str(), (narrow + 'e').c_str());
-  // Linux also opens folders for reading, and waits for the other end of a pipe; Windows has neither.
+  if (isSpecial(file)) return nullptr;
+  if (narrow != "rb" && narrow != "r") return std::fopen(file.c_str(), (narrow + 'e').c_str());
   host::RegularFile regular(file);
-  if (!regular.isOpen()) return nullptr;
-  if (narrow.find('+') != std::string::npos) return std::fopen(file.c_str(), (narrow + 'e').c_str());
-  return ::fdopen(regular.release(), narrow.c_str());
+  return regular.isOpen() ? ::fdopen(regular.release(), narrow.c_str()) : nullptr;
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "host/files/Paths.h"
+#include "host/files/Uninterrupted.h"
 
 namespace {
 
@@ -32,6 +33,8 @@ HRESULT WINAPI SHGetFolderPathW(HWND /*owner*/, int folder, HANDLE /*token*/, DW
   const std::wstring wide = host::toWide(found.string());
   if (wide.empty() || wide.size() >= MAX_PATH) return E_FAIL;
   std::error_code error;
+  // It may be a temporary folder.
+  const host::Uninterrupted whole;
   std::filesystem::create_directories(found, error);
   if (!std::filesystem::is_directory(found, error)) return E_FAIL;
   std::copy_n(wide.c_str(), wide.size() + 1, path);

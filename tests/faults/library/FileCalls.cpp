@@ -31,8 +31,14 @@ Result failing(faults::Kind kind, Result result) {
 
 bool isForWriting(int flags) { return (flags & O_ACCMODE) != O_RDONLY || (flags & (O_CREAT | O_TRUNC)) != 0; }
 
-void watchOpened(const char* path, bool writes) {
-  if (faults::isWatching() && faults::counts()) faults::watch(writes ? 'W' : 'R', path);
+void watchOpened(const char* path, char what) {
+  if (faults::isWatching() && faults::counts()) faults::watch(what, path);
+}
+
+/// Read, written or, as folders are, listed.
+char waysOf(int flags) {
+  if ((flags & O_DIRECTORY) == O_DIRECTORY) return 'I';
+  return isForWriting(flags) ? 'W' : 'R';
 }
 
 /// A full disk or a folder that is read only refuses those who write; a share that drops refuses all.
@@ -50,7 +56,7 @@ int openCounted(int folder, const char* path, int flags, Open open) {
   if (!mayOpen(whole, isForWriting(flags))) return failing(faults::OPEN, -1);
   const int descriptor = open();
   faults::noteOpened(descriptor, whole);
-  if (descriptor >= 0) watchOpened(whole, isForWriting(flags));
+  if (descriptor >= 0) watchOpened(whole, waysOf(flags));
   return descriptor;
 }
 
@@ -63,7 +69,7 @@ std::FILE* openStream(const char* path, const char* mode, Open open) {
   std::FILE* stream = open();
   if (stream != nullptr) {
     faults::noteOpened(::fileno(stream), whole);
-    watchOpened(whole, writes);
+    watchOpened(whole, writes ? 'W' : 'R');
   }
   return stream;
 }
@@ -289,7 +295,7 @@ STANDS_IN(DIR*, opendir, const char* path) {
   DIR* folder = (*real_opendir)(path);
   if (folder != nullptr) {
     faults::noteOpened(::dirfd(folder), whole);
-    watchOpened(whole, false);
+    watchOpened(whole, 'I');
   }
   return folder;
 }
@@ -303,10 +309,12 @@ STANDS_IN(dirent64*, readdir64, DIR* folder) {
 }
 
 STANDS_IN(void*, mmap, void* wanted, std::size_t size, int protection, int flags, int descriptor, off_t offset) {
-  if (faults::decide(faults::MAP, nullptr) != Fate::Normal) return failing(faults::MAP, MAP_FAILED);
+  if (faults::isOwn(__builtin_return_address(0)) && faults::decide(faults::MAP, nullptr) != Fate::Normal)
+    return failing(faults::MAP, MAP_FAILED);
   return (*real_mmap)(wanted, size, protection, flags, descriptor, offset);
 }
 STANDS_IN(void*, mmap64, void* wanted, std::size_t size, int protection, int flags, int descriptor, off64_t offset) {
-  if (faults::decide(faults::MAP, nullptr) != Fate::Normal) return failing(faults::MAP, MAP_FAILED);
+  if (faults::isOwn(__builtin_return_address(0)) && faults::decide(faults::MAP, nullptr) != Fate::Normal)
+    return failing(faults::MAP, MAP_FAILED);
   return (*real_mmap64)(wanted, size, protection, flags, descriptor, offset);
 }

@@ -1,5 +1,6 @@
 #include "tests/faults/library/Plan.h"
 
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/syscall.h>
@@ -136,7 +137,7 @@ Fate strike() {
 
 Fate decideCounted(Kind kind) {
   add(plan.tally->ofKind[indexOf(kind)]);
-  if (isDropped && kind != WRITE) return Fate::Fails;
+  if (isDropped && (kind & (OPEN | READ | STATUS | LIST)) != 0) return Fate::Fails;
   if ((plan.kinds & kind) == 0) return Fate::Normal;
   add(plan.tally->calls);
   const unsigned long number = ++position;
@@ -169,6 +170,14 @@ Fate decideOn(Kind kind, int descriptor) {
 int errorOf(Kind kind) {
   if (kind == MEMORY || kind == MAP) return ENOMEM;
   return kind == THREAD ? EAGAIN : plan.error;
+}
+
+bool isOwn(const void* caller) {
+  Dl_info found;
+  if (::dladdr(caller, &found) == 0 || found.dli_fname == nullptr) return true;
+  if (std::strstr(found.dli_fname, "/libtbb") == nullptr) return true;
+  if (begun) add(plan.tally->ofOthers);
+  return false;
 }
 
 void noteOpened(int descriptor, const char* path) {

@@ -27,6 +27,8 @@ struct Tally {
   unsigned long calls;
   unsigned long failed;
   unsigned long ofKind[KIND_COUNT];
+  /// Calls that are told apart, see isOwn.
+  unsigned long ofOthers;
 };
 
 /// Whether calls count: since main has begun, and not in the library itself.
@@ -39,6 +41,10 @@ Fate decide(Kind kind, const char* path);
 Fate decideOn(Kind kind, int descriptor);
 /// The error number for errno of a call that fails.
 int errorOf(Kind kind);
+
+/// Whether a caller is not the library that runs the ray caster's tasks (TBB). That one waits for ever when it is
+/// refused a thread, or memory in one; its calls are only counted.
+bool isOwn(const void* caller);
 
 /// Remembers whether calls on the descriptor count.
 void noteOpened(int descriptor, const char* path);

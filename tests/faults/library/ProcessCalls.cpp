@@ -37,7 +37,9 @@ STANDS_IN(int, __libc_start_main, Main* main, int count, char** arguments, void 
 }
 
 STANDS_IN(int, pthread_create, pthread_t* thread, const pthread_attr_t* attributes, void* (*run)(void*), void* data) {
-  if (faults::decide(faults::THREAD, nullptr) != faults::Fate::Normal) return EAGAIN;
+  if (faults::isOwn(__builtin_return_address(0)) && faults::decide(faults::THREAD, nullptr) != faults::Fate::Normal) {
+    return EAGAIN;
+  }
   return (*real_pthread_create)(thread, attributes, run, data);
 }
 

@@ -70,7 +70,10 @@ TEST(WindowsCalls, FilesAreOpenedWithoutRegardToCaseAndNothingElseIs) {
   EXPECT_EQ(folder.read("Sub/File.txt"), "new");
   EXPECT_EQ(_wfopen((root + L"\\sub").c_str(), L"rb"), nullptr);
   ASSERT_EQ(::mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
-  EXPECT_EQ(_wfopen((root + L"\\pipe").c_str(), L"rb"), nullptr) << "which would wait for its other end";
+  for (const wchar_t* mode : {L"rb", L"r+", L"wb", L"a"}) {
+    EXPECT_EQ(_wfopen((root + L"\\pipe").c_str(), mode), nullptr) << "which would wait for its other end";
+    EXPECT_EQ(_wfopen(L"/dev/zero", mode), nullptr);
+  }
   EXPECT_EQ(_wfopen((root + L"\\missing\\x").c_str(), L"wb"), nullptr);
   EXPECT_EQ(_wfopen(nullptr, L"r"), nullptr);
   EXPECT_EQ(_wfopen(root.c_str(), nullptr), nullptr);

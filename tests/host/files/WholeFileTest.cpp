@@ -29,26 +29,61 @@ TEST(WholeFile, ReplacesAFileAndKeepsItsPermissionsAndLinks) {
   EXPECT_EQ(entryCount(folder.path()), 2);
 }
 
-TEST(WholeFile, WritesIntoAPipeAndLeavesItThere) {
+TEST(WholeFile, WritesWhereALinkLeadsThoughNothingIsThereYet) {
+  const support::TemporaryFolder folder;
+  folder.write("results/old", "");
+  fs::create_symlink("results/../results/new", folder.path() / "second");
+  fs::create_symlink("second", folder.path() / "first");
+  fs::create_symlink("missing/new", folder.path() / "lost");
+  fs::create_symlink("round", folder.path() / "round");
+  EXPECT_EQ(writeWholeFile(folder.path() / "first", "text"), "");
+  EXPECT_EQ(folder.read("results/new"), "text");
+  EXPECT_NE(writeWholeFile(folder.path() / "lost", "text").find("its folder is not there"), std::string::npos);
+  EXPECT_NE(writeWholeFile(folder.path() / "round", "text"), "");
+  for (const char* link : {"first", "second", "lost", "round"}) {
+    EXPECT_TRUE(fs::is_symlink(folder.path() / link)) << link;
+  }
+}
+
+TEST(WholeFile, WritesIntoWhatIsNoFileAndLeavesItThere) {
   const support::TemporaryFolder folder;
   const fs::path pipe = folder.path() / "pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_NE(writeWholeFile(pipe, "text").find("nobody reads from it"), std::string::npos);
   const int end = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
   EXPECT_EQ(writeWholeFile(pipe, "text"), "");
   char text[8] = {};
   EXPECT_EQ(::read(end, text, sizeof text), 4);
   ::close(end);
   EXPECT_TRUE(fs::is_fifo(pipe));
+  fs::create_symlink("/dev/null", folder.path() / "null");
+  fs::create_symlink("/dev/full", folder.path() / "full");
+  EXPECT_EQ(writeWholeFile(folder.path() / "null", "text"), "");
+  EXPECT_NE(writeWholeFile(folder.path() / "full", "text"), "");
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+  EXPECT_EQ(entryCount(folder.path()), 3);
+}
+
+TEST(WholeFile, NeedsNoLongerNameThanTheFileHas) {
+  const support::TemporaryFolder folder;
+  const std::string longest(255, 'n');
+  EXPECT_EQ(writeWholeFile(folder.path() / longest, "new"), "");
+  EXPECT_EQ(writeWholeFile(folder.path() / longest, "again"), "");
+  EXPECT_EQ(folder.read(longest), "again");
   EXPECT_EQ(entryCount(folder.path()), 1);
 }
 
-TEST(WholeFile, LeavesNothingBehindWhenItFails) {
+TEST(WholeFile, LeavesEverythingAsItWasWhenItFails) {
   const support::TemporaryFolder folder;
   folder.write("taken/inside", "");
+  const fs::path locked = folder.write("locked", "old");
+  fs::permissions(locked, fs::perms::owner_read);
   EXPECT_NE(writeWholeFile(folder.path() / "taken", "x").find("taken"), std::string::npos);
+  EXPECT_NE(writeWholeFile(locked, "x"), "");
   EXPECT_NE(writeWholeFile(folder.path() / "missing" / "file", "x"), "");
   EXPECT_NE(writeWholeFile(folder.path() / std::string(300, 'n'), "x"), "");
-  EXPECT_EQ(entryCount(folder.path()), 1);
+  EXPECT_EQ(entryCount(folder.path()), 2);
+  EXPECT_EQ(folder.read("locked"), "old");
   EXPECT_TRUE(fs::exists(folder.path() / "taken" / "inside"));
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <imtl.h>
+#include <sys/resource.h>
 
 #include <QImage>
 #include <cstring>
@@ -10,11 +11,15 @@
 
 #include "host/application/Application.h"
 #include "host/files/PictureFile.h"
+#include "host/formats/GltfMaterials.h"
 #include "host/formats/MaterialLibraryFile.h"
 #include "host/meshes/MeshFile.h"
 #include "host/scene/Geometry.h"
 #include "host/scene/Scene.h"
+#include "host/services/Listener.h"
+#include "host/view/Surfaces.h"
 #include "tests/host/meshes/Shapes.h"
+#include "tests/support/SmallRepository.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -167,6 +172,44 @@ TEST_F(GltfWriter, WritesNoNumberThatIsNoneAndNoMeshThatIsNowhere) {
   const json document = write();
   for (const char* name : {"lost", "child"}) EXPECT_FALSE(node(document, name).contains("mesh")) << name;
   EXPECT_TRUE(node(document, "far").contains("mesh"));
+}
+
+/// As long as it lives, files can be looked at and not opened.
+class NoMoreFiles {
+ public:
+  NoMoreFiles() {
+    ::getrlimit(RLIMIT_NOFILE, &before_);
+    const rlimit none{0, before_.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &none);
+  }
+  ~NoMoreFiles() { ::setrlimit(RLIMIT_NOFILE, &before_); }
+  NoMoreFiles(const NoMoreFiles&) = delete;
+  NoMoreFiles& operator=(const NoMoreFiles&) = delete;
+
+ private:
+  rlimit before_{};
+};
+
+TEST_F(GltfWriter, NamesATextureThatCannotBeReadAgainAndStoresWhatIsDrawnOfIt) {
+  QImage picture(4, 4, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  const std::string name = (folder_.path() / "skin.png").u8string();
+  ASSERT_EQ(host::writePicture(picture, name), "");
+  folder_.write("some.mat", support::materialLibrary(support::texturedMaterial("Skin", name)));
+  const auto library = host::readMaterialLibrary(folder_.wide() + L"\\some.mat");
+  ASSERT_EQ(library.error, "");
+  Mtl* material = library.materials.front().get();
+  const std::vector<host::Surface> drawn = host::surfacesOf(material);
+  Application::instance().listener().clear();
+  tinygltf::Model model;
+  {
+    const NoMoreFiles full;
+    host::GltfMaterials(model).indexOf(material, 0);
+  }
+  ASSERT_EQ(Application::instance().listener().lines().size(), 1U);
+  EXPECT_NE(Application::instance().listener().lines().front().find("cannot be read a second time"), std::string::npos);
+  ASSERT_EQ(model.images.size(), 1U);
+  EXPECT_EQ(model.images.front().mimeType, "image/png");
 }
 
 TEST_F(GltfWriter, LeavesTheEarlierFileWhenItCannotWrite) {

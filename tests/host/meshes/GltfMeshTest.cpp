@@ -217,6 +217,24 @@ TEST(GltfMesh, RefusesWhatIsBrokenWithOneLine) {
   }
 }
 
+TEST(GltfMesh, MayBeShownManyTimesButNotOutOfAllProportionToItsFile) {
+  Strip strip;
+  strip.indices.assign(3000, 0);
+  strip.document["accessors"][1]["count"] = 3000;
+  strip.document["bufferViews"][1]["byteLength"] = 6000;
+  const auto show = [&strip](int times) {
+    strip.document["nodes"] = json::array();
+    strip.document["scenes"][0]["nodes"] = json::array();
+    for (int i = 0; i < times; ++i) {
+      strip.document["nodes"].push_back({{"mesh", 0}});
+      strip.document["scenes"][0]["nodes"].push_back(i);
+    }
+    return strip.read();
+  };
+  EXPECT_EQ(show(20).error, "");
+  EXPECT_EQ(show(200).error, "the glTF file shows its meshes too often");
+}
+
 TEST(GltfMesh, RefusesIndicesOutOfRangeAndPositionsThatAreNoNumbers) {
   Strip strip;
   strip.indices[3] = 4;

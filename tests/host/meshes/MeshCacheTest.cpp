@@ -1,6 +1,7 @@
 #include "host/meshes/MeshCache.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "host/meshes/MeshFileWriter.h"
 #include "tests/host/meshes/Shapes.h"
@@ -44,6 +45,29 @@ TEST(MeshCache, SaysWhyAFileCannotBeReadUntilItIsMended) {
   EXPECT_NE(cache.get(file).error.find("not a mesh"), std::string::npos);
   folder.write("one.vrmesh", TRIANGLE);
   EXPECT_TRUE(cache.get(file).mesh);
+}
+
+TEST(MeshCache, TakesNoMoreThanThereIsRoomForAndTriesAgain) {
+  const support::TemporaryFolder folder;
+  const auto file = folder.write("one.vrmesh", TRIANGLE);
+  host::Room& room = host::roomForMeshes();
+  const std::size_t before = room.left();
+  host::Room::Share all = room.take(before);
+  EXPECT_NE(host::sharedMeshes().get(file).error.find("no room"), std::string::npos);
+  all.reset();
+  auto mesh = host::sharedMeshes().get(file).mesh;
+  ASSERT_TRUE(mesh);
+  EXPECT_LT(room.left(), before);
+  mesh.reset();
+  EXPECT_EQ(room.left(), before);
+}
+
+TEST(MeshCache, ReadsRegularFilesOnly) {
+  const support::TemporaryFolder folder;
+  ASSERT_EQ(::mkfifo((folder.path() / "pipe.vrmesh").c_str(), 0600), 0);
+  EXPECT_EQ(host::readMeshFile(folder.path() / "pipe.vrmesh").error, "it is no file");
+  EXPECT_EQ(host::readMeshFile(folder.path()).error, "it is no file");
+  EXPECT_EQ(host::readMeshFile("/dev/zero").error, "it is no file");
 }
 
 }  // namespace

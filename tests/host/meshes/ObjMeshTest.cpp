@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cmath>
+#include <ctime>
 #include <locale>
 
 #include "host/meshes/MeshFile.h"
@@ -19,6 +21,16 @@ float area(const Mesh& mesh) {
     sum += ((mesh.positions[b] - mesh.positions[a]) ^ (mesh.positions[c] - mesh.positions[a])).z / 2.0F;
   }
   return sum;
+}
+
+int turnedOver(const Mesh& mesh) {
+  int count = 0;
+  for (const auto& corners : mesh.triangles) {
+    Mesh one = mesh;
+    one.triangles = {corners};
+    if (area(one) < 0.0F) ++count;
+  }
+  return count;
 }
 
 TEST(ObjMesh, ReadsPositionsTexCoordsAndNormalsAsWritten) {
@@ -55,12 +67,51 @@ TEST(ObjMesh, CutsAConcavePolygonWithoutLeavingIt) {
   const MeshResult reading = readMesh("v 2 0 0\nv 2 1 0\nv 1 1 0\nv 1 2 0\nv 0 2 0\nv 0 0 0\nf 1 2 3 4 5 6\n");
   ASSERT_TRUE(reading.mesh);
   EXPECT_EQ(reading.mesh->triangles.size(), 4U);
-  for (const auto& corners : reading.mesh->triangles) {
-    Mesh one = *reading.mesh;
-    one.triangles = {corners};
-    EXPECT_GE(area(one), 0.0F);
-  }
+  EXPECT_EQ(turnedOver(*reading.mesh), 0);
   EXPECT_FLOAT_EQ(area(*reading.mesh), 3.0F);
+}
+
+std::string repeated(const std::string& text, int count) {
+  std::string all;
+  for (int i = 0; i < count; ++i) all += text;
+  return all;
+}
+
+TEST(ObjMesh, CutsAPolygonOfManyCorners) {
+  constexpr int teeth = 300;
+  std::string text;
+  std::string face = "f";
+  for (int i = 0; i < 2 * teeth; ++i) {
+    const double angle = i * 3.14159265358979 / teeth;
+    const double radius = i % 2 == 0 ? 10.0 : 8.0;
+    text += "v " + std::to_string(radius * std::cos(angle)) + " " + std::to_string(radius * std::sin(angle)) + " 0\n";
+    face += " " + std::to_string(i + 1);
+  }
+  const MeshResult reading = readMesh(text + face + "\n");
+  ASSERT_TRUE(reading.mesh) << reading.error;
+  EXPECT_EQ(reading.mesh->triangles.size(), 2U * teeth - 2);
+  EXPECT_EQ(turnedOver(*reading.mesh), 0) << "a fan would lie over the gaps between the teeth";
+}
+
+TEST(ObjMesh, TakesNoLongTimeForFacesThatNobodyMeans) {
+  const std::string vertices = "v 0 0 0\nv 1 0 0\nv 0 1 0\n";
+  const struct {
+    std::string faces;
+    const char* error;
+  } cases[] = {{"f" + repeated(" 1 2 3", 300'000) + "\n", ""},
+               {repeated("f" + repeated(" 1 2 3", 170) + "\n", 2'000), ""},
+               {repeated("f" + repeated(" 1 2 3", 10) + "\n", 30'000), ""},
+               {"f" + repeated(" 1", 2'600'000) + "\n", "too large"},
+               {repeated("v 0 0 0\n", 2'500'000), "too large"},
+               {repeated("vt 0\n", 2'500'001), "too large"},
+               {repeated("vn 0 0 0\n", 2'500'001), "too large"}};
+  for (const auto& one : cases) {
+    const auto begin = std::clock();
+    const MeshResult reading = readMesh(vertices + one.faces);
+    EXPECT_EQ(reading.mesh != nullptr, std::string(one.error).empty()) << one.faces.substr(0, 20) << reading.error;
+    EXPECT_NE(reading.error.find(one.error), std::string::npos) << reading.error;
+    EXPECT_LT(static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC, 20.0) << one.faces.substr(0, 20);
+  }
 }
 
 TEST(ObjMesh, NumbersMaterialsInTheOrderInWhichTheyAppear) {

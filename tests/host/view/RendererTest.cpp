@@ -7,7 +7,6 @@
 
 #include "host/view/Texture.h"
 #include "tests/host/meshes/Shapes.h"
-#include "tests/support/TemporaryFolder.h"
 
 using host::Camera;
 using host::RayScene;
@@ -190,27 +189,15 @@ TEST(Camera, SendsRaysThroughThePixelThatAPlaceIsSeenIn) {
   EXPECT_FALSE(camera.project(camera.eye() - camera.forward(), 320, 200));
 }
 
-TEST(Texture, RefusesHugePicturesUndecodedAndWhatIsNone) {
-  const support::TemporaryFolder folder;
-  const auto huge = host::Texture::read(folder.write("huge.ppm", "P6 9000 8000 255\n"));
-  EXPECT_FALSE(huge.texture);
-  EXPECT_NE(huge.error.find("64 megapixels"), std::string::npos);
-  EXPECT_FALSE(host::Texture::read(folder.write("text.png", "no picture")).error.empty());
-  EXPECT_FALSE(host::Texture::read(folder.path() / "missing.png").error.empty());
-}
-
-TEST(Texture, MixesNeighboursInLinearLightAndRepeats) {
-  QImage pair(2, 1, QImage::Format_RGB32);
-  pair.setPixel(0, 0, qRgb(0, 0, 0));
-  pair.setPixel(1, 0, qRgb(255, 255, 255));
-  const host::Texture texture(pair);
-  EXPECT_NEAR(texture.at({0.25F, 0.5F}).r, 0.0F, 1e-5F);
-  EXPECT_NEAR(texture.at({0.75F, 0.5F}).g, 1.0F, 1e-5F);
-  EXPECT_NEAR(texture.at({0.5F, 0.5F}).b, 0.5F, 1e-5F);
-  EXPECT_NEAR(texture.at({-1.25F, 7.5F}).r, 1.0F, 1e-5F);
-  EXPECT_NEAR(texture.at({1.0F, 0.0F}).r, 0.5F, 1e-5F);
-  const float nothing = std::nanf("");
-  EXPECT_TRUE(std::isfinite(texture.at({nothing, 1e30F}).r));
+TEST(Renderer, GivesUpAPictureThatTakesTooLong) {
+  RayScene scene;
+  scene.setItems({item(std::make_shared<const host::Mesh>(shapes::square()))});
+  const Camera camera({0, -10, 5}, {0, 0, 0});
+  RenderOptions options = small();
+  EXPECT_FALSE(render(scene, camera, options).isNull());
+  options.mostSeconds = 0;
+  options.samples = 256;
+  EXPECT_TRUE(render(scene, camera, options).isNull());
 }
 
 }  // namespace

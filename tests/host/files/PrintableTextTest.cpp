@@ -1,10 +1,10 @@
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using check::printable;
+using host::printable;
 
 TEST(PrintableText, ShowsWhatWouldSteerATerminalOrAReaderAndLeavesTheRest) {
   const struct {

@@ -1,11 +1,12 @@
-#include "check/PrintableText.h"
+#include "host/files/PrintableText.h"
 
 #include <cstdint>
 #include <cstdio>
+#include <ostream>
 
 #include "host/files/Paths.h"
 
-namespace check {
+namespace host {
 
 namespace {
 
@@ -28,7 +29,7 @@ std::string shown(wchar_t wide) {
   if (isByte(c)) return escaped("\\x%02x", c - BYTES);
   if (isControl(c)) return escaped(c < 0x80 ? "\\x%02x" : "\\u%04x", c);
   if (isSeparator(c) || turnsWriting(c)) return escaped("\\u%04x", c);
-  return host::toUtf8(std::wstring_view(&wide, 1));
+  return toUtf8(std::wstring_view(&wide, 1));
 }
 
 }  // namespace
@@ -36,8 +37,10 @@ std::string shown(wchar_t wide) {
 std::string printable(std::string_view text) {
   std::string result;
   result.reserve(text.size());
-  for (const wchar_t c : host::toWide(text)) result += shown(c);
+  for (const wchar_t c : toWide(text)) result += shown(c);
   return result;
 }
 
-}  // namespace check
+void printLine(std::ostream& stream, std::string_view text) { stream << printable(text) << '\n'; }
+
+}  // namespace host
