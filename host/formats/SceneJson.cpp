@@ -2,6 +2,7 @@
 
 #include <ILayerProperties.h>
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <unordered_set>
@@ -22,6 +23,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+/// Below that a file would be made of blanks, gigabytes of them in the deepest.
+constexpr int DEEPEST_INDENTED = 50;
+
 Json properties(const Node& node) {
   Json json;
   for (const auto& property : node.properties()) json[toUtf8(property.first.data())] = toUtf8(property.second.data());
@@ -40,7 +44,11 @@ class Writer {
     for (const Ref<Node>& node : scene.selection()) selected_.insert(node.get());
   }
 
-  Json node(Node& node) {
+  /// How deep the nodes hang.
+  int deepest() const { return deepest_; }
+
+  Json node(Node& node, int depth = 1) {
+    deepest_ = std::max(deepest_, depth);
     Json json;
     json["name"] = toUtf8(node.GetName());
     json["handle"] = node.GetHandle();
@@ -54,11 +62,12 @@ class Writer {
     if (!node.properties().empty()) json["properties"] = properties(node);
     if (node.GetObjectRef() != nullptr) json["object"] = objects_.object(*node.GetObjectRef());
     if (node.GetMtl() != nullptr) json["material"] = materials_.material(node.GetMtl());
-    for (const Ref<Node>& child : node.children()) json["children"].push_back(this->node(*child));
+    for (const Ref<Node>& child : node.children()) json["children"].push_back(this->node(*child, depth + 1));
     return json;
   }
 
  private:
+  int deepest_ = 0;
   std::unordered_set<const Node*> selected_;
   ObjectWriter objects_;
   MaterialWriter materials_;
@@ -76,7 +85,8 @@ std::string sceneJson(Scene& scene, const Units& units) {
   json["nodes"] = Json::array();
   Writer writer(scene);
   for (const Ref<Node>& top : scene.root().children()) json["nodes"].push_back(writer.node(*top));
-  return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  const int indent = writer.deepest() > DEEPEST_INDENTED ? -1 : 2;
+  return json.dump(indent, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 std::string writeSceneJson(Scene& scene, const Units& units, const std::filesystem::path& file) {
