@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <cstring>
+#include <initializer_list>
 
 #include "tests/faults/library/Plan.h"
 
