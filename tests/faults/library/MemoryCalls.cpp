@@ -4,6 +4,7 @@
 
 #include "tests/faults/library/Plan.h"
 
+// NOLINTBEGIN(readability-identifier-naming): names of the C library
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
@@ -41,3 +42,4 @@ STANDS_IN_FOR int posix_memalign(void** memory, std::size_t alignment, std::size
   *memory = __libc_memalign(alignment, size);
   return *memory != nullptr ? 0 : ENOMEM;
 }
+// NOLINTEND(readability-identifier-naming)
