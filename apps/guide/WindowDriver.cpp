@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QtTest/QTest>
-#include <iostream>
+#include <stdexcept>
 
 #include "host/files/PictureFile.h"
 #include "host/files/PrintableText.h"
@@ -14,8 +14,8 @@ namespace guide {
 namespace {
 
 [[noreturn]] void fail(const QString& what) {
-  host::printLine(std::cerr, "zorvel-guide-pictures: " + what.toStdString());
-  std::exit(1);
+  // What is open goes away in its order.
+  throw std::runtime_error(what.toStdString());
 }
 
 template <class Widget, class Matches>

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <algorithm>
 #include <iostream>
+#include <stdexcept>
 
 #include "apps/guide/WindowDriver.h"
 #include "apps/stage/Stage.h"
@@ -60,11 +61,15 @@ int use(const std::filesystem::path& repository, const std::filesystem::path& mo
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   apps::startProgram("fault-window");
   if (argc != 4) return apps::EXIT_USAGE;
   qputenv("QT_LOGGING_RULES", "default.warning=false");
   const apps::RuntimeFolder runtimeFolder;
   QApplication application(argc, argv);
   return use(argv[1], argv[2], argv[3]);
+} catch (const std::runtime_error& error) {
+  // A page or box that is not there.
+  std::cerr << "fault-window: " << error.what() << '\n';
+  return apps::EXIT_FINDINGS;
 }
