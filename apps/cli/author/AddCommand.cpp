@@ -22,7 +22,7 @@ using namespace ZORVEL::RepositoryFormat;
 
 namespace {
 
-int complain(const std::string& text, ExitStatus status) {
+int answer(const std::string& text, ExitStatus status) {
   host::printLine(std::cerr, "zorvel add: " + text);
   return status;
 }
@@ -74,11 +74,11 @@ void printFiles(const fs::path& repository, const std::wstring& root, const std:
 
 int runAdd(const AddOptions& options) {
   const DescriptionFile description(options.repository);
-  if (!description.error().empty()) return complain(description.error(), EXIT_UNREADABLE);
+  if (!description.error().empty()) return answer(description.error(), EXIT_UNREADABLE);
   const NewEntry entry = planEntry(description.root(), options);
-  if (!entry.refusal.empty()) return complain(entry.refusal, entry.status);
+  if (!entry.refusal.empty()) return answer(entry.refusal, entry.status);
   const std::string error = description.add(entry.additions);
-  if (!error.empty()) return complain(error, EXIT_INTERNAL);
+  if (!error.empty()) return answer(error, EXIT_INTERNAL);
   printEntry(options, entry);
   const std::wstring root = host::toWide(fs::absolute(options.repository).lexically_normal().string());
   printFiles(options.repository, root, neededFiles(root, withAdditions(description.root(), entry.additions), entry));

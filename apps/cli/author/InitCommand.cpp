@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-int complain(const std::string& text, ExitStatus status) {
+int refuse(const std::string& text, ExitStatus status) {
   host::printLine(std::cerr, "zorvel init: " + text);
   return status;
 }
@@ -89,12 +89,12 @@ std::string putInto(const fs::path& from, const fs::path& folder) {
 }  // namespace
 
 int runInit(const fs::path& folder) {
-  if (const std::string refusal = whyRefused(folder); !refusal.empty()) return complain(refusal, EXIT_USAGE);
+  if (const std::string refusal = whyRefused(folder); !refusal.empty()) return refuse(refusal, EXIT_USAGE);
   const host::TemporaryFolder ready;
-  if (ready.path().empty()) return complain("No temporary folder can be made.", EXIT_INTERNAL);
+  if (ready.path().empty()) return refuse("No temporary folder can be made.", EXIT_INTERNAL);
   std::string error = samples::writeStarterRepository(ready.path());
   if (error.empty()) error = putInto(ready.path(), folder);
-  if (!error.empty()) return complain(error, EXIT_INTERNAL);
+  if (!error.empty()) return refuse(error, EXIT_INTERNAL);
   host::printLine(std::cout, "Wrote " + folder.string());
   host::printLine(std::cout, "zorvel.xml says what is in it and where the rest belongs.");
   return EXIT_CLEAN;
